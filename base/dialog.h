@@ -1,0 +1,29 @@
+// One dialog: what it does when it opens and when one of its controls says something. A dialog is
+// an object over a Form; the window system hosts every one of them with a single procedure.
+
+#ifndef VELNOR_BASE_DIALOG_H_
+#define VELNOR_BASE_DIALOG_H_
+
+#include "base/form.h"
+
+namespace velnor {
+
+// The ids of a dialog's default button and of its cancel button; Enter and Escape send them too.
+inline constexpr int kOkButton = 1;
+inline constexpr int kCancelButton = 2;
+
+class Dialog {
+ public:
+  virtual ~Dialog() = default;
+
+  // Called once, when the controls exist and nothing is shown yet.
+  virtual void OnOpen(Form& form) = 0;
+
+  // Called for every notification of a control; menu and accelerator ids arrive as
+  // kButtonClicked. Unknown ids are ignored.
+  virtual void OnCommand(Form& form, int id, int notification) = 0;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_BASE_DIALOG_H_

@@ -1,0 +1,56 @@
+// The child controls of one window, the main window or a dialog, addressed by control id. Screens
+// and dialogs speak to their controls through this and nothing else. The window system answers for
+// real; tests use a stand-in that behaves as the platform's controls do.
+
+#ifndef VELNOR_BASE_FORM_H_
+#define VELNOR_BASE_FORM_H_
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velnor {
+
+// What a control says happened to it, in the notification codes of the platform.
+inline constexpr int kButtonClicked = 0;     // also what a menu command carries
+inline constexpr int kSelectionChanged = 1;  // list boxes and combo boxes, by the user only
+inline constexpr int kEditUpdated = 0x0400;  // single-line edits, also when the program sets them
+
+// The key of the second of two controls that share `id` (the main window has two "Find" buttons).
+// Showing takes keys; everything else means the first control of that id.
+constexpr int SecondControl(int id) { return id | 0x10000; }
+
+// A control id that the window does not have is ignored: texts read from it are empty, lists have
+// no items. All text is code page 1250.
+class Form {
+ public:
+  virtual ~Form() = default;
+
+  // At most `limit` characters of the control's text.
+  virtual std::string ReadText(int id, std::size_t limit) const = 0;
+  // Replaces the text. A single-line edit announces kEditUpdated before this returns.
+  virtual void SetText(int id, std::string_view text) = 0;
+
+  // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
+  // without regard to case. None of these announces anything.
+  virtual int ItemCount(int id) const = 0;
+  virtual void AddItem(int id, std::string_view text) = 0;
+  virtual void ClearItems(int id) = 0;  // takes the selection with it
+  // The text of the selected item; nothing when no item is selected.
+  virtual std::optional<std::string> SelectedText(int id) const = 0;
+
+  // Scrolls an edit by one line.
+  virtual void ScrollLine(int id, bool down) = 0;
+
+  virtual void Show(int key) = 0;
+  // Hides every control of the window, in the order in which they were made.
+  virtual void HideAll() = 0;
+
+  // Closes the window; a dialog's object lives until its current handler has returned.
+  virtual void Close() = 0;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_BASE_FORM_H_

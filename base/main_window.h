@@ -1,0 +1,36 @@
+// What the program may ask of its main window, beyond the controls on it (those are a Form).
+
+#ifndef VELNOR_BASE_MAIN_WINDOW_H_
+#define VELNOR_BASE_MAIN_WINDOW_H_
+
+#include <memory>
+#include <string_view>
+
+#include "base/dialog.h"
+
+namespace velnor {
+
+class MainWindow {
+ public:
+  virtual ~MainWindow() = default;
+
+  // Asks for a repaint of the whole client area, background included, when the program is idle.
+  virtual void Invalidate() = 0;
+  // Repaints before returning.
+  virtual void PaintNow() = 0;
+  // Asks the window to close; nothing is asked and nothing is saved.
+  virtual void Close() = 0;
+
+  // Enables or greys a menu item. A command without an item is ignored.
+  virtual void EnableMenuItem(int command, bool enabled) = 0;
+
+  // Opens the dialog template `resource_id` and waits until it is closed.
+  virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
+
+  // Opens a help file of the start-up folder; the platform tells the user when it is missing.
+  virtual void OpenHelp(std::string_view file_name) = 0;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_BASE_MAIN_WINDOW_H_

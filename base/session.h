@@ -1,0 +1,31 @@
+// What every screen may know: which screen is shown, who is logged in, where the data lies, which
+// day it is. One instance, owned by the program object and passed down by reference.
+
+#ifndef VELNOR_BASE_SESSION_H_
+#define VELNOR_BASE_SESSION_H_
+
+#include <string>
+#include <string_view>
+
+namespace velnor {
+
+// Window class, window caption and the caption of message boxes.
+inline constexpr std::string_view kTitle = "Velnor calorie counter";
+
+// The number of a screen of the main window, 0 to 20.
+using ScreenId = int;
+inline constexpr ScreenId kHomeScreen = 0;
+
+struct SessionState {
+  ScreenId screen = kHomeScreen;
+  std::string user_name = {};    // at most 99 characters; empty: nobody is logged in
+  std::string base_folder = {};  // the start-up directory with a separator at its end
+  std::string date_text = {};    // today, as DateText writes it; stays for the whole run
+};
+
+// Day, month (1 to 12) and four-digit year joined by points, without leading zeros: "5.3.2026".
+std::string DateText(int day, int month, int year);
+
+}  // namespace velnor
+
+#endif  // VELNOR_BASE_SESSION_H_
