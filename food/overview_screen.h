@@ -1,0 +1,31 @@
+// The products overview: a product's values for a weight, its exchanges and its nutrient ratio.
+
+#ifndef VELNOR_FOOD_OVERVIEW_SCREEN_H_
+#define VELNOR_FOOD_OVERVIEW_SCREEN_H_
+
+#include <string_view>
+
+#include "base/canvas.h"
+#include "food/product_picker.h"
+
+namespace velnor {
+
+class OverviewScreen final : public ProductPicker {
+ public:
+  // `exchanges` keeps the last exchanges counted, here or elsewhere.
+  OverviewScreen(const FoodTable& food, Exchanges& exchanges, Form& form);
+
+  // Draws the fixed texts and offers the main categories.
+  void Paint(Canvas& canvas);
+
+ private:
+  void ShowChosenProduct() override;
+  void ShowAmounts(const NutrientAmounts& amounts) override;
+  void ShowRatio(std::string_view trace);
+
+  Exchanges& exchanges_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_OVERVIEW_SCREEN_H_

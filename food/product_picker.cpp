@@ -1,0 +1,63 @@
+#include "food/product_picker.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "base/number_text.h"
+
+namespace velnor {
+
+void ProductPicker::FillMainCategoryList() {
+  if (form_.ItemCount(controls_.main_category) > 0) return;
+  for (const CategoryRecord& row : food_.categories) {
+    form_.AddItem(controls_.main_category, row.main_category);
+  }
+}
+
+void ProductPicker::OnMainCategoryChosen() {
+  const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
+  if (!main_category) return;
+  form_.ClearItems(controls_.subcategory);
+  form_.ClearItems(controls_.products);
+  for (const std::string_view name : ListSubcategories(food_, controls_.layout, *main_category)) {
+    form_.AddItem(controls_.subcategory, name);
+  }
+  ShowNoProduct();
+}
+
+void ProductPicker::OnSubcategoryChosen() {
+  const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
+  const std::optional<std::string> subcategory = form_.SelectedText(controls_.subcategory);
+  if (!main_category || !subcategory) return;
+  form_.ClearItems(controls_.products);
+  for (const std::string_view name :
+       ListProducts(food_, controls_.layout, *main_category, *subcategory)) {
+    form_.AddItem(controls_.products, name);
+  }
+}
+
+void ProductPicker::OnProductChosen() {
+  std::optional<std::string> name = form_.SelectedText(controls_.products);
+  if (!name) return;
+  name->resize(std::min(name->size(), controls_.name_limit));
+  const ProductRecord* const product = FindProduct(food_, controls_.layout, *name);
+  if (product == nullptr) return;
+  const SelectedProduct& chosen = selected_.emplace(SelectedProduct::CopyOf(*product));
+  // Setting the weight announces a change, which shows computed values; the product's own texts
+  // take their place.
+  form_.SetText(controls_.weight, chosen.mass);
+  form_.SetText(controls_.kcal, chosen.kcal);
+  form_.SetText(controls_.protein, chosen.protein);
+  form_.SetText(controls_.fat, chosen.fat);
+  form_.SetText(controls_.carbohydrate, chosen.carbohydrate);
+  ShowChosenProduct();
+}
+
+void ProductPicker::OnWeightChanged() {
+  if (!selected_) return;
+  const std::string weight = form_.ReadText(controls_.weight, controls_.weight_limit);
+  ShowAmounts(ScaleToWeight(*selected_, ParseNumber(weight)));
+}
+
+}  // namespace velnor

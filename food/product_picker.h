@@ -1,0 +1,69 @@
+// Picking a product and weighing it: what the nutrition counter and the products overview have in
+// common. Each is an instance over its own controls and its own loose comparisons.
+
+#ifndef VELNOR_FOOD_PRODUCT_PICKER_H_
+#define VELNOR_FOOD_PRODUCT_PICKER_H_
+
+#include <cstddef>
+#include <optional>
+
+#include "base/form.h"
+#include "food/food_table.h"
+#include "food/nutrition.h"
+#include "food/product_rules.h"
+
+namespace velnor {
+
+// The controls of one picker and the texts it reads from them.
+struct PickerControls {
+  Layout layout;
+  int main_category;  // combo box
+  int subcategory;    // combo box
+  int products;       // sorted list box
+  int weight;         // edit, g
+  int kcal;           // statics for the values of that weight
+  int protein;
+  int fat;
+  int carbohydrate;
+  std::size_t weight_limit;  // characters of the weight that count
+  std::size_t name_limit;    // characters of a chosen name that count
+};
+
+class ProductPicker {
+ public:
+  ProductPicker(const FoodTable& food, const PickerControls& controls, Form& form)
+      : food_(food), controls_(controls), form_(form) {}
+  virtual ~ProductPicker() = default;
+
+  // Offers the main categories, once: a box that has entries keeps them.
+  void FillMainCategoryList();
+
+  // The user chose a main category: offers its subcategories and empties the product list.
+  void OnMainCategoryChosen();
+  // The user chose a subcategory: lists its products.
+  void OnSubcategoryChosen();
+  // The user chose a product: shows its mass and its values per that mass, as the table has them.
+  void OnProductChosen();
+  // The weight has a new text, from the user or from the program: shows what it holds. Until a
+  // product has been chosen there is nothing to weigh and nothing changes.
+  void OnWeightChanged();
+
+ protected:
+  // What a picker shows beyond the four values.
+  virtual void ShowNoProduct() {}      // after a choice of main category
+  virtual void ShowChosenProduct() {}  // after the values of a choice stand
+  virtual void ShowAmounts(const NutrientAmounts& amounts) = 0;
+
+  const PickerControls& controls() const { return controls_; }
+  Form& form() { return form_; }
+
+ private:
+  const FoodTable& food_;
+  const PickerControls& controls_;
+  Form& form_;
+  std::optional<SelectedProduct> selected_;  // nothing until the first choice
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_PRODUCT_PICKER_H_

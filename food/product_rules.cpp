@@ -1,0 +1,102 @@
+#include "food/product_rules.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+
+#include "food/loose_match.h"
+
+namespace velnor {
+namespace {
+
+bool IsChosenCategory(Layout layout, std::string_view row, std::string_view chosen) {
+  const int n = Length(chosen);
+  return AgreeAt(row, chosen, {0, 1, 2, n - 1, n - 2, n - 3}) && EndsBy(row, n) &&
+         (layout == Layout::kOverview || AgreeAt(row, chosen, {n - 4}));
+}
+
+bool IsOffered(Layout layout, std::string_view slot) {
+  return layout == Layout::kCounter ? slot.size() > 1 : !IsUnusedSlot(slot);
+}
+
+// Of the main category only the first two characters count: that is what lets the "vegetable" and
+// "sweets&snacks" rows in.
+bool IsListedBuiltIn(Layout layout, const ProductRecord& product, std::string_view main_category,
+                     std::string_view subcategory) {
+  const std::string_view row = product.subcategory;
+  const int n = Length(subcategory);
+  if (Length(row) != n || !AgreeAt(row, subcategory, {0, 1, 2, n - 1})) return false;
+  const bool agrees = layout == Layout::kCounter ? AgreeAt(row, subcategory, {n / 2, n / 3, n / 4})
+                                                 : AgreeAt(row, subcategory, {n - 2, n - 3, n / 2});
+  return agrees && AgreeAt(product.main_category, main_category, {0, 1});
+}
+
+bool IsListedUserProduct(Layout layout, const ProductRecord& product,
+                         std::string_view main_category, std::string_view subcategory) {
+  const int p = Length(product.main_category);
+  const int n = Length(subcategory);
+  return AgreeAt(product.main_category, main_category, {0, 1, 2, p / 2, p / 3}) &&
+         EndsBy(main_category, p) &&
+         AgreeAt(product.subcategory, subcategory, {0, 1, 2, n / 2, n / 3}) &&
+         EndsBy(product.subcategory, n) &&
+         (layout == Layout::kCounter || AgreeAt(product.subcategory, subcategory, {n / 4}));
+}
+
+bool IsNamedBuiltIn(Layout layout, std::string_view row, std::string_view name) {
+  const int n = Length(name);
+  if (!AgreeAt(row, name, {0, 1, 2, n - 1, n - 2, n - 3}) || !EndsBy(row, n)) return false;
+  return layout == Layout::kCounter ? AgreeAt(row, name, {n / 2, n / 3, n / 4})
+                                    : AgreeAt(row, name, {n - 4, n - 5, n - 6});
+}
+
+bool IsNamedUserProduct(Layout layout, std::string_view row, std::string_view name) {
+  const int n = Length(name);
+  return AgreeAt(row, name, {0, 1, 2, n / 2, n / 3}) && EndsBy(row, n) &&
+         (layout == Layout::kCounter || AgreeAt(row, name, {n / 4}));
+}
+
+using NameRule = bool (*)(Layout, std::string_view row, std::string_view name);
+
+const ProductRecord* FindLast(std::span<const ProductRecord> products, NameRule matches,
+                              Layout layout, std::string_view name) {
+  const auto found = std::find_if(
+      products.rbegin(), products.rend(),
+      [=](const ProductRecord& product) { return matches(layout, product.name, name); });
+  return found == products.rend() ? nullptr : &*found;
+}
+
+}  // namespace
+
+std::vector<std::string_view> ListSubcategories(const FoodTable& food, Layout layout,
+                                                std::string_view main_category) {
+  std::vector<std::string_view> names;
+  for (const CategoryRecord& row : food.categories) {
+    if (!IsChosenCategory(layout, row.main_category, main_category)) continue;
+    std::ranges::copy_if(row.subcategories, std::back_inserter(names),
+                         [=](std::string_view slot) { return IsOffered(layout, slot); });
+  }
+  return names;
+}
+
+std::vector<std::string_view> ListProducts(const FoodTable& food, Layout layout,
+                                           std::string_view main_category,
+                                           std::string_view subcategory) {
+  std::vector<std::string_view> names;
+  for (const ProductRecord& product : food.products) {
+    if (IsListedBuiltIn(layout, product, main_category, subcategory)) names.push_back(product.name);
+  }
+  for (const ProductRecord& product : food.user_products.products()) {
+    if (IsListedUserProduct(layout, product, main_category, subcategory)) {
+      names.push_back(product.name);
+    }
+  }
+  return names;
+}
+
+const ProductRecord* FindProduct(const FoodTable& food, Layout layout, std::string_view name) {
+  const ProductRecord* const built_in = FindLast(food.products, IsNamedBuiltIn, layout, name);
+  if (built_in != nullptr) return built_in;
+  return FindLast(food.user_products.products(), IsNamedUserProduct, layout, name);
+}
+
+}  // namespace velnor
