@@ -1,0 +1,57 @@
+// The child controls of the main window. All screens share them: they are created once, hidden, and
+// each screen shows its own.
+
+#ifndef VELNOR_SHELL_CONTROLS_H_
+#define VELNOR_SHELL_CONTROLS_H_
+
+#include <cstdint>
+#include <span>
+
+#include "base/canvas.h"
+
+namespace velnor {
+
+enum class ControlClass { kButton, kComboBox, kEdit, kListBox, kStatic };
+
+// The style bits that controls have beyond being a child, by the platform's values.
+namespace control_style {
+inline constexpr std::uint32_t kPlain = 0;
+inline constexpr std::uint32_t kGroupBox = 0x0007;
+inline constexpr std::uint32_t kDropDownList = 0x0003;
+inline constexpr std::uint32_t kSortedCombo = 0x0100;
+inline constexpr std::uint32_t kListNotify = 0x0001;
+inline constexpr std::uint32_t kSortedList = 0x0002;
+inline constexpr std::uint32_t kMultiLine = 0x0004;
+inline constexpr std::uint32_t kScrollVertically = 0x0040;
+inline constexpr std::uint32_t kKeepSelection = 0x0100;
+inline constexpr std::uint32_t kReadOnly = 0x0800;
+inline constexpr std::uint32_t kBorder = 0x00800000;
+inline constexpr std::uint32_t kVerticalScroll = 0x00200000;
+inline constexpr std::uint32_t kHorizontalScroll = 0x00100000;
+}  // namespace control_style
+
+struct Rectangle {
+  int x, y, width, height;  // client pixels of the main window
+};
+
+struct ControlRow {
+  int id;
+  ControlClass control_class;
+  const char* text;
+  std::uint32_t style;
+  Rectangle place;
+
+  // Every control has a sunken edge, only group boxes have none.
+  bool has_sunken_edge() const { return style != control_style::kGroupBox; }
+};
+
+// The font of a control: the body font, or a small one where a figure of six digits would not fit
+// otherwise.
+Font ControlFont(const ControlRow& row);
+
+// The 86 controls in the order in which they are created and hidden. Two of them have the id 149.
+std::span<const ControlRow> MainWindowControls();
+
+}  // namespace velnor
+
+#endif  // VELNOR_SHELL_CONTROLS_H_

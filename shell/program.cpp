@@ -1,0 +1,89 @@
+#include "shell/program.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "shell/commands.h"
+#include "shell/header.h"
+#include "shell/menu_states.h"
+#include "shell/screens.h"
+
+namespace velnor {
+namespace {
+
+constexpr const char* kUserProductsFile = "data.txt";
+
+constexpr int kReportEdit = 119;
+constexpr ScreenId kReportScreens[] = {4, 5, 8, 9, 11};
+
+struct ControlEvent {
+  int id;
+  int notification;
+  void (*run)(Program& program);
+};
+
+constexpr ControlEvent kControlEvents[] = {
+    {108, kSelectionChanged, [](Program& p) { p.overview().OnMainCategoryChosen(); }},
+    {110, kSelectionChanged, [](Program& p) { p.overview().OnSubcategoryChosen(); }},
+    {109, kSelectionChanged, [](Program& p) { p.overview().OnProductChosen(); }},
+    {111, kEditUpdated, [](Program& p) { p.overview().OnWeightChanged(); }},
+    {124, kSelectionChanged, [](Program& p) { p.counter().OnMainCategoryChosen(); }},
+    {125, kSelectionChanged, [](Program& p) { p.counter().OnSubcategoryChosen(); }},
+    {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
+    {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+};
+
+}  // namespace
+
+Program::Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
+                 MessageBoxes& message_boxes)
+    : session_{.base_folder = std::move(base_folder), .date_text = std::move(date_text)},
+      form_(form),
+      window_(window),
+      message_boxes_(message_boxes),
+      counter_(food_, form),
+      overview_(food_, exchanges_, form) {}
+
+void Program::Start() {
+  ApplyMenuState(MenuState::kLoggedOut, window_);
+  food_.user_products.Load(session_.base_folder + kUserProductsFile);
+}
+
+void Program::OnCommand(int id, int notification) {
+  if (RunCommand(*this, id)) return;
+  for (const ControlEvent& event : kControlEvents) {
+    if (event.id == id && event.notification == notification) event.run(*this);
+  }
+}
+
+void Program::OnMouseWheel(std::int32_t movement) {
+  if (std::ranges::find(kReportScreens, session_.screen) == std::end(kReportScreens)) return;
+  form_.ScrollLine(kReportEdit, movement < 0);
+}
+
+void Program::HideControls() { form_.HideAll(); }
+
+void Program::Paint(Canvas& canvas) {
+  const auto screen = std::ranges::find(Screens(), session_.screen, &ScreenRow::id);
+  if (screen == Screens().end()) return;
+  canvas.CopyBackground(screen->background);
+  PaintHeader(canvas, session_);
+  if (screen->paint != nullptr) screen->paint(*this, canvas);
+  for (const int key : screen->controls) form_.Show(key);
+}
+
+void Program::ShowScreen(ScreenId screen) {
+  session_.screen = screen;
+  window_.Invalidate();
+}
+
+void Program::LogOut() {
+  message_boxes_.Show({.text = "BYE, SEE YOU SOON!"});
+  ApplyMenuState(MenuState::kAfterLogout, window_);
+  session_.user_name.clear();
+  session_.screen = kHomeScreen;
+  window_.PaintNow();
+}
+
+}  // namespace velnor

@@ -1,0 +1,67 @@
+// The program: its state, and what it does when it starts, when a menu item is chosen, when a
+// control says something, and when a screen is to be painted. Knows no window system; the entry
+// point gives it the interfaces it works through and calls it for every event.
+
+#ifndef VELNOR_SHELL_PROGRAM_H_
+#define VELNOR_SHELL_PROGRAM_H_
+
+#include <cstdint>
+#include <string>
+
+#include "base/canvas.h"
+#include "base/form.h"
+#include "base/main_window.h"
+#include "base/message_boxes.h"
+#include "base/session.h"
+#include "food/counter_screen.h"
+#include "food/food_table.h"
+#include "food/overview_screen.h"
+
+namespace velnor {
+
+class Program {
+ public:
+  // `base_folder`: the start-up directory with a separator at its end. `date_text`: today. `form`
+  // holds the controls of the main window; nothing is asked of the interfaces before Start.
+  Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
+          MessageBoxes& message_boxes);
+
+  // The menu as it is when nobody is logged in, and the user's products. Called once, when the main
+  // window and its controls exist.
+  void Start();
+
+  // A menu item was chosen, or the control `id` announced `notification`.
+  void OnCommand(int id, int notification);
+
+  // The wheel was turned; `movement` is negative when it was turned towards the user. Report
+  // screens scroll one line, whatever the distance; other screens do nothing.
+  void OnMouseWheel(std::int32_t movement);
+
+  // The two steps of every repaint: all controls are hidden, then the current screen is painted and
+  // shows its own. An unknown screen number paints and shows nothing.
+  void HideControls();
+  void Paint(Canvas& canvas);
+
+  // What the commands and screens of the tables work with.
+  void ShowScreen(ScreenId screen);
+  void LogOut();
+  CounterScreen& counter() { return counter_; }
+  OverviewScreen& overview() { return overview_; }
+  MainWindow& window() { return window_; }
+  MessageBoxes& message_boxes() { return message_boxes_; }
+  const SessionState& session() const { return session_; }
+
+ private:
+  SessionState session_;
+  Form& form_;
+  MainWindow& window_;
+  MessageBoxes& message_boxes_;
+  FoodTable food_;
+  Exchanges exchanges_;
+  CounterScreen counter_;
+  OverviewScreen overview_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_SHELL_PROGRAM_H_

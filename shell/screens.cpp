@@ -1,0 +1,61 @@
+#include "shell/screens.h"
+
+#include "base/form.h"
+#include "shell/program.h"
+
+namespace velnor {
+namespace {
+
+constexpr const char* kBackgroundNames[] = {"BCG",    "TLO", "ZAAP", "BMI2",
+                                            "BILANS", "WHR", "SPAL", "POS"};
+
+constexpr int kBmiControls[] = {101, 102, 103};
+constexpr int kWhrControls[] = {104, 105, 106, 107};
+constexpr int kOverviewControls[] = {
+    108, 109, 110, 111, 112, 113, 114, 115, 116, 117, 118, SecondControl(149), 185, 186};
+constexpr int kReportControls[] = {119, 151, 152, 153, 154, 155, 156, 157, 158};
+constexpr int kRequirementControls[] = {120, 121, 122, 123, 166, 167, 168,
+                                        169, 170, 171, 172, 173, 174, 175};
+constexpr int kCounterControls[] = {124, 125, 126, 127, 128, 129, 130, 131, 132,
+                                    133, 134, 135, 136, 137, 138, 139, 140, 141,
+                                    142, 143, 144, 145, 146, 147, 149, 183, 184};
+constexpr int kActivityControls[] = {159, 160, 161, 162, 163, 164, 177, 179, 180};
+constexpr int kBalanceControls[] = {165};
+constexpr int kBmrControls[] = {101, 176};
+constexpr int kEnergyControls[] = {181, 182};
+
+// clang-format off
+constexpr ScreenRow kScreens[] = {
+    {0, 0, "TLO", {}, nullptr},                          // home
+    {1, 221, "BMI2", kBmiControls, nullptr},             // BMI
+    {2, 224, "WHR", kWhrControls, nullptr},              // WHR
+    {3, 236, "POS", kOverviewControls,                   // products overview
+     [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
+    {4, 210, "BCG", kReportControls, nullptr},           // weight report
+    {5, 214, "BCG", kReportControls, nullptr},           // WHR report
+    {6, 232, "ZAAP", kRequirementControls, nullptr},     // daily requirement
+    {7, 231, "POS", kCounterControls,                    // nutrition counter
+     [](Program& program, Canvas& canvas) { program.counter().Paint(canvas); }},
+    {8, 212, "BCG", kReportControls, nullptr},           // eaten calories report
+    {9, 213, "BCG", {}, nullptr},                        // recipes report
+    {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories
+    {11, 215, "BCG", {}, nullptr},                       // burned calories report
+    {12, 233, "BILANS", kBalanceControls, nullptr},      // daily balance
+    {13, 270, "BCG", {}, nullptr},                       // weight chart
+    {14, 271, "BCG", {}, nullptr},                       // calorie chart
+    {15, 272, "BCG", {}, nullptr},                       // proteins chart
+    {16, 273, "BCG", {}, nullptr},                       // fat chart
+    {17, 274, "BCG", {}, nullptr},                       // carbohydrates chart
+    {18, 225, "SPAL", kBmrControls, nullptr},            // BMR
+    {19, 239, "SPAL", kEnergyControls, nullptr},         // energy balance
+    {20, 252, "POS", {}, nullptr},                       // weight exchanges
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const char* const> BackgroundNames() { return kBackgroundNames; }
+
+std::span<const ScreenRow> Screens() { return kScreens; }
+
+}  // namespace velnor

@@ -1,0 +1,72 @@
+// Painting with the platform's device contexts.
+
+#ifndef VELNOR_SHELL_WIN32_GDI_CANVAS_H_
+#define VELNOR_SHELL_WIN32_GDI_CANVAS_H_
+
+#include <windows.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "base/canvas.h"
+
+namespace velnor {
+
+// The pictures and fonts of the main window. They live as long as it does.
+class GdiResources {
+ public:
+  GdiResources() = default;
+  GdiResources(const GdiResources&) = delete;
+  GdiResources& operator=(const GdiResources&) = delete;
+  ~GdiResources();
+
+  // Loads the background pictures from the resources of the program; one that is missing is left
+  // out, and copying it does nothing.
+  void LoadBackgrounds(HINSTANCE instance);
+
+  struct Background {
+    HBITMAP bitmap;
+    int width;
+    int height;
+  };
+  // Null when there is no such picture.
+  const Background* FindBackground(std::string_view name) const;
+
+  // Made when first asked for and kept.
+  HFONT FontFor(const Font& font);
+
+ private:
+  struct CachedFont {
+    Font font;
+    HFONT handle;
+  };
+  std::map<std::string, Background, std::less<>> backgrounds_;
+  std::vector<CachedFont> fonts_;
+};
+
+// One painting. The device context is put back as it was when the canvas goes.
+class GdiCanvas final : public Canvas {
+ public:
+  GdiCanvas(HDC context, GdiResources& resources);
+  GdiCanvas(const GdiCanvas&) = delete;
+  GdiCanvas& operator=(const GdiCanvas&) = delete;
+  ~GdiCanvas() override;
+
+  void CopyBackground(std::string_view name) override;
+  void SetFont(const Font& font) override;
+  void SetTextColour(Colour colour) override;
+  void SetPen(const Pen& pen) override;
+  void DrawText(Point at, std::string_view text) override;
+  void DrawPolyline(std::span<const Point> points) override;
+
+ private:
+  HDC context_;
+  int saved_state_;
+  GdiResources& resources_;
+  HPEN pen_ = nullptr;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_SHELL_WIN32_GDI_CANVAS_H_

@@ -1,0 +1,175 @@
+#include "shell/win32/win32_main_window.h"
+
+#include <string>
+
+#include "shell/win32/dialog_host.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kMenuResource = 501;
+constexpr int kIconResource = 900;
+
+constexpr int kWidth = 800;
+constexpr int kHeight = 600;
+constexpr COLORREF kSurfaceColour = RGB(179, 179, 179);
+
+constexpr UINT kHelpPartialKey = 0x105;
+
+// The system rejects this background mode, so statics keep the opaque one they have; the colour
+// under their text is that of the surface.
+constexpr int kNoBackgroundMode = 255;
+
+std::string StartUpFolder() {
+  constexpr DWORD kLimit = 300;
+  std::string folder(kLimit, '\0');
+  const DWORD length = GetCurrentDirectoryA(kLimit, folder.data());
+  if (length == 0 || length >= kLimit) return ".\\";  // too long to be told: the same folder
+  folder.resize(length);
+  return folder + '\\';
+}
+
+std::string Today() {
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  return DateText(now.wDay, now.wMonth, now.wYear);
+}
+
+}  // namespace
+
+Win32MainWindow::Win32MainWindow(HINSTANCE instance)
+    : instance_(instance), surface_(CreateSolidBrush(kSurfaceColour)) {}
+
+Win32MainWindow::~Win32MainWindow() { DeleteObject(surface_); }
+
+bool Win32MainWindow::Open(int show_command) {
+  const std::string title(kTitle);
+  WNDCLASSEXA window_class = {};
+  window_class.cbSize = sizeof window_class;
+  window_class.style = CS_DBLCLKS;
+  window_class.lpfnWndProc = Procedure;
+  window_class.hInstance = instance_;
+  window_class.hIcon = LoadIconA(instance_, MAKEINTRESOURCEA(kIconResource));
+  window_class.hIconSm = window_class.hIcon;
+  window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+  window_class.hbrBackground = surface_;
+  window_class.lpszClassName = title.c_str();
+  if (RegisterClassExA(&window_class) == 0) return false;
+
+  const HWND window = CreateWindowExA(
+      0, title.c_str(), title.c_str(), WS_BORDER | WS_SYSMENU | WS_MINIMIZEBOX, CW_USEDEFAULT,
+      CW_USEDEFAULT, kWidth, kHeight, nullptr, nullptr, instance_, this);
+  if (window == nullptr) return false;
+  ShowWindow(window, show_command);
+  return true;
+}
+
+int Win32MainWindow::RunMessageLoop() {
+  MSG message;
+  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) continue;
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wparam,
+                                            LPARAM lparam) {
+  if (message == WM_NCCREATE) {
+    const auto* const creation = reinterpret_cast<const CREATESTRUCTA*>(lparam);
+    auto* const self = static_cast<Win32MainWindow*>(creation->lpCreateParams);
+    self->window_ = window;
+    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+  }
+  auto* const self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+  if (self == nullptr) return DefWindowProcA(window, message, wparam, lparam);
+  return self->OnMessage(message, wparam, lparam);
+}
+
+LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_CREATE:
+      return OnCreate() ? 0 : -1;
+    case WM_SIZE:        // the layout is fixed: nothing depends on the client size
+    case WM_ERASEBKGND:  // the screens cover the client area with their picture
+      return 0;
+    case WM_PAINT:
+      OnPaint();
+      return 0;
+    case WM_COMMAND:
+      program_->OnCommand(LOWORD(wparam), HIWORD(wparam));
+      return 0;
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+      SetBkMode(reinterpret_cast<HDC>(wparam), TRANSPARENT);
+      return reinterpret_cast<LRESULT>(surface_);
+    case WM_CTLCOLORSTATIC:
+      SetBkMode(reinterpret_cast<HDC>(wparam), kNoBackgroundMode);
+      SetBkColor(reinterpret_cast<HDC>(wparam), kSurfaceColour);
+      return reinterpret_cast<LRESULT>(surface_);
+    case WM_MOUSEWHEEL:
+      program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
+      return 0;
+    case WM_CLOSE:
+      DestroyWindow(window_);
+      return 0;
+    case WM_DESTROY:
+      PostQuitMessage(0);
+      return 0;
+    default:
+      return DefWindowProcA(window_, message, wparam, lparam);
+  }
+}
+
+bool Win32MainWindow::OnCreate() {
+  form_.emplace(window_);
+  message_boxes_.emplace(window_);
+  program_.emplace(StartUpFolder(), Today(), *form_, *this, *message_boxes_);
+  menu_ = LoadMenuA(instance_, MAKEINTRESOURCEA(kMenuResource));
+  SetMenu(window_, menu_);
+  resources_.LoadBackgrounds(instance_);
+  if (!form_->CreateControls(instance_, resources_)) return false;
+  program_->Start();
+  return true;
+}
+
+void Win32MainWindow::OnPaint() {
+  // Hiding the control that has the focus takes the focus away; it gets it back when the screen
+  // shows it again, so that a repaint does not interrupt typing.
+  const HWND focused = GetFocus();
+  InvalidateRect(window_, nullptr, TRUE);
+  program_->HideControls();
+  PAINTSTRUCT paint;
+  const HDC context = BeginPaint(window_, &paint);
+  FillRect(context, &paint.rcPaint, surface_);  // what a picture does not reach
+  {
+    GdiCanvas canvas(context, resources_);
+    program_->Paint(canvas);
+  }
+  EndPaint(window_, &paint);
+  if (focused != nullptr && IsChild(window_, focused) != 0 && IsWindowVisible(focused) != 0) {
+    SetFocus(focused);
+  }
+}
+
+void Win32MainWindow::Invalidate() { InvalidateRect(window_, nullptr, TRUE); }
+
+void Win32MainWindow::PaintNow() { SendMessageA(window_, WM_PAINT, 0, 0); }
+
+void Win32MainWindow::Close() { SendMessageA(window_, WM_CLOSE, 0, 0); }
+
+void Win32MainWindow::EnableMenuItem(int command, bool enabled) {
+  ::EnableMenuItem(menu_, static_cast<UINT>(command),
+                   static_cast<UINT>(MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED)));
+}
+
+void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
+  RunModalDialog(instance_, window_, resource_id, dialog);
+}
+
+void Win32MainWindow::OpenHelp(std::string_view file_name) {
+  WinHelpA(window_, std::string(file_name).c_str(), kHelpPartialKey, 0);
+}
+
+}  // namespace velnor

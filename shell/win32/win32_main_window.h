@@ -1,0 +1,58 @@
+// The main window: turns the platform's messages into calls of the program and the program's wishes
+// into calls of the platform. Decides nothing itself.
+
+#ifndef VELNOR_SHELL_WIN32_WIN32_MAIN_WINDOW_H_
+#define VELNOR_SHELL_WIN32_WIN32_MAIN_WINDOW_H_
+
+#include <windows.h>
+
+#include <optional>
+
+#include "base/main_window.h"
+#include "shell/program.h"
+#include "shell/win32/gdi_canvas.h"
+#include "shell/win32/win32_message_boxes.h"
+#include "shell/win32/window_form.h"
+
+namespace velnor {
+
+class Win32MainWindow final : public MainWindow {
+ public:
+  explicit Win32MainWindow(HINSTANCE instance);
+  Win32MainWindow(const Win32MainWindow&) = delete;
+  Win32MainWindow& operator=(const Win32MainWindow&) = delete;
+  ~Win32MainWindow() override;
+
+  // Registers the class, creates the window and shows it. False when the system refuses.
+  bool Open(int show_command);
+
+  // Serves messages until the window is closed; returns the exit code.
+  int RunMessageLoop();
+
+  void Invalidate() override;
+  void PaintNow() override;
+  void Close() override;
+  void EnableMenuItem(int command, bool enabled) override;
+  void RunDialog(int resource_id, Dialog& dialog) override;
+  void OpenHelp(std::string_view file_name) override;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+  bool OnCreate();
+  void OnPaint();
+
+  HINSTANCE instance_;
+  HBRUSH surface_;  // behind the screens and in the controls
+  HWND window_ = nullptr;
+  HMENU menu_ = nullptr;
+  HWND modeless_dialog_ = nullptr;
+  GdiResources resources_;
+  std::optional<MainForm> form_;
+  std::optional<Win32MessageBoxes> message_boxes_;
+  std::optional<Program> program_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_SHELL_WIN32_WIN32_MAIN_WINDOW_H_

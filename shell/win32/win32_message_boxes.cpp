@@ -1,0 +1,25 @@
+#include "shell/win32/win32_message_boxes.h"
+
+#include <array>
+#include <string>
+
+namespace velnor {
+namespace {
+
+// By MessageButtons and by MessageIcon.
+constexpr std::array<UINT, 2> kButtons = {MB_OK, MB_YESNO};
+constexpr std::array<UINT, 3> kIcons = {MB_ICONINFORMATION, MB_ICONQUESTION, 0};
+
+}  // namespace
+
+Answer Win32MessageBoxes::Show(const Message& message) {
+  const HWND owner = message.owner == MessageOwner::kMainWindow ? main_window_ : nullptr;
+  const UINT style = kButtons[static_cast<std::size_t>(message.buttons)] |
+                     kIcons[static_cast<std::size_t>(message.icon)];
+  const int pressed = MessageBoxA(owner, std::string(message.text).c_str(),
+                                  std::string(message.caption).c_str(), style);
+  if (message.buttons == MessageButtons::kOk) return Answer::kOk;
+  return pressed == IDYES ? Answer::kYes : Answer::kNo;
+}
+
+}  // namespace velnor

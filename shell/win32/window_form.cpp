@@ -1,0 +1,133 @@
+#include "shell/win32/window_form.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velnor {
+namespace {
+
+static_assert(control_style::kGroupBox == BS_GROUPBOX);
+static_assert(control_style::kDropDownList == CBS_DROPDOWNLIST);
+static_assert(control_style::kSortedCombo == CBS_SORT);
+static_assert(control_style::kListNotify == LBS_NOTIFY);
+static_assert(control_style::kSortedList == LBS_SORT);
+static_assert(control_style::kMultiLine == ES_MULTILINE);
+static_assert(control_style::kScrollVertically == ES_AUTOVSCROLL);
+static_assert(control_style::kKeepSelection == ES_NOHIDESEL);
+static_assert(control_style::kReadOnly == ES_READONLY);
+static_assert(control_style::kBorder == WS_BORDER);
+static_assert(control_style::kVerticalScroll == WS_VSCROLL);
+static_assert(control_style::kHorizontalScroll == WS_HSCROLL);
+static_assert(kButtonClicked == BN_CLICKED);
+static_assert(kSelectionChanged == LBN_SELCHANGE);
+static_assert(kSelectionChanged == CBN_SELCHANGE);
+static_assert(kEditUpdated == EN_UPDATE);
+
+constexpr std::array kClassNames = {"button", "combobox", "edit", "listbox", "static"};
+
+const char* ClassName(ControlClass control_class) {
+  return kClassNames[static_cast<std::size_t>(control_class)];
+}
+
+// List boxes and combo boxes do the same things under different message numbers.
+struct ListMessages {
+  UINT count, add, reset, selection, text_length, text;
+};
+constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,  LB_ADDSTRING,  LB_RESETCONTENT,
+                                           LB_GETCURSEL, LB_GETTEXTLEN, LB_GETTEXT};
+constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,  CB_ADDSTRING,    CB_RESETCONTENT,
+                                            CB_GETCURSEL, CB_GETLBTEXTLEN, CB_GETLBTEXT};
+
+const ListMessages& MessagesOf(HWND control) {
+  char name[16] = {};
+  GetClassNameA(control, name, sizeof name);
+  return lstrcmpiA(name, ClassName(ControlClass::kComboBox)) == 0 ? kComboBoxMessages
+                                                                  : kListBoxMessages;
+}
+
+LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
+
+}  // namespace
+
+HWND WindowForm::Control(int key) const { return GetDlgItem(window_, key); }
+
+std::string WindowForm::ReadText(int id, std::size_t limit) const {
+  std::string text(limit + 1, '\0');
+  const int length = GetWindowTextA(Control(id), text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+void WindowForm::SetText(int id, std::string_view text) {
+  SetWindowTextA(Control(id), std::string(text).c_str());
+}
+
+int WindowForm::ItemCount(int id) const {
+  const HWND control = Control(id);
+  const LRESULT count = SendMessageA(control, MessagesOf(control).count, 0, 0);
+  return static_cast<int>(std::max<LRESULT>(count, 0));
+}
+
+void WindowForm::AddItem(int id, std::string_view text) {
+  const HWND control = Control(id);
+  SendMessageA(control, MessagesOf(control).add, 0, ToParameter(std::string(text).c_str()));
+}
+
+void WindowForm::ClearItems(int id) {
+  const HWND control = Control(id);
+  SendMessageA(control, MessagesOf(control).reset, 0, 0);
+}
+
+std::optional<std::string> WindowForm::SelectedText(int id) const {
+  const HWND control = Control(id);
+  const ListMessages& messages = MessagesOf(control);
+  const LRESULT selection = SendMessageA(control, messages.selection, 0, 0);
+  if (control == nullptr || selection < 0) return std::nullopt;
+  const auto index = static_cast<WPARAM>(selection);
+  const LRESULT length = SendMessageA(control, messages.text_length, index, 0);
+  if (length < 0) return std::nullopt;
+  std::string text(static_cast<std::size_t>(length) + 1, '\0');
+  SendMessageA(control, messages.text, index, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+void WindowForm::ScrollLine(int id, bool down) {
+  SendMessageA(Control(id), EM_SCROLL, static_cast<WPARAM>(down ? SB_LINEDOWN : SB_LINEUP), 0);
+}
+
+void WindowForm::Show(int key) { ShowWindow(Control(key), SW_SHOWNORMAL); }
+
+void WindowForm::HideAll() {
+  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    ShowWindow(child, SW_HIDE);
+  }
+}
+
+void WindowForm::Close() { DestroyWindow(window_); }
+
+bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
+  for (const ControlRow& row : MainWindowControls()) {
+    const DWORD edge = row.has_sunken_edge() ? WS_EX_CLIENTEDGE : 0;
+    const HWND control =
+        CreateWindowExA(edge, ClassName(row.control_class), row.text, WS_CHILD | row.style,
+                        row.place.x, row.place.y, row.place.width, row.place.height, window(),
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), instance, nullptr);
+    if (control == nullptr) return false;
+    const HFONT font = resources.FontFor(ControlFont(row));
+    SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    // List boxes have rounded their height to whole lines of the font they were born with.
+    MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
+    const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
+    if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
+  }
+  return true;
+}
+
+HWND MainForm::Control(int key) const {
+  const auto found = controls_by_key_.find(key);
+  return found == controls_by_key_.end() ? nullptr : found->second;
+}
+
+}  // namespace velnor

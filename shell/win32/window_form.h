@@ -1,0 +1,57 @@
+// The controls of a real window, by id.
+
+#ifndef VELNOR_SHELL_WIN32_WINDOW_FORM_H_
+#define VELNOR_SHELL_WIN32_WINDOW_FORM_H_
+
+#include <windows.h>
+
+#include <map>
+
+#include "base/form.h"
+#include "shell/controls.h"
+#include "shell/win32/gdi_canvas.h"
+
+namespace velnor {
+
+// The controls of a window of our own or of a dialog template.
+class WindowForm : public Form {
+ public:
+  explicit WindowForm(HWND window) : window_(window) {}
+
+  std::string ReadText(int id, std::size_t limit) const override;
+  void SetText(int id, std::string_view text) override;
+  int ItemCount(int id) const override;
+  void AddItem(int id, std::string_view text) override;
+  void ClearItems(int id) override;
+  std::optional<std::string> SelectedText(int id) const override;
+  void ScrollLine(int id, bool down) override;
+  void Show(int key) override;
+  void HideAll() override;
+  void Close() override;
+
+ protected:
+  HWND window() const { return window_; }
+  virtual HWND Control(int key) const;
+
+ private:
+  HWND window_;
+};
+
+// The main window's controls, which it creates from the table.
+class MainForm final : public WindowForm {
+ public:
+  explicit MainForm(HWND main_window) : WindowForm(main_window) {}
+
+  // Creates all controls of the table, hidden. False when the system refuses one.
+  bool CreateControls(HINSTANCE instance, GdiResources& resources);
+
+ protected:
+  HWND Control(int key) const override;
+
+ private:
+  std::map<int, HWND> controls_by_key_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_SHELL_WIN32_WINDOW_FORM_H_
