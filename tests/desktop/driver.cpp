@@ -1,0 +1,455 @@
+#include "tests/desktop/driver.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <stdexcept>
+
+namespace velnor::desktop {
+namespace {
+
+constexpr DWORD kPatience = 20'000;  // ms; far more than anything takes, even on a busy machine
+constexpr DWORD kGlance = 10;        // ms between two looks
+
+constexpr char kMainWindowClass[] = "Velnor calorie counter";
+constexpr char kDialogClass[] = "#32770";  // dialogs and message boxes
+constexpr int kMessageTextId = 0xFFFF;     // the static of a message box
+
+std::string FolderOfThisProgram() {
+  std::string path(MAX_PATH, '\0');
+  path.resize(GetModuleFileNameA(nullptr, path.data(), MAX_PATH));
+  return path.substr(0, path.rfind('\\') + 1);
+}
+
+bool WaitUntil(const std::function<bool()>& condition) {
+  for (DWORD waited = 0; waited < kPatience; waited += kGlance) {
+    if (condition()) return true;
+    Sleep(kGlance);
+  }
+  return condition();
+}
+
+// The visible top-level window of a process with the given class; null when there is none.
+HWND FindTopWindow(DWORD process_id, const char* class_name) {
+  HWND window = nullptr;
+  while ((window = FindWindowExA(nullptr, window, class_name, nullptr)) != nullptr) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner == process_id && IsWindowVisible(window) != 0) return window;
+  }
+  return nullptr;
+}
+
+std::string ToNarrow(const std::wstring& wide) {
+  const int size = static_cast<int>(wide.size());
+  std::string narrow(wide.size() * 2, '\0');
+  narrow.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(1250, 0, wide.data(), size, narrow.data(),
+                          static_cast<int>(narrow.size()), nullptr, nullptr)));
+  return narrow;
+}
+
+struct ListMessages {
+  UINT count, text_length, text, selection, select;
+};
+constexpr ListMessages kListBox = {LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_GETCURSEL,
+                                   LB_SETCURSEL};
+constexpr ListMessages kComboBox = {CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_GETCURSEL,
+                                    CB_SETCURSEL};
+
+const ListMessages& MessagesOf(HWND control) {
+  std::array<char, 16> name = {};
+  GetClassNameA(control, name.data(), static_cast<int>(name.size()));
+  return lstrcmpiA(name.data(), "combobox") == 0 ? kComboBox : kListBox;
+}
+
+// From another process the texts of lists come whole only through the wide messages.
+std::string ItemText(HWND control, LRESULT index) {
+  const ListMessages& messages = MessagesOf(control);
+  const LRESULT length = SendMessageW(control, messages.text_length, static_cast<WPARAM>(index), 0);
+  std::wstring text(static_cast<std::size_t>(std::max<LRESULT>(length, 0)) + 1, L'\0');
+  SendMessageW(control, messages.text, static_cast<WPARAM>(index),
+               reinterpret_cast<LPARAM>(text.data()));
+  text.resize(std::wcslen(text.c_str()));
+  return ToNarrow(text);
+}
+
+void SendInputs(std::vector<INPUT> inputs) {
+  for (INPUT& input : inputs) {
+    SendInput(1, &input, sizeof input);
+    Sleep(1);
+  }
+}
+
+// Memory inside the program, for as long as the object lives.
+class RemoteMemory {
+ public:
+  RemoteMemory(HANDLE process, std::size_t size, DWORD protection)
+      : process_(process),
+        address_(VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, protection)) {}
+  RemoteMemory(const RemoteMemory&) = delete;
+  RemoteMemory& operator=(const RemoteMemory&) = delete;
+  ~RemoteMemory() { VirtualFreeEx(process_, address_, 0, MEM_RELEASE); }
+
+  void* address() const { return address_; }
+  void Write(const void* bytes, std::size_t size) const {
+    WriteProcessMemory(process_, address_, bytes, size, nullptr);
+  }
+  void Read(void* bytes, std::size_t size) const {
+    ReadProcessMemory(process_, address_, bytes, size, nullptr);
+  }
+
+ private:
+  HANDLE process_;
+  void* address_;
+};
+
+INPUT KeyInput(WORD virtual_key, bool up) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = virtual_key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(virtual_key, 0));
+  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+  return input;
+}
+
+}  // namespace
+
+WorkFolder::WorkFolder() {
+  std::string temporary(MAX_PATH, '\0');
+  temporary.resize(GetTempPathA(MAX_PATH, temporary.data()));
+  for (int attempt = 0;; ++attempt) {
+    path_ = temporary + "velnor-" + std::to_string(GetCurrentProcessId()) + "-" +
+            std::to_string(GetTickCount()) + "-" + std::to_string(attempt);
+    if (CreateDirectoryA(path_.c_str(), nullptr) != 0) break;
+    if (attempt > 100) throw std::runtime_error("no folder can be made for the program to run in");
+  }
+  path_ += '\\';
+}
+
+WorkFolder::~WorkFolder() {
+  for (const std::string& name : Names()) DeleteFileA((path_ + name).c_str());
+  RemoveDirectoryA(path_.c_str());
+}
+
+void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
+  std::FILE* const file = std::fopen((path_ + name).c_str(), "wb");
+  if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() ||
+      std::fclose(file) != 0) {
+    throw std::runtime_error("cannot write " + name);
+  }
+}
+
+std::optional<std::string> WorkFolder::Read(const std::string& name) const {
+  std::FILE* const file = std::fopen((path_ + name).c_str(), "rb");
+  if (file == nullptr) return std::nullopt;
+  std::string bytes;
+  std::array<char, 4096> block;
+  while (const std::size_t got = std::fread(block.data(), 1, block.size(), file)) {
+    bytes.append(block.data(), got);
+  }
+  std::fclose(file);
+  return bytes;
+}
+
+std::vector<std::string> WorkFolder::Names() const {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA((path_ + "*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    const std::string name = found.cFileName;
+    if (name != "." && name != "..") names.push_back(name);
+  } while (FindNextFileA(search, &found) != 0);
+  FindClose(search);
+  std::ranges::sort(names);
+  return names;
+}
+
+std::string Window::Caption() const {
+  std::string text(256, '\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextA(handle_, text.data(), 256)));
+  return text;
+}
+
+HWND Window::Control(int id, int nth) const {
+  for (const HWND control : Controls()) {
+    if (GetDlgCtrlID(control) == id && nth-- == 0) return control;
+  }
+  return nullptr;
+}
+
+std::vector<HWND> Window::Controls() const {
+  std::vector<HWND> controls;
+  HWND child = nullptr;
+  while ((child = FindWindowExA(handle_, child, nullptr, nullptr)) != nullptr) {
+    controls.push_back(child);
+  }
+  return controls;
+}
+
+bool Window::IsShown(int id, int nth) const { return IsWindowVisible(Control(id, nth)) != 0; }
+
+std::string Window::Text(int id) const {
+  const HWND control = Control(id);
+  const LRESULT length = SendMessageA(control, WM_GETTEXTLENGTH, 0, 0);
+  std::string text(static_cast<std::size_t>(length) + 1, '\0');
+  const LRESULT copied = SendMessageA(control, WM_GETTEXT, static_cast<WPARAM>(text.size()),
+                                      reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(copied));
+  return text;
+}
+
+void Window::SetText(int id, const std::string& text) const {
+  SendMessageA(Control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::vector<std::string> Window::Items(int id) const {
+  const HWND control = Control(id);
+  const LRESULT count = SendMessageW(control, MessagesOf(control).count, 0, 0);
+  std::vector<std::string> items;
+  for (LRESULT index = 0; index < count; ++index) items.push_back(ItemText(control, index));
+  return items;
+}
+
+std::optional<std::string> Window::Selected(int id) const {
+  const HWND control = Control(id);
+  const LRESULT index = SendMessageW(control, MessagesOf(control).selection, 0, 0);
+  if (index < 0) return std::nullopt;
+  return ItemText(control, index);
+}
+
+bool Window::Choose(int id, const std::string& item) const {
+  const std::vector<std::string> items = Items(id);
+  const auto found = std::ranges::find(items, item);
+  if (found == items.end()) return false;
+  const HWND control = Control(id);
+  SendMessageW(control, MessagesOf(control).select, static_cast<WPARAM>(found - items.begin()), 0);
+  Command(id, LBN_SELCHANGE);
+  return true;
+}
+
+void Window::Command(int id, int notification) const {
+  SendMessageA(handle_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, notification)),
+               reinterpret_cast<LPARAM>(Control(id)));
+}
+
+void Window::PostCommand(int id) const {
+  PostMessageA(handle_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, 0)),
+               reinterpret_cast<LPARAM>(Control(id)));
+}
+
+void Window::SavePicture(const std::string& path) const {
+  RECT place = {};
+  GetWindowRect(handle_, &place);
+  const int width = place.right - place.left;
+  const int height = place.bottom - place.top;
+
+  const HDC screen = GetDC(nullptr);
+  const HDC memory = CreateCompatibleDC(screen);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  const HGDIOBJ previous = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
+  SelectObject(memory, previous);
+
+  BITMAPINFOHEADER header = {};
+  header.biSize = sizeof header;
+  header.biWidth = width;
+  header.biHeight = height;
+  header.biPlanes = 1;
+  header.biBitCount = 24;
+  const std::size_t row_bytes = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
+  std::vector<char> pixels(row_bytes * static_cast<std::size_t>(height));
+  BITMAPINFO info = {};
+  info.bmiHeader = header;
+  GetDIBits(screen, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+
+  BITMAPFILEHEADER file_header = {};
+  file_header.bfType = 0x4D42;  // "BM"
+  file_header.bfOffBits = sizeof file_header + sizeof header;
+  file_header.bfSize = file_header.bfOffBits + static_cast<DWORD>(pixels.size());
+  std::FILE* const file = std::fopen(path.c_str(), "wb");
+  if (file == nullptr) throw std::runtime_error("cannot write the picture " + path);
+  std::fwrite(&file_header, sizeof file_header, 1, file);
+  std::fwrite(&header, sizeof header, 1, file);
+  std::fwrite(pixels.data(), 1, pixels.size(), file);
+  std::fclose(file);
+}
+
+App::App(const WorkFolder& folder) {
+  std::string command_line = '"' + FolderOfThisProgram() + "velnor.exe\"";
+  STARTUPINFOA start = {};
+  start.cb = sizeof start;
+  if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     folder.path().c_str(), &start, &process_) == 0) {
+    throw std::runtime_error("cannot start " + command_line);
+  }
+  HWND window = nullptr;
+  WaitUntil([&] {
+    window = FindTopWindow(process_.dwProcessId, kMainWindowClass);
+    return window != nullptr || !IsRunning();
+  });
+  main_ = Window(window);
+  Settle();
+}
+
+App::~App() {
+  if (IsRunning()) {
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, kPatience);
+  }
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+}
+
+bool App::IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+std::optional<DWORD> App::WaitForExit() const {
+  if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) return std::nullopt;
+  DWORD code = 0;
+  GetExitCodeProcess(process_.hProcess, &code);
+  return code;
+}
+
+DWORD App::CallInside(const char* function, std::vector<ULONG_PTR> arguments) const {
+  // Machine code of the call, by the platform's calling convention: four arguments in registers,
+  // the fifth on the stack above the callee's home space.
+  constexpr std::array<std::array<unsigned char, 2>, 4> kLoadRegister = {
+      {{0x48, 0xB9}, {0x48, 0xBA}, {0x49, 0xB8}, {0x49, 0xB9}}};  // mov rcx, rdx, r8, r9
+  arguments.resize(kLoadRegister.size() + 1);
+  std::vector<unsigned char> code;
+  const auto append = [&code](std::initializer_list<unsigned char> bytes) {
+    code.insert(code.end(), bytes);
+  };
+  const auto append_value = [&code](ULONG_PTR value) {
+    std::array<unsigned char, sizeof value> bytes;
+    std::memcpy(bytes.data(), &value, sizeof value);
+    code.insert(code.end(), bytes.begin(), bytes.end());
+  };
+  for (std::size_t i = 0; i < kLoadRegister.size(); ++i) {
+    append({kLoadRegister[i][0], kLoadRegister[i][1]});
+    append_value(arguments[i]);
+  }
+  append({0x48, 0x83, 0xEC, 0x38});  // sub rsp, 0x38
+  append({0x48, 0xB8});              // mov rax, fifth argument
+  append_value(arguments.back());
+  append({0x48, 0x89, 0x44, 0x24, 0x20});  // mov [rsp + 0x20], rax
+  append({0x48, 0xB8});                    // mov rax, function
+  append_value(reinterpret_cast<ULONG_PTR>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32.dll"), function))));
+  append({0xFF, 0xD0, 0x48, 0x83, 0xC4, 0x38, 0xC3});  // call rax; add rsp, 0x38; ret
+
+  const RemoteMemory place(process_.hProcess, code.size(), PAGE_EXECUTE_READWRITE);
+  place.Write(code.data(), code.size());
+  const HANDLE thread = CreateRemoteThread(
+      process_.hProcess, nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(place.address()),
+      nullptr, 0, nullptr);
+  DWORD result = 0;
+  if (thread == nullptr || WaitForSingleObject(thread, kPatience) != WAIT_OBJECT_0 ||
+      GetExitCodeThread(thread, &result) == 0) {
+    throw std::runtime_error(std::string("cannot call ") + function + " inside the program");
+  }
+  CloseHandle(thread);
+  return result;
+}
+
+std::optional<bool> App::IsMenuItemEnabled(int command) const {
+  const auto menu = reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle()));
+  const DWORD state =
+      CallInside("GetMenuState", {menu, static_cast<ULONG_PTR>(command), MF_BYCOMMAND});
+  if (state == static_cast<DWORD>(-1)) return std::nullopt;
+  return (state & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+std::vector<std::string> App::MenuTexts() const {
+  std::vector<std::string> texts;
+  AppendMenuTexts(reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle())), texts);
+  return texts;
+}
+
+void App::AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const {
+  constexpr std::size_t kTextLimit = 100;
+  const RemoteMemory buffer(process_.hProcess, kTextLimit, PAGE_READWRITE);
+  const DWORD count = CallInside("GetMenuItemCount", {menu});
+  for (DWORD position = 0; position < count; ++position) {
+    std::array<char, kTextLimit> text = {};
+    buffer.Write(text.data(), text.size());
+    CallInside("GetMenuStringA", {menu, position, reinterpret_cast<ULONG_PTR>(buffer.address()),
+                                  kTextLimit, MF_BYPOSITION});
+    buffer.Read(text.data(), text.size() - 1);
+    const DWORD popup = CallInside("GetSubMenu", {menu, position});
+    const DWORD id = CallInside("GetMenuItemID", {menu, position});
+    if (popup != 0) {
+      texts.push_back(std::string("> ") + text.data());
+      AppendMenuTexts(popup, texts);
+    } else {
+      texts.push_back(id == 0 ? "-" : std::to_string(id) + ' ' + text.data());
+    }
+  }
+}
+
+Window App::WaitForPopup() const {
+  HWND popup = nullptr;
+  WaitUntil([&] {
+    popup = FindTopWindow(process_.dwProcessId, kDialogClass);
+    return popup != nullptr || !IsRunning();
+  });
+  return Window(popup);
+}
+
+MessageBoxSeen App::WaitForMessageBox() const {
+  const Window box = WaitForPopup();
+  if (box.handle() == nullptr) return {};
+  return {box.handle(), box.Caption(), box.Text(kMessageTextId)};
+}
+
+void App::Settle() const {
+  // A paint waits until the queue is empty: what is left to paint is painted now.
+  UpdateWindow(main_.handle());
+  SendMessageA(main_.handle(), WM_NULL, 0, 0);
+  WaitUntil([this] { return GetUpdateRect(main_.handle(), nullptr, FALSE) == 0; });
+}
+
+bool WaitUntilGone(HWND window) {
+  return WaitUntil([=] { return IsWindow(window) == 0; });
+}
+
+void Answer(const MessageBoxSeen& box, int button) {
+  Window(box.handle).PostCommand(button);
+  WaitUntilGone(box.handle);
+}
+
+void ClickOn(HWND control) {
+  RECT place = {};
+  GetWindowRect(control, &place);
+  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  INPUT press = {};
+  press.type = INPUT_MOUSE;
+  press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  INPUT release = press;
+  release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  SendInputs({press, release});
+}
+
+void TypeKeys(std::string_view keys) {
+  for (const char key : keys) {
+    const SHORT code = VkKeyScanA(key);
+    SendInputs({KeyInput(LOBYTE(code), false), KeyInput(LOBYTE(code), true)});
+  }
+}
+
+void PressKey(WORD virtual_key, bool with_alt) {
+  std::vector<INPUT> inputs = {KeyInput(virtual_key, false), KeyInput(virtual_key, true)};
+  if (with_alt) {
+    inputs.insert(inputs.begin(), KeyInput(VK_MENU, false));
+    inputs.push_back(KeyInput(VK_MENU, true));
+  }
+  SendInputs(inputs);
+}
+
+}  // namespace velnor::desktop

@@ -1,0 +1,123 @@
+// Drives the real velnor.exe from outside, through the messages and input events of the platform,
+// as a person or an assistive tool would. Everything the driver starts, it ends.
+
+#ifndef VELNOR_TESTS_DESKTOP_DRIVER_H_
+#define VELNOR_TESTS_DESKTOP_DRIVER_H_
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velnor::desktop {
+
+// A folder of its own for one run of the program, empty at first and gone with the object.
+class WorkFolder {
+ public:
+  WorkFolder();
+  WorkFolder(const WorkFolder&) = delete;
+  WorkFolder& operator=(const WorkFolder&) = delete;
+  ~WorkFolder();
+
+  const std::string& path() const { return path_; }  // with a separator at its end
+  void Write(const std::string& name, std::string_view bytes) const;
+  // The bytes of a file; nothing when there is no such file.
+  std::optional<std::string> Read(const std::string& name) const;
+  // The names of everything in the folder, sorted.
+  std::vector<std::string> Names() const;
+
+ private:
+  std::string path_;
+};
+
+// One window of the program with its controls: the main window or a dialog. Controls are addressed
+// by id; of several with the same id `nth` chooses one, counted from 0 in the order of creation.
+class Window {
+ public:
+  explicit Window(HWND handle) : handle_(handle) {}
+
+  HWND handle() const { return handle_; }
+  std::string Caption() const;
+  HWND Control(int id, int nth = 0) const;
+  std::vector<HWND> Controls() const;
+  bool IsShown(int id, int nth = 0) const;
+
+  std::string Text(int id) const;
+  void SetText(int id, const std::string& text) const;
+  // List boxes and combo boxes.
+  std::vector<std::string> Items(int id) const;
+  std::optional<std::string> Selected(int id) const;
+  // Selects the item and tells the window, as a click on it does. False: there is no such item.
+  bool Choose(int id, const std::string& item) const;
+
+  // Sends a menu command or a press of a button and returns when it has been carried out.
+  void Command(int id, int notification = 0) const;
+  // The same without waiting: for what opens a box that waits for an answer.
+  void PostCommand(int id) const;
+
+  // Saves what the screen shows of the window as a 24-bit bitmap file.
+  void SavePicture(const std::string& path) const;
+
+ private:
+  HWND handle_;
+};
+
+// A message box of the program while it is open.
+struct MessageBoxSeen {
+  HWND handle;
+  std::string caption;
+  std::string text;
+};
+
+class App {
+ public:
+  // Starts velnor.exe (it lies beside this test program) in `folder` and waits for its main window.
+  explicit App(const WorkFolder& folder);
+  App(const App&) = delete;
+  App& operator=(const App&) = delete;
+  ~App();
+
+  const Window& main() const { return main_; }
+  bool IsRunning() const;
+  // The exit code, once the program has ended by itself; nothing when it goes on running.
+  std::optional<DWORD> WaitForExit() const;
+
+  // Whether a menu item can be chosen. Nothing when the menu has no such item.
+  std::optional<bool> IsMenuItemEnabled(int command) const;
+  // The menu from left to right and top to bottom: "> text" for a popup, its items behind it as
+  // "id text", "-" for a separator.
+  std::vector<std::string> MenuTexts() const;
+
+  // The dialog or message box that has opened since; a null handle when none comes.
+  Window WaitForPopup() const;
+  MessageBoxSeen WaitForMessageBox() const;
+
+  // Waits until the program has dealt with everything it was sent so far.
+  void Settle() const;
+
+ private:
+  // Runs a function of the platform with up to five arguments inside the program and returns its
+  // result: menus can be read only from within the process they belong to.
+  DWORD CallInside(const char* function, std::vector<ULONG_PTR> arguments) const;
+  void AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const;
+
+  PROCESS_INFORMATION process_ = {};
+  Window main_{nullptr};
+};
+
+// Presses a button of an open box and waits until the box is gone.
+void Answer(const MessageBoxSeen& box, int button);
+
+// Whether the window is gone before patience is.
+bool WaitUntilGone(HWND window);
+
+// Real input events, which go to whatever window is in front, as from mouse and keyboard.
+void ClickOn(HWND control);
+void TypeKeys(std::string_view keys);  // letters, digits and points
+void PressKey(WORD virtual_key, bool with_alt = false);
+
+}  // namespace velnor::desktop
+
+#endif  // VELNOR_TESTS_DESKTOP_DRIVER_H_

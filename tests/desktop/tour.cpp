@@ -1,0 +1,96 @@
+// Walks through the program and saves a picture of every screen and dialog, named for what it
+// shows. Usage: velnor_tour.exe FOLDER
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "tests/desktop/driver.h"
+
+namespace velnor::desktop {
+namespace {
+
+class Tour {
+ public:
+  explicit Tour(std::string folder) : pictures_(std::move(folder)) {}
+
+  void Walk() const {
+    Take("home");
+    app_.main().Command(231);
+    Take("counter-empty");
+    app_.main().Choose(124, "fruits");
+    Take("counter-category-chosen");
+    app_.main().Choose(125, "frozen");
+    app_.main().Choose(126, "frozen strawberries");
+    Take("counter-product-chosen");
+    app_.main().SetText(128, "250");
+    Take("counter-weight-typed");
+    ClickOn(app_.main().Control(124));
+    Take("counter-categories-dropped-down");
+    PressKey(VK_ESCAPE);
+
+    app_.main().Command(236);
+    app_.main().Choose(108, "milk preserves");
+    app_.main().Choose(110, "milk");
+    app_.main().Choose(109, "milk 3,5%");
+    app_.main().SetText(111, "250");
+    Take("overview");
+
+    for (const auto& [command, name] : kOtherScreens) {
+      app_.main().Command(command);
+      Take(name);
+    }
+
+    app_.main().PostCommand(250);
+    const Window about = app_.WaitForPopup();
+    TakeWindow(about, "about");
+    about.PostCommand(IDOK);
+    WaitUntilGone(about.handle());
+
+    app_.main().PostCommand(211);
+    const MessageBoxSeen box = app_.WaitForMessageBox();
+    TakeWindow(Window(box.handle), "not-yet-available");
+    Answer(box, IDOK);
+  }
+
+ private:
+  struct ScreenName {
+    int command;
+    const char* name;
+  };
+  static constexpr ScreenName kOtherScreens[] = {
+      {221, "bmi"},          {224, "whr"},        {210, "weight-report"},
+      {232, "requirement"},  {238, "activities"}, {233, "balance"},
+      {270, "weight-chart"}, {225, "bmr"},        {239, "energy-balance"},
+      {252, "exchanges"},
+  };
+
+  void Take(const std::string& name) const { TakeWindow(app_.main(), name); }
+
+  void TakeWindow(const Window& window, const std::string& name) const {
+    app_.Settle();
+    Sleep(200);  // the display draws a moment after the program has finished
+    window.SavePicture(pictures_ + '\\' + name + ".bmp");
+  }
+
+  std::string pictures_;
+  WorkFolder folder_;
+  App app_{folder_};
+};
+
+}  // namespace
+}  // namespace velnor::desktop
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fputs("usage: velnor_tour FOLDER\n", stderr);
+    return 2;
+  }
+  try {
+    velnor::desktop::Tour(argv[1]).Walk();
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "velnor_tour: %s\n", failure.what());
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,126 @@
+// The painting frame: background, header and controls of every screen.
+
+#include "shell/screens.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_fixture.h"
+
+namespace velnor {
+namespace {
+
+using ScreensTest = ProgramTest;
+
+constexpr int kOverviewFind = SecondControl(149);
+
+struct ExpectedScreen {
+  int command;  // 0: the screen after start
+  const char* background;
+  std::set<int> controls;
+};
+
+// By screen number.
+const std::map<ScreenId, ExpectedScreen>& ExpectedScreens() {
+  static const std::set<int> reports = {119, 151, 152, 153, 154, 155, 156, 157, 158};
+  static const std::map<ScreenId, ExpectedScreen> screens = {
+      {0, {0, "TLO", {}}},
+      {1, {221, "BMI2", {101, 102, 103}}},
+      {2, {224, "WHR", {104, 105, 106, 107}}},
+      {3,
+       {236,
+        "POS",
+        {108, 109, 110, 111, 112, 113, 114, 115, 116, 117, 118, kOverviewFind, 185, 186}}},
+      {4, {210, "BCG", reports}},
+      {5, {214, "BCG", reports}},
+      {6, {232, "ZAAP", {120, 121, 122, 123, 166, 167, 168, 169, 170, 171, 172, 173, 174, 175}}},
+      {7, {231, "POS", {124, 125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135, 136, 137,
+                        138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 149, 183, 184}}},
+      {8, {212, "BCG", reports}},
+      {9, {213, "BCG", {}}},
+      {10, {238, "SPAL", {159, 160, 161, 162, 163, 164, 177, 179, 180}}},
+      {11, {215, "BCG", {}}},
+      {12, {233, "BILANS", {165}}},
+      {13, {270, "BCG", {}}},
+      {14, {271, "BCG", {}}},
+      {15, {272, "BCG", {}}},
+      {16, {273, "BCG", {}}},
+      {17, {274, "BCG", {}}},
+      {18, {225, "SPAL", {101, 176}}},
+      {19, {239, "SPAL", {181, 182}}},
+      {20, {252, "POS", {}}},
+  };
+  return screens;
+}
+
+TEST_F(ScreensTest, EveryScreenHasItsBackgroundHeaderAndControls) {
+  Start();
+  const std::vector<DrawnText> header = {{"user: NONE", {10, 2}, {14, 0, false}, {0, 0, 0}},
+                                         {kTestDate, {720, 2}, {14, 0, false}, {0, 0, 0}}};
+  const DrawnLine rule = {{{4, 20}, {790, 20}}, {{0, 0, 0}, 1}};
+  ASSERT_EQ(Screens().size(), ExpectedScreens().size());
+  for (const auto& [screen, expected] : ExpectedScreens()) {
+    const RecordingCanvas canvas = expected.command == 0 ? Repaint() : Open(expected.command);
+    EXPECT_EQ(program_->session().screen, screen);
+    EXPECT_EQ(canvas.backgrounds, std::vector<std::string>{expected.background}) << screen;
+    ASSERT_GE(canvas.texts.size(), 2U) << screen;
+    EXPECT_EQ(std::vector<DrawnText>(canvas.texts.begin(), canvas.texts.begin() + 2), header);
+    ASSERT_GE(canvas.lines.size(), 1U) << screen;
+    EXPECT_EQ(canvas.lines[0], rule) << screen;
+    EXPECT_EQ(form_.ShownKeys(), expected.controls) << screen;
+  }
+}
+
+TEST_F(ScreensTest, TheHomeScreenCarriesTheHeaderOnly) {
+  Start();
+  const RecordingCanvas canvas = Repaint();
+  EXPECT_EQ(canvas.texts.size(), 2U);
+  EXPECT_EQ(canvas.lines.size(), 1U);
+}
+
+TEST_F(ScreensTest, ScreensDoNotInheritControls) {
+  Start();
+  Open(231);
+  Open(221);
+  EXPECT_EQ(form_.ShownKeys(), (std::set<int>{101, 102, 103}));
+}
+
+TEST_F(ScreensTest, AnUnknownScreenPaintsNothing) {
+  Program& program = Start();
+  Open(231);
+  program.ShowScreen(21);
+  const RecordingCanvas canvas = Repaint();
+  EXPECT_TRUE(canvas.backgrounds.empty());
+  EXPECT_TRUE(canvas.texts.empty());
+  EXPECT_TRUE(canvas.lines.empty());
+  EXPECT_TRUE(form_.ShownKeys().empty());
+}
+
+TEST_F(ScreensTest, TheWheelScrollsReportsOneLineWhateverTheDistance) {
+  Program& program = Start();
+  for (const auto& [screen, expected] : ExpectedScreens()) {
+    program.ShowScreen(screen);
+    const std::size_t before = form_.Log().size();
+    program.OnMouseWheel(-120 * 65536);
+    program.OnMouseWheel(-360 * 65536);
+    program.OnMouseWheel(120 * 65536);
+    const std::vector<std::string> scrolled(
+        form_.Log().begin() + static_cast<std::ptrdiff_t>(before), form_.Log().end());
+    const bool is_report = screen == 4 || screen == 5 || screen == 8 || screen == 9 || screen == 11;
+    EXPECT_EQ(scrolled, is_report ? (std::vector<std::string>{"scroll 119 down", "scroll 119 down",
+                                                              "scroll 119 up"})
+                                  : std::vector<std::string>{})
+        << screen;
+  }
+}
+
+TEST_F(ScreensTest, BackgroundsAreThoseThatTheScreensName) {
+  std::set<std::string> named;
+  for (const ScreenRow& screen : Screens()) named.insert(std::string(screen.background));
+  EXPECT_EQ(named, std::set<std::string>(BackgroundNames().begin(), BackgroundNames().end()));
+}
+
+}  // namespace
+}  // namespace velnor

@@ -1,0 +1,146 @@
+#include "tests/support/fake_form.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace velnor {
+namespace {
+
+constexpr int kEditChanged = 0x0300;  // what the platform sends after kEditUpdated
+
+bool ComesBefore(const std::string& a, const std::string& b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
+}
+
+}  // namespace
+
+bool FakeForm::Control::IsSorted() const {
+  return (control_class == ControlClass::kListBox && (style & control_style::kSortedList) != 0) ||
+         (control_class == ControlClass::kComboBox && (style & control_style::kSortedCombo) != 0);
+}
+
+void FakeForm::AddMainWindowControls() {
+  for (const ControlRow& row : MainWindowControls()) {
+    const bool taken = controls_.contains(row.id);
+    AddControl(taken ? SecondControl(row.id) : row.id, row.control_class, row.style);
+  }
+}
+
+void FakeForm::AddControl(int key, ControlClass control_class, std::uint32_t style) {
+  controls_[key] = {.control_class = control_class, .style = style, .text = {}, .items = {}};
+}
+
+void FakeForm::Choose(int id, const std::string& item) {
+  Control* const control = Find(id);
+  ASSERT_NE(control, nullptr) << "no control " << id;
+  const auto found = std::ranges::find(control->items, item);
+  ASSERT_NE(found, control->items.end()) << "control " << id << " has no item " << item;
+  control->selection = static_cast<int>(found - control->items.begin());
+  Notify(id, kSelectionChanged);
+}
+
+void FakeForm::Type(int id, const std::string& text) {
+  Control* const control = Find(id);
+  ASSERT_NE(control, nullptr) << "no control " << id;
+  // Typing changes the text character by character, and each change is announced.
+  for (std::size_t length = 0; length <= text.size(); ++length) {
+    control->text = text.substr(0, length);
+    Notify(id, kEditUpdated);
+    Notify(id, kEditChanged);
+  }
+}
+
+void FakeForm::Press(int id) { Notify(id, kButtonClicked); }
+
+const std::vector<std::string>& FakeForm::Items(int id) const { return Find(id)->items; }
+
+std::set<int> FakeForm::ShownKeys() const {
+  std::set<int> keys;
+  for (const auto& [key, control] : controls_) {
+    if (control.shown) keys.insert(key);
+  }
+  return keys;
+}
+
+std::string FakeForm::ReadText(int id, std::size_t limit) const {
+  const Control* const control = Find(id);
+  if (control == nullptr) return {};
+  if (control->control_class == ControlClass::kComboBox) {
+    return SelectedText(id).value_or("").substr(0, limit);
+  }
+  return control->text.substr(0, limit);
+}
+
+void FakeForm::SetText(int id, std::string_view text) {
+  Control* const control = Find(id);
+  if (control == nullptr) return;
+  control->text = text;
+  const bool is_edit = control->control_class == ControlClass::kEdit;
+  if (is_edit && (control->style & control_style::kMultiLine) == 0) {
+    Notify(id, kEditUpdated);
+    Notify(id, kEditChanged);
+  }
+}
+
+int FakeForm::ItemCount(int id) const {
+  const Control* const control = Find(id);
+  return control == nullptr ? 0 : static_cast<int>(control->items.size());
+}
+
+void FakeForm::AddItem(int id, std::string_view text) {
+  Control* const control = Find(id);
+  if (control == nullptr) return;
+  const std::string item(text);
+  const auto place = control->IsSorted()
+                         ? std::ranges::lower_bound(control->items, item, ComesBefore)
+                         : control->items.end();
+  const auto index = place - control->items.begin();
+  control->items.insert(place, item);
+  if (control->selection >= index) ++control->selection;
+}
+
+void FakeForm::ClearItems(int id) {
+  Control* const control = Find(id);
+  if (control == nullptr) return;
+  control->items.clear();
+  control->selection = -1;
+}
+
+std::optional<std::string> FakeForm::SelectedText(int id) const {
+  const Control* const control = Find(id);
+  if (control == nullptr || control->selection < 0) return std::nullopt;
+  return control->items[static_cast<std::size_t>(control->selection)];
+}
+
+void FakeForm::ScrollLine(int id, bool down) {
+  log_.push_back("scroll " + std::to_string(id) + (down ? " down" : " up"));
+}
+
+void FakeForm::Show(int key) {
+  Control* const control = Find(key);
+  ASSERT_NE(control, nullptr) << "no control " << key;
+  control->shown = true;
+}
+
+void FakeForm::HideAll() {
+  for (auto& [key, control] : controls_) control.shown = false;
+}
+
+void FakeForm::Close() { log_.emplace_back("close"); }
+
+FakeForm::Control* FakeForm::Find(int key) {
+  const auto found = controls_.find(key);
+  return found == controls_.end() ? nullptr : &found->second;
+}
+
+const FakeForm::Control* FakeForm::Find(int key) const {
+  const auto found = controls_.find(key);
+  return found == controls_.end() ? nullptr : &found->second;
+}
+
+void FakeForm::Notify(int id, int notification) {
+  if (listener_) listener_(id, notification);
+}
+
+}  // namespace velnor

@@ -1,0 +1,78 @@
+// Controls that behave as the platform's do, without a window: sorted lists compare letters without
+// regard to case, a refill loses the selection, and notifications come where the platform sends
+// them: from the user's own choices, and from every new text of a single-line edit.
+
+#ifndef VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
+#define VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/form.h"
+#include "shell/controls.h"
+
+namespace velnor {
+
+class FakeForm final : public Form {
+ public:
+  using Listener = std::function<void(int id, int notification)>;
+
+  FakeForm() = default;
+
+  // All controls of the main window.
+  void AddMainWindowControls();
+  void AddControl(int key, ControlClass control_class, std::uint32_t style);
+  // Who hears of notifications.
+  void SetListener(Listener listener) { listener_ = std::move(listener); }
+
+  // What a person does. An item that the list does not have, or a control that does not exist,
+  // fails the test.
+  void Choose(int id, const std::string& item);
+  void Type(int id, const std::string& text);
+  void Press(int id);
+
+  // What a person sees.
+  std::string Text(int id) const { return ReadText(id, std::string::npos); }
+  const std::vector<std::string>& Items(int id) const;
+  std::set<int> ShownKeys() const;
+  const std::vector<std::string>& Log() const { return log_; }  // scrolls and closings, in order
+
+  std::string ReadText(int id, std::size_t limit) const override;
+  void SetText(int id, std::string_view text) override;
+  int ItemCount(int id) const override;
+  void AddItem(int id, std::string_view text) override;
+  void ClearItems(int id) override;
+  std::optional<std::string> SelectedText(int id) const override;
+  void ScrollLine(int id, bool down) override;
+  void Show(int key) override;
+  void HideAll() override;
+  void Close() override;
+
+ private:
+  struct Control {
+    ControlClass control_class;
+    std::uint32_t style;
+    std::string text;
+    std::vector<std::string> items;
+    int selection = -1;
+    bool shown = false;
+
+    bool IsSorted() const;
+  };
+
+  Control* Find(int key);
+  const Control* Find(int key) const;
+  void Notify(int id, int notification);
+
+  std::map<int, Control> controls_;
+  std::vector<std::string> log_;
+  Listener listener_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_TESTS_SUPPORT_FAKE_FORM_H_

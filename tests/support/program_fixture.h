@@ -1,0 +1,77 @@
+// The whole program over stand-ins: every test gets its own, in an empty folder of its own.
+
+#ifndef VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
+#define VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
+
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shell/program.h"
+#include "tests/support/fake_form.h"
+#include "tests/support/recording_canvas.h"
+#include "tests/support/temporary_folder.h"
+
+namespace velnor {
+
+// Keeps what the program asked of its main window.
+class FakeMainWindow final : public MainWindow {
+ public:
+  void Invalidate() override { log.emplace_back("invalidate"); }
+  void PaintNow() override { log.emplace_back("paint now"); }
+  void Close() override { log.emplace_back("close"); }
+  void EnableMenuItem(int command, bool enabled) override { menu[command] = enabled; }
+  void RunDialog(int resource_id, Dialog& dialog) override;
+  void OpenHelp(std::string_view file_name) override {
+    log.push_back("help " + std::string(file_name));
+  }
+
+  std::vector<std::string> log;
+  std::map<int, bool> menu;  // command to whether it can be chosen
+};
+
+// Keeps the boxes that were shown and answers each with OK.
+class FakeMessageBoxes final : public MessageBoxes {
+ public:
+  struct Shown {
+    std::string text;
+    std::string caption;
+    MessageButtons buttons;
+    MessageIcon icon;
+    MessageOwner owner;
+  };
+
+  Answer Show(const Message& message) override {
+    shown.push_back({std::string(message.text), std::string(message.caption), message.buttons,
+                     message.icon, message.owner});
+    return Answer::kOk;
+  }
+
+  std::vector<Shown> shown;
+};
+
+class ProgramTest : public testing::Test {
+ protected:
+  ProgramTest();
+
+  // Starts the program; files of the folder are written before.
+  Program& Start();
+  // The repaint that follows a change of screen.
+  RecordingCanvas Repaint();
+  // Chooses the command and repaints.
+  RecordingCanvas Open(int command);
+
+  TemporaryFolder folder_;
+  FakeForm form_;
+  FakeMainWindow window_;
+  FakeMessageBoxes boxes_;
+  std::optional<Program> program_;
+};
+
+inline constexpr const char* kTestDate = "16.11.2026";
+
+}  // namespace velnor
+
+#endif  // VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
