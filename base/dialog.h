@@ -16,7 +16,8 @@ class Dialog {
  public:
   virtual ~Dialog() = default;
 
-  // Called once, when the controls exist and nothing is shown yet.
+  // Called once, when the controls exist and nothing is shown yet. Where it leaves the keyboard
+  // focus, the focus stays; otherwise the first control that takes it gets it.
   virtual void OnOpen(Form& form) = 0;
 
   // Called for every notification of a control; menu and accelerator ids arrive as

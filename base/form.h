@@ -39,6 +39,10 @@ class Form {
   virtual void ClearItems(int id) = 0;  // takes the selection with it
   // The text of the selected item; nothing when no item is selected.
   virtual std::optional<std::string> SelectedText(int id) const = 0;
+  // Takes the selected item off a list box; without a selection nothing happens.
+  virtual void RemoveSelectedItem(int id) = 0;
+
+  virtual void Focus(int id) = 0;
 
   // Scrolls an edit by one line.
   virtual void ScrollLine(int id, bool down) = 0;

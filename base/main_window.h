@@ -24,6 +24,11 @@ class MainWindow {
   // Enables or greys a menu item. A command without an item is ignored.
   virtual void EnableMenuItem(int command, bool enabled) = 0;
 
+  // Opens the dialog template `resource_id` and returns at once. The dialog lives until it is
+  // closed. Of several open dialogs the newest gets the keyboard's dialog keys; closing any of them
+  // leaves none that gets them.
+  virtual void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
+
   // Opens the dialog template `resource_id` and waits until it is closed.
   virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
 

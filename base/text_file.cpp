@@ -3,17 +3,36 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <utility>
+
+#include "base/file_calls.h"
 
 namespace velnor {
+namespace {
 
-std::string ReadFile(const std::string& path, std::size_t limit) {
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
-  std::string text;
-  if (!file) return text;
+struct Closer {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, Closer>;
+
+File Open(const std::string& path, const char* mode) {
+  return File(std::fopen(path.c_str(), mode));
+}
+
+bool Write(std::FILE* file, std::string_view bytes) {
+  return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+}
+
+// Closing reports what the system could not write until then.
+bool Close(File file) { return std::fclose(file.release()) == 0; }
+
+}  // namespace
+
+std::optional<std::string> ReadFileIfThere(const std::string& path, std::size_t limit) {
+  const File file = Open(path, "rb");
+  if (!file) return std::nullopt;
   constexpr std::size_t kBlock = 65'536;
+  std::string text;
   while (text.size() < limit) {
     const std::size_t had = text.size();
     const std::size_t wanted = std::min(limit - had, kBlock);
@@ -22,10 +41,59 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
     text.resize(had + got);
     if (got < wanted) break;
   }
+  if (std::ferror(file.get()) != 0) return std::nullopt;
   return text;
 }
 
+std::string ReadFile(const std::string& path, std::size_t limit) {
+  return ReadFileIfThere(path, limit).value_or("");
+}
+
+bool AppendToFile(const std::string& path, std::string_view text) {
+  const std::string bytes = WithCrLf(text);
+  File file = Open(path, "ab");
+  if (!file) return false;
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);  // the text goes to the system whole
+  if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
+  const std::int64_t size = std::ftell(file.get());
+  if (size < 0) return false;
+  if (Write(file.get(), bytes) && FlushToDisk(file.get())) return Close(std::move(file));
+  CutBack(file.get(), size);
+  return false;
+}
+
+std::string TemporaryPath(const std::string& path) { return path + ".new"; }
+
+bool ReplaceFile(const std::string& path, std::string_view bytes) {
+  const std::string temporary = TemporaryPath(path);
+  File file = Open(temporary, "wb");
+  if (!file) return false;
+  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
+  const bool closed = Close(std::move(file));
+  if (written && closed && ReplaceByRename(temporary, path)) return true;
+  std::remove(temporary.c_str());
+  return false;
+}
+
+std::string WithCrLf(std::string_view text) {
+  std::string result;
+  result.reserve(text.size() + text.size() / 16);
+  char previous = '\0';
+  for (const char c : text) {
+    if (c == '\n' && previous != '\r') result += '\r';
+    result += c;
+    previous = c;
+  }
+  return result;
+}
+
 std::optional<std::string_view> LineReader::Next() {
+  const std::optional<std::string_view> piece = NextWhole();
+  if (!piece) return piece;
+  return piece->substr(0, piece->find('\0'));
+}
+
+std::optional<std::string_view> LineReader::NextWhole() {
   if (rest_.empty()) return std::nullopt;
   std::size_t end = 0;       // of the piece's own characters
   std::size_t consumed = 0;  // the piece and its line end
@@ -42,7 +110,7 @@ std::optional<std::string_view> LineReader::Next() {
   }
   const std::string_view piece = rest_.substr(0, end);
   rest_.remove_prefix(consumed);
-  return piece.substr(0, piece.find('\0'));
+  return piece;
 }
 
 }  // namespace velnor

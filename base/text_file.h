@@ -10,10 +10,29 @@
 
 namespace velnor {
 
-// The first `limit` bytes of a file, as they stand on disk. A file that is missing or cannot be
-// read gives empty text, like an empty one: every reader of the program treats them alike.
-// `path` is in the machine's own code page.
+// The first `limit` bytes of a file, as they stand on disk. Nothing when the file is missing or
+// cannot be read. `path` is in the machine's own code page, here and below.
+std::optional<std::string> ReadFileIfThere(const std::string& path, std::size_t limit);
+
+// The same; a file that is missing or cannot be read gives empty text, like an empty one: most
+// readers of the program treat them alike.
 std::string ReadFile(const std::string& path, std::size_t limit);
+
+// Adds `text` to the end of the file, which is made when it is missing. Every line end of the text
+// goes to disk as CR LF. The text is written in one call; when that fails, the file is cut back to
+// what it was. False when the file is not longer by all of the text.
+bool AppendToFile(const std::string& path, std::string_view text);
+
+// Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
+// anything between: they are written to a file beside it, which then takes its place. False when
+// the old ones remain.
+bool ReplaceFile(const std::string& path, std::string_view bytes);
+
+// What ReplaceFile calls the file that it writes beside `path`.
+std::string TemporaryPath(const std::string& path);
+
+// `text` with every line end, LF or CR LF, as CR LF.
+std::string WithCrLf(std::string_view text);
 
 // Takes a text apart into lines the way the data files are read: CR LF and LF both end a line, and
 // the last line needs no end. A line longer than the limit comes in several pieces, each at most
@@ -25,6 +44,10 @@ class LineReader {
 
   // The next piece without its line end; nothing at the end of the text.
   std::optional<std::string_view> Next();
+  // The same with all its bytes, NULs and what follows them included.
+  std::optional<std::string_view> NextWhole();
+  // What has not been read yet.
+  std::string_view rest() const { return rest_; }
 
  private:
   std::string_view rest_;

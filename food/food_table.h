@@ -50,6 +50,8 @@ class UserProductTable {
   static constexpr std::size_t kSlots = 3000;
   // Characters of a line; the rest of a longer one counts as another line.
   static constexpr std::size_t kLineLimit = 149;
+  // Lines this short are remains, not products.
+  static constexpr std::size_t kShortLine = 5;
 
   UserProductTable() = default;
   UserProductTable(const UserProductTable&) = delete;

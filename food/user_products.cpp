@@ -4,9 +4,6 @@
 namespace velnor {
 namespace {
 
-// Lines this short are remains, not products.
-constexpr std::size_t kShortLine = 5;
-
 // The most bytes that 3000 lines can take: each at most 149 characters, where CR LF is one.
 constexpr std::size_t kReadLimit = UserProductTable::kSlots * (UserProductTable::kLineLimit + 1);
 

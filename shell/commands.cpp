@@ -27,6 +27,10 @@ void SayNotAvailable(Program& program) {
   program.message_boxes().Show({.text = "Function not yet available"});
 }
 
+void OpenAddProduct(Program& program) { program.OpenAddProduct(); }
+
+void OpenRemoveProduct(Program& program) { program.OpenRemoveProduct(); }
+
 // Commands whose dialogs are still to come; they do nothing yet.
 void OpenNothing(Program& /*program*/) {}
 
@@ -50,10 +54,10 @@ constexpr CommandRow kCommands[] = {
     {234, SayNotAvailable},  //
     {235, SayNotAvailable},  //
     {237, SayNotAvailable},  //
-    {240, OpenNothing},      // add product
-    {241, OpenNothing},      // remove product
-    {250, OpenAboutBox},     //
-    {251, OpenHelp},         //
+    {240, OpenAddProduct},
+    {241, OpenRemoveProduct},
+    {250, OpenAboutBox},  //
+    {251, OpenHelp},      //
 };
 
 // Menu ids; outside of them an id always belongs to a control.

@@ -2,8 +2,13 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <utility>
 
+#include "food/add_product_dialog.h"
+#include "food/remove_product_dialog.h"
+#include "food/search_dialog.h"
+#include "food/user_product_file.h"
 #include "shell/commands.h"
 #include "shell/header.h"
 #include "shell/menu_states.h"
@@ -11,8 +16,6 @@
 
 namespace velnor {
 namespace {
-
-constexpr const char* kUserProductsFile = "data.txt";
 
 constexpr int kReportEdit = 119;
 constexpr ScreenId kReportScreens[] = {4, 5, 8, 9, 11};
@@ -31,6 +34,7 @@ constexpr ControlEvent kControlEvents[] = {
     {124, kSelectionChanged, [](Program& p) { p.counter().OnMainCategoryChosen(); }},
     {125, kSelectionChanged, [](Program& p) { p.counter().OnSubcategoryChosen(); }},
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
+    {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
 };
 
@@ -47,7 +51,7 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
-  food_.user_products.Load(session_.base_folder + kUserProductsFile);
+  food_.user_products.Load(UserProductsPath());
 }
 
 void Program::OnCommand(int id, int notification) {
@@ -84,6 +88,24 @@ void Program::LogOut() {
   session_.user_name.clear();
   session_.screen = kHomeScreen;
   window_.PaintNow();
+}
+
+void Program::OpenAddProduct() {
+  window_.OpenDialog(kAddProductResource,
+                     std::make_unique<AddProductDialog>(food_, UserProductsPath(), message_boxes_));
+}
+
+void Program::OpenRemoveProduct() {
+  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
+                                                 food_, UserProductsPath(), message_boxes_));
+}
+
+void Program::OpenSearch() {
+  window_.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food_));
+}
+
+std::string Program::UserProductsPath() const {
+  return session_.base_folder + std::string(kUserProductsFile);
 }
 
 }  // namespace velnor

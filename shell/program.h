@@ -45,6 +45,9 @@ class Program {
   // What the commands and screens of the tables work with.
   void ShowScreen(ScreenId screen);
   void LogOut();
+  void OpenAddProduct();
+  void OpenRemoveProduct();
+  void OpenSearch();
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
   MainWindow& window() { return window_; }
@@ -52,6 +55,8 @@ class Program {
   const SessionState& session() const { return session_; }
 
  private:
+  std::string UserProductsPath() const;
+
   SessionState session_;
   Form& form_;
   MainWindow& window_;

@@ -1,29 +1,126 @@
 #include "shell/win32/dialog_host.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "shell/win32/window_form.h"
 
 namespace velnor {
 namespace {
 
-// A modal dialog's window ends its loop instead of being destroyed by us.
-class ModalForm final : public WindowForm {
+// A dialog object with its window. It lives from the opening of the window until the window is gone
+// and the last handler has returned: a handler may close its own window.
+class Host final : public WindowForm {
  public:
-  explicit ModalForm(HWND dialog) : WindowForm(dialog) {}
-  void Close() override { EndDialog(window(), 0); }
+  Host(HWND window, Dialog& dialog) : WindowForm(window), dialog_(&dialog) {}
+  Host(HWND window, std::unique_ptr<Dialog> dialog, std::function<void()> on_close)
+      : WindowForm(window),
+        dialog_(dialog.get()),
+        owned_dialog_(std::move(dialog)),
+        on_close_(std::move(on_close)) {}
+
+  void Close() override {
+    if (on_close_ == nullptr) {
+      EndDialog(window(), 0);
+    } else {
+      on_close_();
+      DestroyWindow(window());
+    }
+  }
+
+  void Open() { dialog_->OnOpen(*this); }
+
+  void Command(int id, int notification) {
+    ++running_handlers_;
+    dialog_->OnCommand(*this, id, notification);
+    --running_handlers_;
+    DeleteWhenDone();
+  }
+
+  void WindowIsGone() {
+    window_is_gone_ = true;
+    DeleteWhenDone();
+  }
+
+ private:
+  void DeleteWhenDone() {
+    if (window_is_gone_ && running_handlers_ == 0) delete this;
+  }
+
+  Dialog* dialog_;
+  std::unique_ptr<Dialog> owned_dialog_;  // a modal dialog belongs to its caller
+  std::function<void()> on_close_;        // null for a modal dialog
+  int running_handlers_ = 0;
+  bool window_is_gone_ = false;
 };
 
+// What the opening message carries.
+struct Opening {
+  Dialog* modal_dialog = nullptr;
+  std::unique_ptr<Dialog> modeless_dialog = nullptr;
+  std::function<void()> on_close = nullptr;
+
+  Host* MakeHost(HWND window) {
+    if (modal_dialog != nullptr) return new Host(window, *modal_dialog);
+    return new Host(window, std::move(modeless_dialog), std::move(on_close));
+  }
+};
+
+bool HasClass(HWND control, const char* class_name) {
+  char name[16] = {};
+  GetClassNameA(control, name, sizeof name);
+  return lstrcmpiA(name, class_name) == 0;
+}
+
+// Where a template lets a list box reach over the buttons below it, the list ends above them. It
+// rounds its height to whole lines itself.
+void KeepListsOffButtons(HWND dialog) {
+  constexpr int kGap = 3;
+  const auto place_in_dialog = [dialog](HWND control) {
+    RECT place = {};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  };
+  for (HWND list = GetWindow(dialog, GW_CHILD); list != nullptr;
+       list = GetWindow(list, GW_HWNDNEXT)) {
+    if (!HasClass(list, "listbox")) continue;
+    RECT place = place_in_dialog(list);
+    for (HWND button = GetWindow(dialog, GW_CHILD); button != nullptr;
+         button = GetWindow(button, GW_HWNDNEXT)) {
+      const RECT other = place_in_dialog(button);
+      const bool below = HasClass(button, "button") && other.top > place.top;
+      if (below) place.bottom = std::min(place.bottom, other.top - kGap);
+    }
+    MoveWindow(list, place.left, place.top, place.right - place.left, place.bottom - place.top,
+               FALSE);
+  }
+}
+
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  ModalForm form(window);
+  if (message == WM_INITDIALOG) {
+    Host* const host = reinterpret_cast<Opening*>(lparam)->MakeHost(window);
+    SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
+    KeepListsOffButtons(window);
+    const HWND focus_before = GetFocus();
+    host->Open();
+    return GetFocus() == focus_before ? TRUE : FALSE;
+  }
+  auto* const host = reinterpret_cast<Host*>(GetWindowLongPtrA(window, DWLP_USER));
+  if (host == nullptr) return FALSE;
   switch (message) {
-    case WM_INITDIALOG:
-      SetWindowLongPtrA(window, DWLP_USER, lparam);
-      reinterpret_cast<Dialog*>(lparam)->OnOpen(form);
-      return TRUE;
     case WM_COMMAND:
-      if (auto* const dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(window, DWLP_USER))) {
-        dialog->OnCommand(form, LOWORD(wparam), HIWORD(wparam));
-      }
+      host->Command(LOWORD(wparam), HIWORD(wparam));
       return TRUE;
+    case WM_CTLCOLORSTATIC:
+      // Fixed texts may stand close together: none paints a background over its neighbour.
+      if (!HasClass(reinterpret_cast<HWND>(lparam), "static")) return FALSE;
+      SetBkMode(reinterpret_cast<HDC>(wparam), TRANSPARENT);
+      return reinterpret_cast<INT_PTR>(GetStockObject(NULL_BRUSH));
+    case WM_NCDESTROY:
+      SetWindowLongPtrA(window, DWLP_USER, 0);
+      host->WindowIsGone();
+      return FALSE;
     default:
       return FALSE;
   }
@@ -32,8 +129,18 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wparam, LPARA
 }  // namespace
 
 void RunModalDialog(HINSTANCE instance, HWND owner, int resource_id, Dialog& dialog) {
+  Opening opening{.modal_dialog = &dialog};
   DialogBoxParamA(instance, MAKEINTRESOURCEA(resource_id), owner, DialogProcedure,
-                  reinterpret_cast<LPARAM>(&dialog));
+                  reinterpret_cast<LPARAM>(&opening));
+}
+
+HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
+                        std::unique_ptr<Dialog> dialog, std::function<void()> on_close) {
+  Opening opening{.modeless_dialog = std::move(dialog), .on_close = std::move(on_close)};
+  const HWND window = CreateDialogParamA(instance, MAKEINTRESOURCEA(resource_id), owner,
+                                         DialogProcedure, reinterpret_cast<LPARAM>(&opening));
+  if (window != nullptr) ShowWindow(window, SW_SHOW);
+  return window;
 }
 
 }  // namespace velnor

@@ -5,6 +5,9 @@
 
 #include <windows.h>
 
+#include <functional>
+#include <memory>
+
 #include "base/dialog.h"
 
 namespace velnor {
@@ -12,6 +15,11 @@ namespace velnor {
 // Opens the dialog template `resource_id` over `owner` and returns when it is closed. A template
 // that cannot be opened is treated as closed at once.
 void RunModalDialog(HINSTANCE instance, HWND owner, int resource_id, Dialog& dialog);
+
+// Opens and shows the dialog template `resource_id` over `owner` and returns its window, null when
+// it cannot be opened. `on_close` is called when the dialog closes itself.
+HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
+                        std::unique_ptr<Dialog> dialog, std::function<void()> on_close);
 
 }  // namespace velnor
 

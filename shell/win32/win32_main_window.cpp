@@ -1,6 +1,7 @@
 #include "shell/win32/win32_main_window.h"
 
 #include <string>
+#include <utility>
 
 #include "shell/win32/dialog_host.h"
 
@@ -162,6 +163,11 @@ void Win32MainWindow::Close() { SendMessageA(window_, WM_CLOSE, 0, 0); }
 void Win32MainWindow::EnableMenuItem(int command, bool enabled) {
   ::EnableMenuItem(menu_, static_cast<UINT>(command),
                    static_cast<UINT>(MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED)));
+}
+
+void Win32MainWindow::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
+  modeless_dialog_ = OpenModelessDialog(instance_, window_, resource_id, std::move(dialog),
+                                        [this] { modeless_dialog_ = nullptr; });
 }
 
 void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {

@@ -33,6 +33,7 @@ class Win32MainWindow final : public MainWindow {
   void PaintNow() override;
   void Close() override;
   void EnableMenuItem(int command, bool enabled) override;
+  void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void RunDialog(int resource_id, Dialog& dialog) override;
   void OpenHelp(std::string_view file_name) override;
 

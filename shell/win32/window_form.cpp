@@ -45,6 +45,22 @@ const ListMessages& MessagesOf(HWND control) {
                                                                   : kListBoxMessages;
 }
 
+// A list box that scrolls sideways has to be told how wide its widest item is.
+void WidenTo(HWND list, std::string_view item) {
+  constexpr LRESULT kMargin = 8;
+  const HDC context = GetDC(list);
+  const HGDIOBJ previous =
+      SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
+  SIZE size = {};
+  GetTextExtentPoint32A(context, item.data(), static_cast<int>(item.size()), &size);
+  SelectObject(context, previous);
+  ReleaseDC(list, context);
+  const LRESULT width = size.cx + kMargin;
+  if (width > SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0)) {
+    SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+  }
+}
+
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
 }  // namespace
@@ -71,6 +87,7 @@ int WindowForm::ItemCount(int id) const {
 void WindowForm::AddItem(int id, std::string_view text) {
   const HWND control = Control(id);
   SendMessageA(control, MessagesOf(control).add, 0, ToParameter(std::string(text).c_str()));
+  if ((GetWindowLongA(control, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(control, text);
 }
 
 void WindowForm::ClearItems(int id) {
@@ -91,6 +108,14 @@ std::optional<std::string> WindowForm::SelectedText(int id) const {
   text.resize(static_cast<std::size_t>(length));
   return text;
 }
+
+void WindowForm::RemoveSelectedItem(int id) {
+  const HWND control = Control(id);
+  const LRESULT selection = SendMessageA(control, LB_GETCURSEL, 0, 0);
+  if (selection >= 0) SendMessageA(control, LB_DELETESTRING, static_cast<WPARAM>(selection), 0);
+}
+
+void WindowForm::Focus(int id) { SetFocus(Control(id)); }
 
 void WindowForm::ScrollLine(int id, bool down) {
   SendMessageA(Control(id), EM_SCROLL, static_cast<WPARAM>(down ? SB_LINEDOWN : SB_LINEUP), 0);

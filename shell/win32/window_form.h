@@ -24,6 +24,8 @@ class WindowForm : public Form {
   void AddItem(int id, std::string_view text) override;
   void ClearItems(int id) override;
   std::optional<std::string> SelectedText(int id) const override;
+  void RemoveSelectedItem(int id) override;
+  void Focus(int id) override;
   void ScrollLine(int id, bool down) override;
   void Show(int key) override;
   void HideAll() override;

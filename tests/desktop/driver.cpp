@@ -31,13 +31,14 @@ bool WaitUntil(const std::function<bool()>& condition) {
   return condition();
 }
 
-// The visible top-level window of a process with the given class; null when there is none.
-HWND FindTopWindow(DWORD process_id, const char* class_name) {
+// The foremost visible top-level window of a process that has the given class and is not `known`;
+// null when there is none.
+HWND FindTopWindow(DWORD process_id, const char* class_name, HWND known = nullptr) {
   HWND window = nullptr;
   while ((window = FindWindowExA(nullptr, window, class_name, nullptr)) != nullptr) {
     DWORD owner = 0;
     GetWindowThreadProcessId(window, &owner);
-    if (owner == process_id && IsWindowVisible(window) != 0) return window;
+    if (owner == process_id && IsWindowVisible(window) != 0 && window != known) return window;
   }
   return nullptr;
 }
@@ -393,17 +394,17 @@ void App::AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const
   }
 }
 
-Window App::WaitForPopup() const {
+Window App::WaitForPopup(const Window& known) const {
   HWND popup = nullptr;
   WaitUntil([&] {
-    popup = FindTopWindow(process_.dwProcessId, kDialogClass);
+    popup = FindTopWindow(process_.dwProcessId, kDialogClass, known.handle());
     return popup != nullptr || !IsRunning();
   });
   return Window(popup);
 }
 
-MessageBoxSeen App::WaitForMessageBox() const {
-  const Window box = WaitForPopup();
+MessageBoxSeen App::WaitForMessageBox(const Window& known) const {
+  const Window box = WaitForPopup(known);
   if (box.handle() == nullptr) return {};
   return {box.handle(), box.Caption(), box.Text(kMessageTextId)};
 }

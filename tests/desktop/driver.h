@@ -90,9 +90,10 @@ class App {
   // "id text", "-" for a separator.
   std::vector<std::string> MenuTexts() const;
 
-  // The dialog or message box that has opened since; a null handle when none comes.
-  Window WaitForPopup() const;
-  MessageBoxSeen WaitForMessageBox() const;
+  // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
+  // or an empty box when none comes.
+  Window WaitForPopup(const Window& known = Window(nullptr)) const;
+  MessageBoxSeen WaitForMessageBox(const Window& known = Window(nullptr)) const;
 
   // Waits until the program has dealt with everything it was sent so far.
   void Settle() const;

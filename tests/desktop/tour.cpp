@@ -41,6 +41,8 @@ class Tour {
       Take(name);
     }
 
+    WalkProductDialogs();
+
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
     TakeWindow(about, "about");
@@ -54,6 +56,47 @@ class Tour {
   }
 
  private:
+  void WalkProductDialogs() const {
+    app_.main().Command(240);
+    const Window add = app_.WaitForPopup();
+    TakeWindow(add, "add-product-empty");
+    add.SetText(734, "Apple Pie");
+    add.Choose(732, "sweets");
+    add.Choose(733, "cake");
+    add.SetText(740, "237");
+    add.SetText(736, "1.9");
+    add.SetText(737, "11.0");
+    add.SetText(738, "34.0");
+    TakeWindow(add, "add-product-filled");
+    add.PostCommand(IDOK);
+    const MessageBoxSeen added = app_.WaitForMessageBox(add);
+    TakeWindow(Window(added.handle), "product-added");
+    Answer(added, IDOK);
+    add.Command(IDCANCEL);
+
+    app_.main().Command(149);
+    const Window search = app_.WaitForPopup();
+    search.SetText(728, "apple");
+    search.Command(730);
+    TakeWindow(search, "search");
+    search.SetText(728, "Apple");
+    search.Command(731);
+    search.SetText(728, "Apple");
+    search.Command(730);
+    TakeWindow(search, "search-not-found");
+    search.Command(IDCANCEL);
+
+    app_.main().Command(241);
+    const Window remove = app_.WaitForPopup();
+    remove.Choose(739, "apple pie");
+    TakeWindow(remove, "remove-product");
+    remove.PostCommand(IDOK);
+    const MessageBoxSeen sure = app_.WaitForMessageBox(remove);
+    TakeWindow(Window(sure.handle), "remove-product-sure");
+    Answer(sure, IDYES);
+    remove.Command(IDCANCEL);
+  }
+
   struct ScreenName {
     int command;
     const char* name;

@@ -81,6 +81,12 @@ TEST_F(CommandsTest, AboutOpensItsBoxWhichOkCloses) {
   EXPECT_EQ(window_.log, (Log{"dialog 10000 closed"}));
 }
 
+TEST_F(CommandsTest, DatabaseItemsAndFindOpenTheirDialogs) {
+  Program& program = Start();
+  for (const int id : {240, 241, 149}) program.OnCommand(id, 0);
+  EXPECT_EQ(window_.log, (Log{"open 10010", "open 10011", "open 10009"}));
+}
+
 TEST_F(CommandsTest, LogoutSaysByeAndShowsTheHomeScreenAtOnce) {
   Program& program = Start();
   program.OnCommand(221, 0);

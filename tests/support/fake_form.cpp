@@ -113,6 +113,15 @@ std::optional<std::string> FakeForm::SelectedText(int id) const {
   return control->items[static_cast<std::size_t>(control->selection)];
 }
 
+void FakeForm::RemoveSelectedItem(int id) {
+  Control* const control = Find(id);
+  if (control == nullptr || control->selection < 0) return;
+  control->items.erase(control->items.begin() + control->selection);
+  control->selection = -1;
+}
+
+void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }
+
 void FakeForm::ScrollLine(int id, bool down) {
   log_.push_back("scroll " + std::to_string(id) + (down ? " down" : " up"));
 }

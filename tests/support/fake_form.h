@@ -39,7 +39,8 @@ class FakeForm final : public Form {
   std::string Text(int id) const { return ReadText(id, std::string::npos); }
   const std::vector<std::string>& Items(int id) const;
   std::set<int> ShownKeys() const;
-  const std::vector<std::string>& Log() const { return log_; }  // scrolls and closings, in order
+  // Scrolls, moves of the focus and closings, in order.
+  const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
@@ -47,6 +48,8 @@ class FakeForm final : public Form {
   void AddItem(int id, std::string_view text) override;
   void ClearItems(int id) override;
   std::optional<std::string> SelectedText(int id) const override;
+  void RemoveSelectedItem(int id) override;
+  void Focus(int id) override;
   void ScrollLine(int id, bool down) override;
   void Show(int key) override;
   void HideAll() override;

@@ -32,4 +32,13 @@ RecordingCanvas ProgramTest::Open(int command) {
   return Repaint();
 }
 
+void ProgramTest::OpenDialog(int command, FakeForm& form) {
+  program_->OnCommand(command, kButtonClicked);
+  ASSERT_NE(window_.opened, nullptr) << "command " << command << " opened no dialog";
+  Dialog& dialog = *window_.opened;
+  form.SetListener(
+      [&dialog, &form](int id, int notification) { dialog.OnCommand(form, id, notification); });
+  dialog.OnOpen(form);
+}
+
 }  // namespace velnor

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "shell/program.h"
@@ -23,16 +25,21 @@ class FakeMainWindow final : public MainWindow {
   void PaintNow() override { log.emplace_back("paint now"); }
   void Close() override { log.emplace_back("close"); }
   void EnableMenuItem(int command, bool enabled) override { menu[command] = enabled; }
+  void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override {
+    log.push_back("open " + std::to_string(resource_id));
+    opened = std::move(dialog);
+  }
   void RunDialog(int resource_id, Dialog& dialog) override;
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
   }
 
   std::vector<std::string> log;
-  std::map<int, bool> menu;  // command to whether it can be chosen
+  std::map<int, bool> menu;        // command to whether it can be chosen
+  std::unique_ptr<Dialog> opened;  // the last one
 };
 
-// Keeps the boxes that were shown and answers each with OK.
+// Keeps the boxes that were shown; answers with OK, or to a question with what the test has set.
 class FakeMessageBoxes final : public MessageBoxes {
  public:
   struct Shown {
@@ -46,9 +53,18 @@ class FakeMessageBoxes final : public MessageBoxes {
   Answer Show(const Message& message) override {
     shown.push_back({std::string(message.text), std::string(message.caption), message.buttons,
                      message.icon, message.owner});
-    return Answer::kOk;
+    return message.buttons == MessageButtons::kOk ? Answer::kOk : answer;
   }
 
+  // The texts of the boxes since the last call, in order.
+  std::vector<std::string> TakeTexts() {
+    std::vector<std::string> texts;
+    for (const Shown& box : shown) texts.push_back(box.text);
+    shown.clear();
+    return texts;
+  }
+
+  Answer answer = Answer::kYes;
   std::vector<Shown> shown;
 };
 
@@ -62,6 +78,9 @@ class ProgramTest : public testing::Test {
   RecordingCanvas Repaint();
   // Chooses the command and repaints.
   RecordingCanvas Open(int command);
+  // Chooses the command, or presses the button, that opens a dialog over `form`, whose controls the
+  // test has added.
+  void OpenDialog(int command, FakeForm& form);
 
   TemporaryFolder folder_;
   FakeForm form_;

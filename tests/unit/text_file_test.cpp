@@ -1,6 +1,9 @@
 #include "base/text_file.h"
 
+#include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <vector>
 
 #include "tests/support/temporary_folder.h"
@@ -18,6 +21,26 @@ std::vector<std::string> Lines(std::string_view text, std::size_t limit = 99) {
 }
 
 using Texts = std::vector<std::string>;
+
+// Files of this process cannot grow past a size while the object lives.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : old_handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limited = {bytes, old_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, old_handler_);
+  }
+
+ private:
+  rlimit old_ = {};
+  void (*old_handler_)(int);
+};
 
 TEST(LineReaderTest, AcceptsEitherLineEndAndNoneAtTheEnd) {
   EXPECT_EQ(Lines("one\r\ntwo\nthree"), (Texts{"one", "two", "three"}));
@@ -66,6 +89,83 @@ TEST(ReadFileTest, GivesNothingForWhatCannotBeRead) {
   EXPECT_EQ(ReadFile(folder.path() + "missing", 100), "");
   EXPECT_EQ(ReadFile(folder.path(), 100), "");  // a folder
   EXPECT_EQ(ReadFile(folder.Write("empty", ""), 100), "");
+}
+
+TEST(ReadFileTest, TellsAMissingFileFromAnEmptyOne) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(ReadFileIfThere(folder.path() + "missing", 100), std::nullopt);
+  EXPECT_EQ(ReadFileIfThere(folder.path(), 100), std::nullopt);
+  EXPECT_EQ(ReadFileIfThere(folder.Write("empty", ""), 100), "");
+}
+
+TEST(LineReaderTest, KeepsTheBytesBehindANulWhenAskedForTheWholePiece) {
+  const std::string text = "ab\0cd\r\nef\nrest"s;
+  LineReader reader(text, 149);
+  EXPECT_EQ(reader.NextWhole(), "ab\0cd"s);
+  EXPECT_EQ(reader.NextWhole(), "ef");
+  EXPECT_EQ(reader.rest(), "rest");
+}
+
+TEST(WithCrLfTest, EndsEveryLineTheSameWay) {
+  EXPECT_EQ(WithCrLf("a\nb\r\nc\n\n"), "a\r\nb\r\nc\r\n\r\n");
+  EXPECT_EQ(WithCrLf("a\rb"), "a\rb");
+  EXPECT_EQ(WithCrLf(""), "");
+}
+
+TEST(AppendToFileTest, MakesTheFileAndAddsToIt) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(AppendToFile(folder.path() + "file", "one\n"));
+  EXPECT_TRUE(AppendToFile(folder.path() + "file", "two\nthree"));
+  EXPECT_EQ(folder.Read("file"), "one\r\ntwo\r\nthree");
+  EXPECT_EQ(folder.Names(), (Texts{"file"}));
+}
+
+TEST(AppendToFileTest, ReportsWhatCannotBeWritten) {
+  const TemporaryFolder folder;
+  EXPECT_FALSE(AppendToFile(folder.path() + "missing/file", "one\n"));
+  EXPECT_FALSE(AppendToFile(folder.path(), "one\n"));
+}
+
+// Every write to this device fails for want of space, once the system hands it over.
+TEST(AppendToFileTest, ReportsAFullDisk) { EXPECT_FALSE(AppendToFile("/dev/full", "one\n")); }
+
+// The disk is full in the middle of the text: the limit on the size of files stands for it.
+TEST(AppendToFileTest, AFullDiskLeavesTheFileAsItWas) {
+  const TemporaryFolder folder;
+  const std::string old(1000, 'o');
+  const std::string path = folder.Write("file", old);
+  const FileSizeLimit limit(1500);
+  EXPECT_FALSE(AppendToFile(path, std::string(1000, 'n')));
+  EXPECT_EQ(folder.Read("file"), old);
+}
+
+TEST(ReplaceFileTest, GivesTheFileItsNewBytes) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(ReplaceFile(folder.path() + "file", "one\n"));
+  EXPECT_EQ(folder.Read("file"), "one\n");
+  EXPECT_TRUE(ReplaceFile(folder.path() + "file", "two\0\r\n"s));
+  EXPECT_EQ(folder.Read("file"), "two\0\r\n"s);
+  EXPECT_TRUE(ReplaceFile(folder.path() + "file", ""));
+  EXPECT_EQ(folder.Read("file"), "");
+  EXPECT_EQ(folder.Names(), (Texts{"file"}));
+}
+
+TEST(ReplaceFileTest, AFullDiskLeavesTheFileAsItWas) {
+  const TemporaryFolder folder;
+  const std::string old(1000, 'o');
+  const std::string path = folder.Write("file", old);
+  const FileSizeLimit limit(1500);
+  EXPECT_FALSE(ReplaceFile(path, std::string(2000, 'n')));
+  EXPECT_EQ(folder.Read("file"), old);
+  EXPECT_EQ(folder.Names(), (Texts{"file"}));
+}
+
+TEST(ReplaceFileTest, WhatCannotBeReplacedStays) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.path() + "file");
+  EXPECT_FALSE(ReplaceFile(folder.path() + "file", "new"));
+  EXPECT_EQ(folder.Names(), (Texts{"file"}));
+  EXPECT_FALSE(ReplaceFile(folder.path() + "missing/file", "new"));
 }
 
 }  // namespace

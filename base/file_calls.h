@@ -1,0 +1,25 @@
+// The calls on files that every system has and the C library has not in one form. The platform's
+// side implements them: base/posix and shell/win32.
+
+#ifndef VELNOR_BASE_FILE_CALLS_H_
+#define VELNOR_BASE_FILE_CALLS_H_
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+namespace velnor {
+
+// Hands everything written to `file` so far to the disk. False when the system could not.
+bool FlushToDisk(std::FILE* file);
+
+// Gives the file `from` the name `to`; a file that had that name is replaced in one step. False,
+// with both as they were, when the system could not.
+bool ReplaceByRename(const std::string& from, const std::string& to);
+
+// Cuts the open `file` back to `size` bytes. False when the system could not.
+bool CutBack(std::FILE* file, std::int64_t size);
+
+}  // namespace velnor
+
+#endif  // VELNOR_BASE_FILE_CALLS_H_

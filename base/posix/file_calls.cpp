@@ -1,0 +1,15 @@
+#include "base/file_calls.h"
+
+#include <unistd.h>
+
+namespace velnor {
+
+bool FlushToDisk(std::FILE* file) { return std::fflush(file) == 0 && fsync(fileno(file)) == 0; }
+
+bool ReplaceByRename(const std::string& from, const std::string& to) {
+  return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool CutBack(std::FILE* file, std::int64_t size) { return ftruncate(fileno(file), size) == 0; }
+
+}  // namespace velnor

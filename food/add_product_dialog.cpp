@@ -1,0 +1,100 @@
+#include "food/add_product_dialog.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "base/code_page.h"
+#include "food/product_rules.h"
+#include "food/user_product_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kMainCategory = 732;
+constexpr int kSubcategory = 733;
+constexpr int kName = 734;
+constexpr int kMass = 735;
+constexpr int kProtein = 736;
+constexpr int kFat = 737;
+constexpr int kCarbohydrate = 738;
+constexpr int kCalories = 740;
+
+constexpr std::size_t kNameLimit = 149;
+constexpr std::size_t kNumberLimit = 29;
+constexpr std::size_t kShortestName = 4;
+
+constexpr std::string_view kUsualMass = "100";
+
+// The system's own texts, as they stand.
+constexpr std::string_view kNameTooShort =
+    "ATTENTION! The name of product must be 4-signs long miniumum!";
+constexpr std::string_view kIncomplete =
+    "Product wasn`t added to database\nSome data are incorrect";
+constexpr std::string_view kNotNumbers =
+    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+constexpr std::string_view kAdded = "New product was added to database";
+
+bool BeginsWithDigit(const std::string& text) {
+  return !text.empty() && text[0] >= '0' && text[0] <= '9';
+}
+
+}  // namespace
+
+AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes)
+    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+
+void AddProductDialog::OnOpen(Form& form) {
+  form.SetText(kMass, kUsualMass);
+  if (form.ItemCount(kMainCategory) > 0) return;
+  for (const CategoryRecord& row : food_.categories) form.AddItem(kMainCategory, row.main_category);
+}
+
+void AddProductDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kMainCategory && notification == kSelectionChanged) OfferSubcategories(form);
+  if (id == kOkButton && notification == kButtonClicked) Add(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void AddProductDialog::OfferSubcategories(Form& form) {
+  form.ClearItems(kSubcategory);
+  const std::string main_category = form.SelectedText(kMainCategory).value_or("");
+  // The row is found as on the overview, but names too short to be one are left out.
+  for (const std::string_view name : ListSubcategories(food_, Layout::kOverview, main_category)) {
+    if (name.size() > 1) form.AddItem(kSubcategory, name);
+  }
+}
+
+void AddProductDialog::Add(Form& form) {
+  const std::string name = ToLowerCase(form.ReadText(kName, kNameLimit));
+  const std::string mass = form.ReadText(kMass, kNumberLimit);
+  const std::string kcal = form.ReadText(kCalories, kNumberLimit);
+  const std::string protein = form.ReadText(kProtein, kNumberLimit);
+  const std::string fat = form.ReadText(kFat, kNumberLimit);
+  const std::string carbohydrate = form.ReadText(kCarbohydrate, kNumberLimit);
+  const std::string main_category = form.SelectedText(kMainCategory).value_or("");
+  const std::string subcategory = form.SelectedText(kSubcategory).value_or("");
+  const std::array needed = {&mass,         &kcal,          &protein,    &fat,
+                             &carbohydrate, &main_category, &subcategory};
+  const bool incomplete =
+      std::ranges::any_of(needed, [](const auto* text) { return text->empty(); });
+
+  // Mass and calories are taken as they come, and of the nutrients only the first character is
+  // looked at. A file that cannot be written is not reported; the entries stay for another try.
+  if (name.size() < kShortestName) {
+    message_boxes_.Show({.text = kNameTooShort});
+    message_boxes_.Show({.text = kIncomplete});
+  } else if (incomplete) {
+    message_boxes_.Show({.text = kIncomplete});
+  } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
+    message_boxes_.Show({.text = kNotNumbers});
+  } else if (AppendUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
+                                       carbohydrate})) {
+    message_boxes_.Show({.text = kAdded});
+    form.SetText(kMass, kUsualMass);
+    for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
+  }
+  food_.user_products.Load(path_);
+}
+
+}  // namespace velnor

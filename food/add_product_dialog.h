@@ -1,0 +1,35 @@
+// The dialog that adds a product of the user's own.
+
+#ifndef VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
+#define VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
+
+#include <string>
+
+#include "base/dialog.h"
+#include "base/message_boxes.h"
+#include "food/food_table.h"
+
+namespace velnor {
+
+inline constexpr int kAddProductResource = 10010;
+
+class AddProductDialog final : public Dialog {
+ public:
+  // Adds to the file `path` and reloads the user's products of `food` from it.
+  AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes);
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void OfferSubcategories(Form& form);
+  void Add(Form& form);
+
+  FoodTable& food_;
+  std::string path_;
+  MessageBoxes& message_boxes_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_

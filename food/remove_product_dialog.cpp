@@ -1,0 +1,40 @@
+#include "food/remove_product_dialog.h"
+
+#include <optional>
+#include <utility>
+
+#include "food/user_product_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kNames = 739;
+
+}  // namespace
+
+RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
+                                         MessageBoxes& message_boxes)
+    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+
+void RemoveProductDialog::OnOpen(Form& form) {
+  for (const std::string& name : ReadUserProductNames(path_)) form.AddItem(kNames, name);
+}
+
+void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kOkButton && notification == kButtonClicked) Remove(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void RemoveProductDialog::Remove(Form& form) {
+  const std::optional<std::string> name = form.SelectedText(kNames);
+  if (!name) return;
+  const Answer answer = message_boxes_.Show({.text = "Are You sure??",
+                                             .buttons = MessageButtons::kYesNo,
+                                             .icon = MessageIcon::kQuestion});
+  if (answer != Answer::kYes) return;
+  // A file that cannot be written is not reported; what it still holds stays in the list.
+  if (RemoveUserProducts(path_, *name)) form.RemoveSelectedItem(kNames);
+  food_.user_products.Load(path_);
+}
+
+}  // namespace velnor

@@ -1,0 +1,34 @@
+// The dialog that removes products of the user's own.
+
+#ifndef VELNOR_FOOD_REMOVE_PRODUCT_DIALOG_H_
+#define VELNOR_FOOD_REMOVE_PRODUCT_DIALOG_H_
+
+#include <string>
+
+#include "base/dialog.h"
+#include "base/message_boxes.h"
+#include "food/food_table.h"
+
+namespace velnor {
+
+inline constexpr int kRemoveProductResource = 10011;
+
+class RemoveProductDialog final : public Dialog {
+ public:
+  // Removes from the file `path` and reloads the user's products of `food` from it.
+  RemoveProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes);
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void Remove(Form& form);
+
+  FoodTable& food_;
+  std::string path_;
+  MessageBoxes& message_boxes_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_REMOVE_PRODUCT_DIALOG_H_

@@ -1,0 +1,28 @@
+// The dialog that finds products and says where they are filed.
+
+#ifndef VELNOR_FOOD_SEARCH_DIALOG_H_
+#define VELNOR_FOOD_SEARCH_DIALOG_H_
+
+#include "base/dialog.h"
+#include "food/food_table.h"
+
+namespace velnor {
+
+inline constexpr int kSearchResource = 10009;
+
+class SearchDialog final : public Dialog {
+ public:
+  explicit SearchDialog(const FoodTable& food) : food_(food) {}
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void Find(Form& form);
+
+  const FoodTable& food_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_SEARCH_DIALOG_H_

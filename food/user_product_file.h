@@ -1,0 +1,40 @@
+// The file of the products that users added: one product a line, eight fields each followed by ";".
+
+#ifndef VELNOR_FOOD_USER_PRODUCT_FILE_H_
+#define VELNOR_FOOD_USER_PRODUCT_FILE_H_
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "food/food_table.h"
+
+namespace velnor {
+
+// In the start-up folder, shared by all users.
+inline constexpr std::string_view kUserProductsFile = "data.txt";
+
+// Adds the product as a line of its own at the end of the file, which is made when it is missing.
+// A ";" inside a field is not kept from breaking the line's fields. False when it was not written;
+// then the file is as it was.
+bool AppendUserProduct(const std::string& path, const ProductRecord& product);
+
+// The names (third fields) in the first 1000 lines of the file, in its order. A line is taken in
+// pieces of at most 299 characters; one without a third field has no name.
+std::vector<std::string> ReadUserProductNames(const std::string& path);
+
+// Whether removing `name` takes this line (at most 149 characters) away. The comparison is loose:
+// the line's name must be as long as `name`, and somewhere in the line, not only in its name, the
+// first four, a quarter, a third, the middle and the last of its characters must follow one
+// another. Only the first 59 characters of the line's name count, so longer names never match.
+bool IsRemovedWith(std::string_view line, std::string_view name);
+
+// Takes every line that IsRemovedWith away. Empty lines among the first 3000 go too; a line longer
+// than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
+// old bytes or its new ones. Does nothing when no line goes. False when a line should have gone but
+// the file could not be written.
+bool RemoveUserProducts(const std::string& path, std::string_view name);
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_USER_PRODUCT_FILE_H_

@@ -1,0 +1,18 @@
+#include "base/file_calls.h"
+
+#include <windows.h>
+
+#include <io.h>
+
+namespace velnor {
+
+bool FlushToDisk(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fileno(file)) == 0; }
+
+bool ReplaceByRename(const std::string& from, const std::string& to) {
+  return MoveFileExA(from.c_str(), to.c_str(),
+                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+bool CutBack(std::FILE* file, std::int64_t size) { return _chsize_s(_fileno(file), size) == 0; }
+
+}  // namespace velnor

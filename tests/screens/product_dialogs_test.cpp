@@ -1,0 +1,421 @@
+// The dialogs over the user's own products: adding, removing, finding.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_fixture.h"
+
+namespace velnor {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr std::uint32_t kPlain = control_style::kPlain;
+
+const std::string kTooShort = "ATTENTION! The name of product must be 4-signs long miniumum!";
+const std::string kIncomplete = "Product wasn`t added to database\nSome data are incorrect";
+const std::string kLetters =
+    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+const std::string kAdded = "New product was added to database";
+
+class AddProductTest : public ProgramTest {
+ protected:
+  AddProductTest() {
+    for (const int id : {734, 735, 736, 737, 738, 740}) {
+      dialog_.AddControl(id, ControlClass::kEdit, kPlain);
+    }
+    for (const int id : {732, 733}) {
+      dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
+    }
+  }
+
+  void Open() {
+    Start();
+    OpenDialog(240, dialog_);
+  }
+  void FillIn(const std::string& name) {
+    dialog_.Choose(732, "fruits");
+    dialog_.Choose(733, "fresh");
+    dialog_.SetText(734, name);
+    dialog_.SetText(740, "237");
+    dialog_.SetText(736, "1.9");
+    dialog_.SetText(737, "11");
+    dialog_.SetText(738, "34.0");
+  }
+  Texts PressAdd() {
+    dialog_.Press(1);
+    return boxes_.TakeTexts();
+  }
+
+  FakeForm dialog_;
+};
+
+TEST_F(AddProductTest, OpensWithTheUsualMassAndTheMainCategories) {
+  Open();
+  EXPECT_EQ(dialog_.Text(735), "100");
+  ASSERT_EQ(dialog_.ItemCount(732), 22);
+  EXPECT_EQ(dialog_.Items(732).front(), "poultry");  // in the order of the table
+  EXPECT_EQ(dialog_.Items(732).back(), "tinned food");
+  EXPECT_EQ(dialog_.ItemCount(733), 0);
+}
+
+TEST_F(AddProductTest, AMainCategoryOffersItsSubcategories) {
+  Open();
+  dialog_.Choose(732, "fruits");
+  EXPECT_EQ(dialog_.Items(733), (Texts{"frozen", "fresh", "dried", "preserves", "tin", "other"}));
+  dialog_.Choose(732, "grain preserves");  // without its empty one
+  EXPECT_EQ(dialog_.Items(733), (Texts{"flour", "groats", "rice", "breakfast", "other"}));
+}
+
+TEST_F(AddProductTest, AddsAndClearsTheEntries) {
+  Open();
+  FillIn("Apple Pie");
+  dialog_.SetText(735, "120");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;apple pie;120;237;1.9;11;34.0;\r\n");
+  EXPECT_EQ(dialog_.Text(735), "100");
+  for (const int id : {734, 736, 737, 738, 740}) EXPECT_EQ(dialog_.Text(id), "") << id;
+  EXPECT_EQ(dialog_.SelectedText(732), "fruits");
+}
+
+TEST_F(AddProductTest, ShowsItsMessagesAsInformation) {
+  Open();
+  dialog_.Press(1);
+  ASSERT_EQ(boxes_.shown.size(), 2U);
+  for (const auto& box : boxes_.shown) {
+    EXPECT_EQ(box.caption, "Velnor calorie counter");
+    EXPECT_EQ(box.icon, MessageIcon::kInformation);
+    EXPECT_EQ(box.buttons, MessageButtons::kOk);
+  }
+}
+
+TEST_F(AddProductTest, TheNewProductIsInTheListsAtOnce) {
+  Open();
+  FillIn("Apple Pie");
+  PressAdd();
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, "apple pie");
+  EXPECT_EQ(form_.Text(129), "237");
+}
+
+TEST_F(AddProductTest, AShortNameShowsTwoMessagesAndReloads) {
+  Open();
+  FillIn("fig");
+  folder_.Write("data.txt", "fruits;fresh;from elsewhere;100;1;1;1;1;\r\n");
+  EXPECT_EQ(PressAdd(), (Texts{kTooShort, kIncomplete}));
+  EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;from elsewhere;100;1;1;1;1;\r\n");
+  EXPECT_EQ(dialog_.Text(734), "fig");
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, "from elsewhere");
+}
+
+TEST_F(AddProductTest, FourCharactersAreEnough) {
+  Open();
+  FillIn("figs");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+}
+
+TEST_F(AddProductTest, EveryEntryIsNeeded) {
+  Open();
+  for (const int id : {735, 740, 736, 737, 738}) {
+    FillIn("Apple Pie");
+    dialog_.SetText(735, "100");
+    dialog_.SetText(id, "");
+    EXPECT_EQ(PressAdd(), (Texts{kIncomplete})) << id;
+  }
+  FillIn("Apple Pie");
+  dialog_.SetText(735, "100");
+  dialog_.Choose(732, "fruits");  // leaves the subcategory unchosen
+  EXPECT_EQ(PressAdd(), (Texts{kIncomplete}));
+  dialog_.ClearItems(732);
+  EXPECT_EQ(PressAdd(), (Texts{kIncomplete}));
+  EXPECT_EQ(folder_.Read("data.txt"), "(missing)");
+}
+
+TEST_F(AddProductTest, OnlyTheFirstCharacterOfTheNutrientsIsLookedAt) {
+  Open();
+  for (const int id : {736, 737, 738}) {
+    FillIn("Apple Pie");
+    dialog_.SetText(id, "x1");
+    EXPECT_EQ(PressAdd(), (Texts{kLetters})) << id;
+    dialog_.SetText(id, "-1");
+    EXPECT_EQ(PressAdd(), (Texts{kLetters})) << id;
+    dialog_.SetText(id, ".5");
+    EXPECT_EQ(PressAdd(), (Texts{kLetters})) << id;
+  }
+  FillIn("Apple Pie");
+  dialog_.SetText(740, "abc");
+  dialog_.SetText(735, "much");
+  dialog_.SetText(736, "1x");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;apple pie;much;abc;1x;11;34.0;\r\n");
+}
+
+TEST_F(AddProductTest, CaloriesThatAreNoNumberCountAsNothing) {
+  Open();
+  FillIn("aa pie");
+  dialog_.SetText(740, "abc");
+  PressAdd();
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, "aa pie");
+  EXPECT_EQ(form_.Text(129), "abc");
+  form_.Type(128, "100");
+  EXPECT_EQ(form_.Text(129), "0.");
+}
+
+TEST_F(AddProductTest, EntriesAreCut) {
+  Open();
+  FillIn(std::string(200, 'N'));
+  dialog_.SetText(736, std::string(40, '1'));
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;" + std::string(149, 'n') + ";100;237;" +
+                                          std::string(29, '1') + ";11;34.0;\r\n");
+}
+
+TEST_F(AddProductTest, SemicolonsBreakTheLineAndNothingElse) {
+  folder_.Write("data.txt", "fruits;fresh;figs;100;1;1;1;1;\r\n");
+  Open();
+  for (const int id : {734, 735, 740, 736, 737, 738}) {
+    FillIn("apple pie");
+    dialog_.SetText(735, "100");
+    dialog_.SetText(id, id == 734 ? "semi;colon" : "1;2");
+    EXPECT_EQ(PressAdd(), (Texts{kAdded})) << id;
+  }
+  const std::string bytes = folder_.Read("data.txt");
+  EXPECT_TRUE(bytes.starts_with("fruits;fresh;figs;100;1;1;1;1;\r\nfruits;fresh;semi;colon;100;"));
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, "semi");
+  form_.Choose(126, "figs");
+}
+
+TEST_F(AddProductTest, ANameTooLongForItsLineIsReadBackInPieces) {
+  Open();
+  for (const std::size_t length : {149U, 150U, 300U}) {
+    FillIn(std::string(length, 'n'));
+    EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  }
+  FillIn("figs");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, std::string(136, 'n'));  // what 149 characters hold behind "fruits;fresh;"
+  form_.Choose(126, "figs");
+}
+
+TEST_F(AddProductTest, PolishLettersAreMadeSmallAndKept) {
+  Open();
+  FillIn("\xAFUREK Z \xA3OSOSIEM");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"),
+            "fruits;fresh;\xBFurek z \xB3ososiem;100;237;1.9;11;34.0;\r\n");
+}
+
+TEST_F(AddProductTest, TheProductBehindAFullTableStaysInTheFile) {
+  std::string lines;
+  for (int i = 0; i < 3000; ++i) lines += "fish;smoked;p" + std::to_string(i) + ";100;1;1;1;1;\r\n";
+  folder_.Write("data.txt", lines);
+  Open();
+  FillIn("apple pie");
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"), lines + "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  EXPECT_EQ(form_.ItemCount(126), 29);  // no slot was left for it
+  form_.Choose(124, "fish");
+  form_.Choose(125, "smoked");
+  EXPECT_EQ(form_.ItemCount(126), 3005);
+}
+
+TEST_F(AddProductTest, AFileThatCannotBeWrittenIsNotReportedAndTheEntriesStay) {
+  Open();
+  std::filesystem::create_directory(folder_.path() + "data.txt");
+  FillIn("Apple Pie");
+  EXPECT_EQ(PressAdd(), Texts{});
+  EXPECT_EQ(dialog_.Text(734), "Apple Pie");
+}
+
+TEST_F(AddProductTest, CloseClosesAndAddsNothing) {
+  Open();
+  FillIn("Apple Pie");
+  dialog_.Press(2);
+  EXPECT_EQ(dialog_.Log(), (Texts{"close"}));
+  EXPECT_EQ(folder_.Read("data.txt"), "(missing)");
+}
+
+class RemoveProductTest : public ProgramTest {
+ protected:
+  RemoveProductTest() {
+    dialog_.AddControl(739, ControlClass::kListBox,
+                       control_style::kListNotify | control_style::kSortedList);
+  }
+  void Open() {
+    Start();
+    OpenDialog(241, dialog_);
+  }
+
+  FakeForm dialog_;
+};
+
+const std::string kFig = "fruits;fresh;figs;100;74;1;0;19;\r\n";
+const std::string kPie = "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n";
+
+TEST_F(RemoveProductTest, ListsTheNamesInAlphabeticalOrder) {
+  folder_.Write("data.txt", kFig + kPie + kPie + "abc\r\n");
+  Open();
+  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie", "apple pie", "figs"}));
+}
+
+TEST_F(RemoveProductTest, AMissingFileOpensWithAnEmptyList) {
+  Open();
+  EXPECT_EQ(dialog_.ItemCount(739), 0);
+}
+
+TEST_F(RemoveProductTest, AsksAndRemovesBothOfTwoButOneEntry) {
+  folder_.Write("data.txt", kPie + kFig + kPie);
+  Open();
+  dialog_.Choose(739, "apple pie");
+  dialog_.Press(1);
+  ASSERT_EQ(boxes_.shown.size(), 1U);
+  EXPECT_EQ(boxes_.shown[0].text, "Are You sure??");
+  EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
+  EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kMainWindow);
+  EXPECT_EQ(folder_.Read("data.txt"), kFig);
+  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie", "figs"}));
+  FakeForm reopened;
+  reopened.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
+  OpenDialog(241, reopened);
+  EXPECT_EQ(reopened.Items(739), (Texts{"figs"}));
+}
+
+TEST_F(RemoveProductTest, TheProductIsGoneFromTheListsAtOnce) {
+  folder_.Write("data.txt", kPie);
+  Open();
+  dialog_.Choose(739, "apple pie");
+  dialog_.Press(1);
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  EXPECT_EQ(form_.ItemCount(126), 29);
+}
+
+TEST_F(RemoveProductTest, NoRemovesNothing) {
+  folder_.Write("data.txt", kPie);
+  Open();
+  boxes_.answer = Answer::kNo;
+  dialog_.Choose(739, "apple pie");
+  dialog_.Press(1);
+  EXPECT_EQ(folder_.Read("data.txt"), kPie);
+  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie"}));
+}
+
+TEST_F(RemoveProductTest, WithNothingSelectedItAsksAndRemovesNothing) {
+  folder_.Write("data.txt", kPie);
+  Open();
+  dialog_.Press(1);
+  EXPECT_TRUE(boxes_.shown.empty());
+  EXPECT_EQ(folder_.Read("data.txt"), kPie);
+}
+
+TEST_F(RemoveProductTest, CloseCloses) {
+  Open();
+  dialog_.Press(2);
+  EXPECT_EQ(dialog_.Log(), (Texts{"close"}));
+}
+
+class SearchTest : public ProgramTest {
+ protected:
+  SearchTest() {
+    dialog_.AddControl(728, ControlClass::kEdit, kPlain);
+    dialog_.AddControl(729, ControlClass::kListBox,
+                       control_style::kListNotify | control_style::kSortedList);
+    dialog_.AddControl(730, ControlClass::kButton, kPlain);
+    dialog_.AddControl(731, ControlClass::kButton, kPlain);
+  }
+  void Open() {
+    Start();
+    OpenDialog(149, dialog_);
+  }
+  void Find(const std::string& query) {
+    dialog_.SetText(728, query);
+    dialog_.Press(730);
+  }
+
+  FakeForm dialog_;
+};
+
+TEST_F(SearchTest, OpensInTheQuery) {
+  Open();
+  EXPECT_EQ(dialog_.Log(), (Texts{"focus 728"}));
+}
+
+TEST_F(SearchTest, FindsAndMovesTheFocusToTheButton) {
+  Open();
+  Find("frozen strawberries");
+  EXPECT_EQ(dialog_.Items(729), (Texts{"fruits --> frozen --> frozen strawberries"}));
+  EXPECT_EQ(dialog_.Log(), (Texts{"focus 728", "focus 730"}));
+}
+
+TEST_F(SearchTest, ResultsAddUpUntilReset) {
+  Open();
+  Find("frozen strawberries");
+  Find("frozen strawberries");
+  Find("Frozen");
+  EXPECT_EQ(dialog_.Items(729),
+            (Texts{"-------- not found --------", "fruits --> frozen --> frozen strawberries",
+                   "fruits --> frozen --> frozen strawberries"}));
+  dialog_.Press(731);
+  EXPECT_EQ(dialog_.ItemCount(729), 0);
+  EXPECT_EQ(dialog_.Text(728), "");
+  EXPECT_EQ(dialog_.Log().back(), "focus 730");
+}
+
+TEST_F(SearchTest, AnEmptyQueryFindsNothing) {
+  Open();
+  Find("");
+  EXPECT_EQ(dialog_.Items(729), (Texts{"-------- not found --------"}));
+}
+
+TEST_F(SearchTest, ReadsAHundredAndFortyEightCharacters) {
+  const std::string name(140, 'q');
+  folder_.Write("data.txt", "m;s;" + name + ";\n");
+  Open();
+  Find("s " + name);
+  EXPECT_EQ(dialog_.Items(729), (Texts{"[B] m --> s --> " + name}));
+  dialog_.Press(731);
+  Find(std::string(148, 'z') + name);
+  EXPECT_EQ(dialog_.Items(729), (Texts{"-------- not found --------"}));
+}
+
+TEST_F(SearchTest, ShowsTheUsersProductsAsTheirs) {
+  folder_.Write("data.txt", kPie);
+  Open();
+  Find("apple pie");
+  EXPECT_EQ(dialog_.Items(729).front(), "[B] fruits --> fresh --> apple pie");
+}
+
+TEST_F(SearchTest, ChoosingAResultDoesNothing) {
+  Open();
+  Find("frozen strawberries");
+  dialog_.Choose(729, "fruits --> frozen --> frozen strawberries");
+  EXPECT_EQ(dialog_.ItemCount(729), 1);
+}
+
+TEST_F(SearchTest, CloseCloses) {
+  Open();
+  dialog_.Press(2);
+  EXPECT_EQ(dialog_.Log().back(), "close");
+}
+
+}  // namespace
+}  // namespace velnor
