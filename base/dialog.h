@@ -20,8 +20,7 @@ class Dialog {
   // focus, the focus stays; otherwise the first control that takes it gets it.
   virtual void OnOpen(Form& form) = 0;
 
-  // Called for every notification of a control; menu and accelerator ids arrive as
-  // kButtonClicked. Unknown ids are ignored.
+  // Called for every notification of a control. Unknown ids are ignored.
   virtual void OnCommand(Form& form, int id, int notification) = 0;
 };
 

@@ -32,7 +32,8 @@ class MainWindow {
   // Opens the dialog template `resource_id` and waits until it is closed.
   virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
 
-  // Opens a help file of the start-up folder; the platform tells the user when it is missing.
+  // Asks the platform to open a help file of the start-up folder. What a platform without such a
+  // file, or without a viewer for it, does is its own affair.
   virtual void OpenHelp(std::string_view file_name) = 0;
 };
 

@@ -66,7 +66,9 @@ double ParseNumber(std::string_view text) {
     const char* const end = digits.data() + digits.size();
     const std::from_chars_result result = std::from_chars(digits.data(), end, value);
     if (result.ec == std::errc::result_out_of_range) {
-      value = IsHuge(digits) ? std::numeric_limits<double>::infinity() : 0.0;
+      const std::string_view number(digits.data(),
+                                    static_cast<std::size_t>(result.ptr - digits.data()));
+      value = IsHuge(number) ? std::numeric_limits<double>::infinity() : 0.0;
     }
   }
   return split.negative ? -value : value;

@@ -14,7 +14,7 @@ namespace velnor {
 // skipped, then an optional sign, decimal digits with an optional point, and an optional exponent
 // are read; whatever follows is ignored. "12.5 g" gives 12.5, "263,7" gives 263.
 // Text that does not begin with a number, empty text included, gives 0. Hexadecimal digits and the
-// words "inf" and "nan" are not numbers here: what a user types must never become one of these.
+// words "inf" and "nan" are not numbers here: nobody means these when typing a weight.
 // A magnitude beyond the range of double gives infinity, one too small for it gives 0, both signed.
 double ParseNumber(std::string_view text);
 

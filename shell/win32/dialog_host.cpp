@@ -89,7 +89,8 @@ void KeepListsOffButtons(HWND dialog) {
     for (HWND button = GetWindow(dialog, GW_CHILD); button != nullptr;
          button = GetWindow(button, GW_HWNDNEXT)) {
       const RECT other = place_in_dialog(button);
-      const bool below = HasClass(button, "button") && other.top > place.top;
+      const bool below = HasClass(button, "button") && other.top > place.top &&
+                         other.left < place.right && other.right > place.left;
       if (below) place.bottom = std::min(place.bottom, other.top - kGap);
     }
     MoveWindow(list, place.left, place.top, place.right - place.left, place.bottom - place.top,

@@ -32,7 +32,8 @@ void GdiResources::LoadBackgrounds(HINSTANCE instance) {
   for (const char* const name : BackgroundNames()) {
     const HBITMAP bitmap = LoadBitmapA(instance, name);
     BITMAP size = {};
-    if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) continue;
+    if (bitmap == nullptr) continue;
+    GetObjectA(bitmap, sizeof size, &size);
     backgrounds_[name] = {bitmap, size.bmWidth, size.bmHeight};
   }
 }

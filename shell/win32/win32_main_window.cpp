@@ -13,6 +13,7 @@ constexpr int kIconResource = 900;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;
+constexpr int kPictureHeight = 550;
 constexpr COLORREF kSurfaceColour = RGB(179, 179, 179);
 
 constexpr UINT kHelpPartialKey = 0x105;
@@ -40,8 +41,6 @@ std::string Today() {
 
 Win32MainWindow::Win32MainWindow(HINSTANCE instance)
     : instance_(instance), surface_(CreateSolidBrush(kSurfaceColour)) {}
-
-Win32MainWindow::~Win32MainWindow() { DeleteObject(surface_); }
 
 bool Win32MainWindow::Open(int show_command) {
   const std::string title(kTitle);
@@ -92,8 +91,14 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_CREATE:
       return OnCreate() ? 0 : -1;
-    case WM_SIZE:        // the layout is fixed: nothing depends on the client size
+    case WM_SIZE:
+      client_width_ = LOWORD(lparam);
+      client_height_ = HIWORD(lparam);
+      return 0;
     case WM_ERASEBKGND:  // the screens cover the client area with their picture
+      return 0;
+    case WM_ACTIVATE:
+      OnActivate(LOWORD(wparam) != WA_INACTIVE, wparam, lparam);
       return 0;
     case WM_PAINT:
       OnPaint();
@@ -118,6 +123,9 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_DESTROY:
       PostQuitMessage(0);
       return 0;
+    case WM_NCDESTROY:
+      SetWindowLongPtrA(window_, GWLP_USERDATA, 0);
+      return DefWindowProcA(window_, message, wparam, lparam);
     default:
       return DefWindowProcA(window_, message, wparam, lparam);
   }
@@ -143,14 +151,27 @@ void Win32MainWindow::OnPaint() {
   program_->HideControls();
   PAINTSTRUCT paint;
   const HDC context = BeginPaint(window_, &paint);
-  FillRect(context, &paint.rcPaint, surface_);  // what a picture does not reach
+  const RECT below_picture = {0, kPictureHeight, client_width_, client_height_};
+  FillRect(context, &below_picture, surface_);
   {
     GdiCanvas canvas(context, resources_);
     program_->Paint(canvas);
   }
   EndPaint(window_, &paint);
-  if (focused != nullptr && IsChild(window_, focused) != 0 && IsWindowVisible(focused) != 0) {
-    SetFocus(focused);
+  FocusIfShown(focused);
+}
+
+// The platform gives the focus to the window itself when it comes to the front again; it belongs to
+// the control that had it.
+void Win32MainWindow::OnActivate(bool active, WPARAM wparam, LPARAM lparam) {
+  if (!active) focus_when_active_ = GetFocus();
+  DefWindowProcA(window_, WM_ACTIVATE, wparam, lparam);
+  if (active) FocusIfShown(focus_when_active_);
+}
+
+void Win32MainWindow::FocusIfShown(HWND control) const {
+  if (control != nullptr && IsChild(window_, control) != 0 && IsWindowVisible(control) != 0) {
+    SetFocus(control);
   }
 }
 

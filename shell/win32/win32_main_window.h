@@ -21,7 +21,6 @@ class Win32MainWindow final : public MainWindow {
   explicit Win32MainWindow(HINSTANCE instance);
   Win32MainWindow(const Win32MainWindow&) = delete;
   Win32MainWindow& operator=(const Win32MainWindow&) = delete;
-  ~Win32MainWindow() override;
 
   // Registers the class, creates the window and shows it. False when the system refuses.
   bool Open(int show_command);
@@ -42,10 +41,15 @@ class Win32MainWindow final : public MainWindow {
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   bool OnCreate();
   void OnPaint();
+  void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
+  void FocusIfShown(HWND control) const;
 
   HINSTANCE instance_;
-  HBRUSH surface_;  // behind the screens and in the controls
+  HBRUSH surface_;  // behind the screens and in the controls; the window class owns it
   HWND window_ = nullptr;
+  int client_width_ = 0;
+  int client_height_ = 0;
+  HWND focus_when_active_ = nullptr;
   HMENU menu_ = nullptr;
   HWND modeless_dialog_ = nullptr;
   GdiResources resources_;

@@ -12,6 +12,7 @@ namespace {
 
 constexpr DWORD kPatience = 20'000;  // ms; far more than anything takes, even on a busy machine
 constexpr DWORD kGlance = 10;        // ms between two looks
+constexpr DWORD kQuiet = 300;        // ms after which nothing that was started goes on any more
 
 constexpr char kMainWindowClass[] = "Velnor calorie counter";
 constexpr char kDialogClass[] = "#32770";  // dialogs and message boxes
@@ -23,12 +24,26 @@ std::string FolderOfThisProgram() {
   return path.substr(0, path.rfind('\\') + 1);
 }
 
-bool WaitUntil(const std::function<bool()>& condition) {
-  for (DWORD waited = 0; waited < kPatience; waited += kGlance) {
-    if (condition()) return true;
-    Sleep(kGlance);
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAA found = {};
+  const HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    const std::string name = found.cFileName;
+    if (name != "." && name != "..") names.push_back(name);
+  } while (FindNextFileA(search, &found) != 0);
+  FindClose(search);
+  std::ranges::sort(names);
+  return names;
+}
+
+// With everything in it; `path` ends with a separator.
+void RemoveFolder(const std::string& path) {
+  for (const std::string& name : NamesIn(path)) {
+    if (DeleteFileA((path + name).c_str()) == 0) RemoveFolder(path + name + '\\');
   }
-  return condition();
+  RemoveDirectoryA(path.c_str());
 }
 
 // The foremost visible top-level window of a process that has the given class and is not `known`;
@@ -130,10 +145,7 @@ WorkFolder::WorkFolder() {
   path_ += '\\';
 }
 
-WorkFolder::~WorkFolder() {
-  for (const std::string& name : Names()) DeleteFileA((path_ + name).c_str());
-  RemoveDirectoryA(path_.c_str());
-}
+WorkFolder::~WorkFolder() { RemoveFolder(path_); }
 
 void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
   std::FILE* const file = std::fopen((path_ + name).c_str(), "wb");
@@ -155,18 +167,8 @@ std::optional<std::string> WorkFolder::Read(const std::string& name) const {
   return bytes;
 }
 
-std::vector<std::string> WorkFolder::Names() const {
-  std::vector<std::string> names;
-  WIN32_FIND_DATAA found = {};
-  const HANDLE search = FindFirstFileA((path_ + "*").c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    const std::string name = found.cFileName;
-    if (name != "." && name != "..") names.push_back(name);
-  } while (FindNextFileA(search, &found) != 0);
-  FindClose(search);
-  std::ranges::sort(names);
-  return names;
+std::vector<std::string> WorkFolder::Names(const std::string& folder) const {
+  return NamesIn(path_ + folder + (folder.empty() ? "" : "\\"));
 }
 
 std::string Window::Caption() const {
@@ -359,21 +361,15 @@ DWORD App::CallInside(const char* function, std::vector<ULONG_PTR> arguments) co
   return result;
 }
 
-std::optional<bool> App::IsMenuItemEnabled(int command) const {
-  const auto menu = reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle()));
-  const DWORD state =
-      CallInside("GetMenuState", {menu, static_cast<ULONG_PTR>(command), MF_BYCOMMAND});
-  if (state == static_cast<DWORD>(-1)) return std::nullopt;
-  return (state & (MF_GRAYED | MF_DISABLED)) == 0;
+std::vector<App::MenuItem> App::ReadMenu() const {
+  Settle();
+  Sleep(kQuiet);
+  std::vector<MenuItem> items;
+  AppendMenu(reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle())), items);
+  return items;
 }
 
-std::vector<std::string> App::MenuTexts() const {
-  std::vector<std::string> texts;
-  AppendMenuTexts(reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle())), texts);
-  return texts;
-}
-
-void App::AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const {
+void App::AppendMenu(ULONG_PTR menu, std::vector<MenuItem>& items) const {
   constexpr std::size_t kTextLimit = 100;
   const RemoteMemory buffer(process_.hProcess, kTextLimit, PAGE_READWRITE);
   const DWORD count = CallInside("GetMenuItemCount", {menu});
@@ -383,15 +379,20 @@ void App::AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const
     CallInside("GetMenuStringA", {menu, position, reinterpret_cast<ULONG_PTR>(buffer.address()),
                                   kTextLimit, MF_BYPOSITION});
     buffer.Read(text.data(), text.size() - 1);
-    const DWORD popup = CallInside("GetSubMenu", {menu, position});
+    const DWORD state = CallInside("GetMenuState", {menu, position, MF_BYPOSITION});
     const DWORD id = CallInside("GetMenuItemID", {menu, position});
-    if (popup != 0) {
-      texts.push_back(std::string("> ") + text.data());
-      AppendMenuTexts(popup, texts);
-    } else {
-      texts.push_back(id == 0 ? "-" : std::to_string(id) + ' ' + text.data());
-    }
+    items.push_back({static_cast<int>(id), text.data(), (state & (MF_GRAYED | MF_DISABLED)) == 0});
+    const DWORD popup = CallInside("GetSubMenu", {menu, position});
+    if (popup != 0) AppendMenu(popup, items);
   }
+}
+
+std::map<int, bool> App::MenuStates() const {
+  std::map<int, bool> states;
+  for (const MenuItem& item : ReadMenu()) {
+    if (item.id > 0) states[item.id] = item.enabled;
+  }
+  return states;
 }
 
 Window App::WaitForPopup(const Window& known) const {
@@ -414,6 +415,14 @@ void App::Settle() const {
   UpdateWindow(main_.handle());
   SendMessageA(main_.handle(), WM_NULL, 0, 0);
   WaitUntil([this] { return GetUpdateRect(main_.handle(), nullptr, FALSE) == 0; });
+}
+
+bool WaitUntil(const std::function<bool()>& condition) {
+  for (DWORD waited = 0; waited < kPatience; waited += kGlance) {
+    if (condition()) return true;
+    Sleep(kGlance);
+  }
+  return condition();
 }
 
 bool WaitUntilGone(HWND window) {

@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,8 +27,8 @@ class WorkFolder {
   void Write(const std::string& name, std::string_view bytes) const;
   // The bytes of a file; nothing when there is no such file.
   std::optional<std::string> Read(const std::string& name) const;
-  // The names of everything in the folder, sorted.
-  std::vector<std::string> Names() const;
+  // The names of everything in it, or in a folder in it, sorted.
+  std::vector<std::string> Names(const std::string& folder = "") const;
 
  private:
   std::string path_;
@@ -84,11 +86,15 @@ class App {
   // The exit code, once the program has ended by itself; nothing when it goes on running.
   std::optional<DWORD> WaitForExit() const;
 
-  // Whether a menu item can be chosen. Nothing when the menu has no such item.
-  std::optional<bool> IsMenuItemEnabled(int command) const;
-  // The menu from left to right and top to bottom: "> text" for a popup, its items behind it as
-  // "id text", "-" for a separator.
-  std::vector<std::string> MenuTexts() const;
+  // The menu from left to right and top to bottom.
+  struct MenuItem {
+    int id;  // 0: a separator, -1: a popup, whose items follow
+    std::string text;
+    bool enabled;
+  };
+  std::vector<MenuItem> ReadMenu() const;
+  // Whether each item of the menu can be chosen, by its command.
+  std::map<int, bool> MenuStates() const;
 
   // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
   // or an empty box when none comes.
@@ -100,9 +106,10 @@ class App {
 
  private:
   // Runs a function of the platform with up to five arguments inside the program and returns its
-  // result: menus can be read only from within the process they belong to.
+  // result: menus can be read only from within the process they belong to. The program must be
+  // idle: Wine breaks into whatever it is doing to start the call.
   DWORD CallInside(const char* function, std::vector<ULONG_PTR> arguments) const;
-  void AppendMenuTexts(ULONG_PTR menu, std::vector<std::string>& texts) const;
+  void AppendMenu(ULONG_PTR menu, std::vector<MenuItem>& items) const;
 
   PROCESS_INFORMATION process_ = {};
   Window main_{nullptr};
@@ -110,6 +117,10 @@ class App {
 
 // Presses a button of an open box and waits until the box is gone.
 void Answer(const MessageBoxSeen& box, int button);
+
+// Looks at the condition again and again; whether it came true before patience ran out. Input
+// events arrive in their own time: what they do is waited for.
+bool WaitUntil(const std::function<bool()>& condition);
 
 // Whether the window is gone before patience is.
 bool WaitUntilGone(HWND window);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/about_box.h"
 #include "shell/menu_states.h"
 #include "tests/support/program_fixture.h"
 
@@ -50,6 +51,7 @@ TEST_F(CommandsTest, UnfinishedFunctionsSaySoAndChangeNothing) {
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].icon, MessageIcon::kInformation);
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kOk);
+    EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kMainWindow);
     EXPECT_EQ(program.session().screen, 1);
     EXPECT_EQ(window_.log, Log{});
   }
@@ -87,6 +89,16 @@ TEST_F(CommandsTest, DatabaseItemsAndFindOpenTheirDialogs) {
   EXPECT_EQ(window_.log, (Log{"open 10010", "open 10011", "open 10009"}));
 }
 
+TEST(AboutBoxTest, EitherButtonClosesItAndNothingElseDoes) {
+  for (const int id : {1, 2, 3, 702}) {
+    FakeForm form;
+    AboutBox about_box;
+    about_box.OnOpen(form);
+    about_box.OnCommand(form, id, kButtonClicked);
+    EXPECT_EQ(form.Log(), (id <= 2 ? Log{"close"} : Log{})) << id;
+  }
+}
+
 TEST_F(CommandsTest, LogoutSaysByeAndShowsTheHomeScreenAtOnce) {
   Program& program = Start();
   program.OnCommand(221, 0);
@@ -112,8 +124,7 @@ TEST_F(CommandsTest, TheProgramStartsWithTheLoggedOutMenu) {
   EXPECT_EQ(window_.menu, expected.menu);
 }
 
-// The state of every id that has a place in the menu or once had one, read off what was applied to
-// a menu in which everything is in the other state.
+// The state of every id that has a place in the menu or once had one; '.' where it was left alone.
 std::map<int, char> StatesAfter(MenuState state) {
   FakeMainWindow window;
   ApplyMenuState(state, window);
@@ -124,7 +135,7 @@ std::map<int, char> StatesAfter(MenuState state) {
     const auto found = window.menu.find(id);
     states[id] = found == window.menu.end() ? '.' : found->second ? 'E' : 'g';
   }
-  EXPECT_LE(window.menu.size(), states.size());
+  for (const auto& [id, enabled] : window.menu) EXPECT_TRUE(states.contains(id)) << id;
   return states;
 }
 

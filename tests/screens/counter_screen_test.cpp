@@ -15,6 +15,10 @@ constexpr int kSubcategory = 125;
 constexpr int kProducts = 126;
 constexpr int kWeight = 128;
 
+// Of lists and combo boxes: everything but a choice. Among them 2, the double click, and 7, the
+// dropping down.
+constexpr int kOtherListNotifications[] = {-1, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 0x0300, 0x0400};
+
 using Texts = std::vector<std::string>;
 
 class CounterScreenTest : public ProgramTest {
@@ -88,6 +92,27 @@ TEST_F(CounterScreenTest, AMainCategoryOffersItsSubcategoriesAndEmptiesTheProduc
   EXPECT_EQ(form_.ItemCount(kProducts), 0);
 }
 
+TEST_F(CounterScreenTest, AnotherSubcategoryReplacesTheProducts) {
+  Open();
+  form_.Choose(kMainCategory, "fruits");
+  form_.Choose(kSubcategory, "fresh");
+  form_.Choose(kSubcategory, "frozen");
+  EXPECT_EQ(form_.Items(kProducts),
+            (Texts{"frozen plums", "frozen sour cherries", "frozen strawberries"}));
+}
+
+TEST_F(CounterScreenTest, WithoutCategoryOrSubcategoryTheProductsStay) {
+  for (const int deselected : {kMainCategory, kSubcategory}) {
+    Open();
+    form_.Choose(kMainCategory, "fruits");
+    form_.Choose(kSubcategory, "fresh");
+    const Texts products = form_.Items(kProducts);
+    form_.ClearItems(deselected);
+    program_->OnCommand(kSubcategory, kSelectionChanged);
+    EXPECT_EQ(form_.Items(kProducts), products) << deselected;
+  }
+}
+
 TEST_F(CounterScreenTest, AMainCategorySetsDashes) {
   Open();
   form_.Choose(kMainCategory, "fruits");
@@ -145,6 +170,40 @@ TEST_F(CounterScreenTest, BeforeTheFirstChoiceAWeightChangesNothing) {
   Open();
   form_.Type(kWeight, "250");
   EXPECT_EQ(Values(), (Texts{"", "", "", ""}));
+}
+
+TEST_F(CounterScreenTest, OtherNotificationsChangeNothing) {
+  Open();
+  ChooseProduct("fruits", "frozen", "frozen strawberries");
+  form_.Type(kWeight, "250");
+  const Texts subcategories = form_.Items(kSubcategory);
+  const Texts products = form_.Items(kProducts);
+  const Texts values = Values();
+  for (const int id : {kMainCategory, kSubcategory, kProducts}) {
+    for (const int notification : kOtherListNotifications) {
+      SCOPED_TRACE(std::to_string(id) + " announces " + std::to_string(notification));
+      program_->OnCommand(id, notification);
+      EXPECT_EQ(form_.Items(kSubcategory), subcategories);
+      EXPECT_EQ(form_.SelectedText(kSubcategory), "frozen");
+      EXPECT_EQ(form_.Items(kProducts), products);
+      EXPECT_EQ(form_.SelectedText(kProducts), "frozen strawberries");
+      EXPECT_EQ(form_.Text(kWeight), "250");
+      EXPECT_EQ(Values(), values);
+    }
+  }
+}
+
+TEST_F(CounterScreenTest, OnlyTheUpdateOfTheWeightComputes) {
+  Open();
+  ChooseProduct("fruits", "frozen", "frozen strawberries");
+  form_.SetListener({});
+  form_.SetText(kWeight, "250");
+  for (const int notification : {0, 1, 0x0100, 0x0200, 0x0300, 0x0500}) {
+    program_->OnCommand(kWeight, notification);
+    EXPECT_EQ(Values(), (Texts{"28", "0.70", "0.40", "5.40"})) << notification;
+  }
+  program_->OnCommand(kWeight, 0x0400);
+  EXPECT_EQ(Values(), (Texts{"70.", "1.75", "1.", "13.5"}));
 }
 
 TEST_F(CounterScreenTest, NoSelectionLeavesThePreviousValues) {

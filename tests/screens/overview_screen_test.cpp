@@ -14,6 +14,10 @@ constexpr int kSubcategory = 110;
 constexpr int kProducts = 109;
 constexpr int kWeight = 111;
 
+// Of lists and combo boxes: everything but a choice. Among them 2, the double click, and 7, the
+// dropping down.
+constexpr int kOtherListNotifications[] = {-1, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 0x0300, 0x0400};
+
 using Texts = std::vector<std::string>;
 
 class OverviewScreenTest : public ProgramTest {
@@ -120,6 +124,9 @@ TEST_F(OverviewScreenTest, WithoutProteinThereIsNoRatio) {
   EXPECT_EQ(Ratio(), (Texts{" --", " --", " --"}));
   ChooseProduct("alcohol", "vodka", "vodka 40%");
   EXPECT_EQ(Ratio(), (Texts{" --", " --", " --"}));
+  form_.Type(kWeight, "250");
+  EXPECT_EQ(Values(), (Texts{"550.", "0", "0", "0"}));
+  EXPECT_EQ(Ratio(), (Texts{" --", " --", " --"}));
 }
 
 TEST_F(OverviewScreenTest, SmallExchangesAndSmallValuesDiffer) {
@@ -154,6 +161,40 @@ TEST_F(OverviewScreenTest, BeforeTheFirstChoiceAWeightChangesNothing) {
   form_.Type(kWeight, "250");
   EXPECT_EQ(Values(), (Texts{"", "", "", ""}));
   EXPECT_EQ(Ratio(), (Texts{"", "", ""}));
+}
+
+TEST_F(OverviewScreenTest, OtherNotificationsChangeNothing) {
+  Open();
+  ChooseProduct("fruits", "frozen", "frozen strawberries");
+  form_.Type(kWeight, "250");
+  const Texts subcategories = form_.Items(kSubcategory);
+  const Texts products = form_.Items(kProducts);
+  const Texts values = Values();
+  for (const int id : {kMainCategory, kSubcategory, kProducts}) {
+    for (const int notification : kOtherListNotifications) {
+      SCOPED_TRACE(std::to_string(id) + " announces " + std::to_string(notification));
+      program_->OnCommand(id, notification);
+      EXPECT_EQ(form_.Items(kSubcategory), subcategories);
+      EXPECT_EQ(form_.SelectedText(kSubcategory), "frozen");
+      EXPECT_EQ(form_.Items(kProducts), products);
+      EXPECT_EQ(form_.SelectedText(kProducts), "frozen strawberries");
+      EXPECT_EQ(form_.Text(kWeight), "250");
+      EXPECT_EQ(Values(), values);
+    }
+  }
+}
+
+TEST_F(OverviewScreenTest, OnlyTheUpdateOfTheWeightComputes) {
+  Open();
+  ChooseProduct("fruits", "frozen", "frozen strawberries");
+  form_.SetListener({});
+  form_.SetText(kWeight, "250");
+  for (const int notification : {0, 1, 0x0100, 0x0200, 0x0300, 0x0500}) {
+    program_->OnCommand(kWeight, notification);
+    EXPECT_EQ(Values(), (Texts{"28", "0.70", "0.40", "5.40"})) << notification;
+  }
+  program_->OnCommand(kWeight, 0x0400);
+  EXPECT_EQ(Values(), (Texts{"70.", "1.75", "1.", "13.5"}));
 }
 
 TEST_F(OverviewScreenTest, AProductOfNoMassShowsWhatTheDivisionGives) {

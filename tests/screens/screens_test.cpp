@@ -106,11 +106,12 @@ TEST_F(ScreensTest, TheWheelScrollsReportsOneLineWhateverTheDistance) {
     program.OnMouseWheel(-120 * 65536);
     program.OnMouseWheel(-360 * 65536);
     program.OnMouseWheel(120 * 65536);
+    program.OnMouseWheel(0);
     const std::vector<std::string> scrolled(
         form_.Log().begin() + static_cast<std::ptrdiff_t>(before), form_.Log().end());
     const bool is_report = screen == 4 || screen == 5 || screen == 8 || screen == 9 || screen == 11;
     EXPECT_EQ(scrolled, is_report ? (std::vector<std::string>{"scroll 119 down", "scroll 119 down",
-                                                              "scroll 119 up"})
+                                                              "scroll 119 up", "scroll 119 up"})
                                   : std::vector<std::string>{})
         << screen;
   }

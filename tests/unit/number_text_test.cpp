@@ -114,6 +114,35 @@ TEST(ParseNumberTest, GoesToInfinityAndToZeroBeyondTheRange) {
   EXPECT_EQ(ParseNumber("1" + std::string(400, '0') + "e-400"), 1);
 }
 
+TEST(ParseNumberTest, TellsTooLargeFromTooSmallByItsFirstSignificantDigit) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const std::string zeros(400, '0');
+  EXPECT_EQ(ParseNumber("1E999"), kInfinity);
+  EXPECT_EQ(ParseNumber("1E-999"), 0);
+  EXPECT_EQ(ParseNumber("00001e-400"), 0);
+  EXPECT_EQ(ParseNumber(zeros + "1e-400"), 0);
+  EXPECT_EQ(ParseNumber(zeros + "1e400"), kInfinity);
+  EXPECT_EQ(ParseNumber("0." + zeros + "1e5"), 0);
+  EXPECT_EQ(ParseNumber("0." + zeros + "1e399"), 0.01);
+  EXPECT_EQ(ParseNumber("0." + zeros + "1e999"), kInfinity);
+  EXPECT_EQ(ParseNumber("0.1" + zeros + "e310"), kInfinity);
+  // 0.000...1e5 that is small but still a number.
+  EXPECT_EQ(ParseNumber("0." + std::string(320, '0') + "1e5"), 1e-316);
+}
+
+TEST(ParseNumberTest, AnExponentHasNoBlanks) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const std::string huge = "1" + std::string(400, '0');
+  for (const char* const end : {"e -999", "e\t-999", "E -999", "e+ -999", "e- 999", "e +-999"}) {
+    EXPECT_EQ(ParseNumber(huge + end), kInfinity) << end;
+  }
+  const std::string tiny = "0." + std::string(400, '0') + "1";
+  for (const char* const end : {"e 999", "e\t+999", "E 999", "e+ 999"}) {
+    EXPECT_EQ(ParseNumber(tiny + end), 0) << end;
+  }
+  EXPECT_EQ(ParseNumber("2e 3"), 2);
+}
+
 TEST(ParseNumberTest, AgreesWithTheCLibrary) {
   std::mt19937_64 random(1116);
   std::uniform_real_distribution<double> exponent(-320, 308);

@@ -89,7 +89,16 @@ TEST(NutrientRatioTest, ShowsSmallPartsAsTheTraceText) {
   EXPECT_EQ(NutrientRatio("20.0", "1.9", "0", kBelowTrace).fat, "<0.1");
   EXPECT_EQ(NutrientRatio("20.0", "1.9", "0", kBelowTrace).carbohydrate, "<0.1");
   EXPECT_EQ(NutrientRatio("20.0", "1.9", "0", "0").fat, "0");
+  EXPECT_EQ(NutrientRatio("20.0", "1.99", "1.99", kBelowTrace).fat, "<0.1");
+  EXPECT_EQ(NutrientRatio("20.0", "1.99", "1.99", kBelowTrace).carbohydrate, "<0.1");
+  EXPECT_EQ(NutrientRatio("99.9", "9.98", "0", "0").fat, "0");
   EXPECT_EQ(NutrientRatio("20.0", "2.0", "0", "0").fat, "0.1");
+}
+
+TEST(NutrientRatioTest, HoldsItsPartsInSinglePrecision) {
+  // 0.3 / 3 lies below 0.1 in double precision and above it in single precision.
+  EXPECT_EQ(NutrientRatio("3", "0.3", "0.3", kBelowTrace).fat, "0.1");
+  EXPECT_EQ(NutrientRatio("3", "0.3", "0.3", kBelowTrace).carbohydrate, "0.1");
 }
 
 TEST(NutrientRatioTest, NeedsMoreThanATraceOfProtein) {
@@ -100,6 +109,8 @@ TEST(NutrientRatioTest, NeedsMoreThanATraceOfProtein) {
     EXPECT_EQ(ratio.carbohydrate, " --") << protein;
   }
   EXPECT_EQ(NutrientRatio("0.11", "0.11", "0.22", kBelowTrace).carbohydrate, "2.");
+  EXPECT_EQ(NutrientRatio(".101", ".101", ".202", kBelowTrace).protein, "1.");
+  EXPECT_EQ(NutrientRatio(".101", ".101", ".202", kBelowTrace).carbohydrate, "2.");
 }
 
 }  // namespace

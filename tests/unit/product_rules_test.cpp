@@ -2,7 +2,9 @@
 
 #include "food/product_rules.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -70,6 +72,19 @@ TEST_F(ProductRulesTest, GrainPreservesOfferAnEmptyEntryOnTheOverviewOnly) {
             (Names{"flour", "groats", "rice", "breakfast", "other", ""}));
 }
 
+TEST_F(ProductRulesTest, ASlotIsLeftOutForItsLengthOrForBeingTheUnusedOne) {
+  const std::string own_zero = "0";  // reads as an unused slot does and is none
+  CategoryRecord category = {.main_category = "poultry", .subcategories = {}};
+  category.subcategories.fill(kUnusedSlot);
+  category.subcategories[1] = "ab";
+  category.subcategories[2] = "a";
+  category.subcategories[4] = own_zero;
+  category.subcategories[11] = "abc";
+  food_.categories = {&category, 1};
+  EXPECT_EQ(ListSubcategories(food_, Layout::kCounter, "poultry"), (Names{"ab", "abc"}));
+  EXPECT_EQ(ListSubcategories(food_, Layout::kOverview, "poultry"), (Names{"ab", "a", "0", "abc"}));
+}
+
 TEST_F(ProductRulesTest, CategoriesAreComparedFromBothEnds) {
   // "poultry": positions 0 to 2 and the last three; the counter looks at the fourth from the end.
   std::vector<CategoryRecord> categories;
@@ -129,6 +144,20 @@ TEST_F(ProductRulesTest, TheOverviewComparesUserSubcategoriesAtOneMorePosition) 
             (Names{"agrees", "differs at 4"}));
   EXPECT_EQ(ListProducts(food_, Layout::kOverview, "dishes", "traditional/fish"),
             (Names{"agrees"}));
+}
+
+TEST_F(ProductRulesTest, TheMiddleOfAUserCategoryIsThatOfTheProductsOwn) {
+  food_.products = {};
+  // 29 characters: 14 and 9. Of the 23 chosen ones it would be 11 and 7.
+  LoadUserProducts(
+      "abcdefghijklmnopqrstuvwxyzABC;fresh;goes on;100;1;1;1;1;\n"
+      "abcdefg#ijk#mnopqrstuvwxyzABC;fresh;differs at 7 and 11;100;1;1;1;1;\n"
+      "abcdefghi#klmnopqrstuvwxyzABC;fresh;differs at 9;100;1;1;1;1;\n"
+      "abcdefghijklmn#pqrstuvwxyzABC;fresh;differs at 14;100;1;1;1;1;\n");
+  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
+    EXPECT_EQ(ListProducts(food_, layout, "abcdefghijklmnopqrstuvw", "fresh"),
+              (Names{"goes on", "differs at 7 and 11"}));
+  }
 }
 
 TEST_F(ProductRulesTest, AUserProductIsListedUnderItsOwnCategoryOnly) {
@@ -202,6 +231,144 @@ TEST_F(ProductRulesTest, ShortAndEmptyNamesAreFoundWithoutReadingOutsideThem) {
     EXPECT_EQ(FindProduct(food_, layout, "a"), nullptr);
   }
 }
+
+// Every comparison, position by position.
+
+// No two characters are the same, and no two of the positions that are counted from either end or
+// are a fraction of the length fall together.
+constexpr std::string_view kChosenText = "abcdefghijklmnopqrstuvw";
+static_assert(kChosenText.size() == 23);
+
+// Whether a row that holds `row` in the field of the comparison is taken for the chosen text.
+using Comparison = bool (*)(Layout layout, std::string_view row);
+
+bool IsCategoryTaken(Layout layout, std::string_view row) {
+  CategoryRecord category = {.main_category = row, .subcategories = {}};
+  category.subcategories.fill("offered");
+  FoodTable food;
+  food.categories = {&category, 1};
+  return !ListSubcategories(food, layout, kChosenText).empty();
+}
+
+bool IsBuiltInMainCategoryTaken(Layout layout, std::string_view row) {
+  const ProductRecord product = Row(row, "fresh", "name");
+  FoodTable food;
+  food.products = {&product, 1};
+  return !ListProducts(food, layout, kChosenText, "fresh").empty();
+}
+
+bool IsBuiltInSubcategoryTaken(Layout layout, std::string_view row) {
+  const ProductRecord product = Row("fruits", row, "name");
+  FoodTable food;
+  food.products = {&product, 1};
+  return !ListProducts(food, layout, "fruits", kChosenText).empty();
+}
+
+bool IsBuiltInNameTaken(Layout layout, std::string_view row) {
+  const ProductRecord product = Row("fruits", "fresh", row);
+  FoodTable food;
+  food.products = {&product, 1};
+  return FindProduct(food, layout, kChosenText) != nullptr;
+}
+
+void LoadUserProduct(FoodTable& food, std::string_view three_fields) {
+  const TemporaryFolder folder;
+  food.products = {};
+  food.user_products.Load(folder.Write("data.txt", std::string(three_fields) + ";100;1;2;3;4;\n"));
+}
+
+bool IsUserMainCategoryTaken(Layout layout, std::string_view row) {
+  FoodTable food;
+  LoadUserProduct(food, std::string(row) + ";fresh;name");
+  return !ListProducts(food, layout, kChosenText, "fresh").empty();
+}
+
+bool IsUserSubcategoryTaken(Layout layout, std::string_view row) {
+  FoodTable food;
+  LoadUserProduct(food, "fruits;" + std::string(row) + ";name");
+  return !ListProducts(food, layout, "fruits", kChosenText).empty();
+}
+
+bool IsUserNameTaken(Layout layout, std::string_view row) {
+  FoodTable food;
+  LoadUserProduct(food, "fruits;fresh;" + std::string(row));
+  return FindProduct(food, layout, kChosenText) != nullptr;
+}
+
+struct ComparisonCase {
+  const char* name;
+  Comparison is_taken;
+  Layout layout;
+  std::vector<int> positions;  // where the row and the chosen text have to agree
+  bool may_be_shorter;
+  bool may_be_longer;
+};
+
+void PrintTo(const ComparisonCase& comparison, std::ostream* out) { *out << comparison.name; }
+
+class ComparisonTest : public testing::TestWithParam<ComparisonCase> {
+ protected:
+  static bool IsTaken(std::string_view row) { return GetParam().is_taken(GetParam().layout, row); }
+  static bool IsLookedAt(std::size_t position) {
+    return std::ranges::count(GetParam().positions, static_cast<int>(position)) != 0;
+  }
+  // `text`, and what differs from it at one position or wherever the comparison does not look.
+  static void ExpectLooksAtItsPositionsOf(std::string_view text) {
+    EXPECT_TRUE(IsTaken(text)) << text;
+    std::string stranger(text);
+    for (std::size_t position = 0; position < text.size(); ++position) {
+      std::string row(text);
+      row[position] = '#';
+      EXPECT_EQ(IsTaken(row), !IsLookedAt(position)) << row;
+      if (!IsLookedAt(position)) stranger[position] = '#';
+    }
+    EXPECT_TRUE(IsTaken(stranger)) << stranger;
+  }
+};
+
+TEST_P(ComparisonTest, LooksAtItsPositionsOnly) { ExpectLooksAtItsPositionsOf(kChosenText); }
+
+TEST_P(ComparisonTest, TakesShorterAndLongerTextsWhereItMay) {
+  EXPECT_EQ(IsTaken(kChosenText.substr(0, 22)), GetParam().may_be_shorter);
+  EXPECT_EQ(IsTaken(std::string(kChosenText) + '#'), GetParam().may_be_longer);
+  // The positions stay those of the chosen text.
+  if (GetParam().may_be_shorter) ExpectLooksAtItsPositionsOf(kChosenText.substr(0, 18));
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(
+    Every, ComparisonTest,
+    testing::Values(
+        ComparisonCase{"CategoryOfTheCounter", IsCategoryTaken, Layout::kCounter,
+                       {0, 1, 2, 19, 20, 21, 22}, false, false},
+        ComparisonCase{"CategoryOfTheOverview", IsCategoryTaken, Layout::kOverview,
+                       {0, 1, 2, 20, 21, 22}, false, false},
+        ComparisonCase{"BuiltInMainCategoryOfTheCounter", IsBuiltInMainCategoryTaken,
+                       Layout::kCounter, {0, 1}, true, true},
+        ComparisonCase{"BuiltInMainCategoryOfTheOverview", IsBuiltInMainCategoryTaken,
+                       Layout::kOverview, {0, 1}, true, true},
+        ComparisonCase{"BuiltInSubcategoryOfTheCounter", IsBuiltInSubcategoryTaken,
+                       Layout::kCounter, {0, 1, 2, 5, 7, 11, 22}, false, false},
+        ComparisonCase{"BuiltInSubcategoryOfTheOverview", IsBuiltInSubcategoryTaken,
+                       Layout::kOverview, {0, 1, 2, 11, 20, 21, 22}, false, false},
+        ComparisonCase{"BuiltInNameOfTheCounter", IsBuiltInNameTaken, Layout::kCounter,
+                       {0, 1, 2, 5, 7, 11, 20, 21, 22}, false, false},
+        ComparisonCase{"BuiltInNameOfTheOverview", IsBuiltInNameTaken, Layout::kOverview,
+                       {0, 1, 2, 17, 18, 19, 20, 21, 22}, false, false},
+        ComparisonCase{"UserMainCategoryOfTheCounter", IsUserMainCategoryTaken, Layout::kCounter,
+                       {0, 1, 2, 7, 11}, false, true},
+        ComparisonCase{"UserMainCategoryOfTheOverview", IsUserMainCategoryTaken, Layout::kOverview,
+                       {0, 1, 2, 7, 11}, false, true},
+        ComparisonCase{"UserSubcategoryOfTheCounter", IsUserSubcategoryTaken, Layout::kCounter,
+                       {0, 1, 2, 7, 11}, true, false},
+        ComparisonCase{"UserSubcategoryOfTheOverview", IsUserSubcategoryTaken, Layout::kOverview,
+                       {0, 1, 2, 5, 7, 11}, true, false},
+        ComparisonCase{"UserNameOfTheCounter", IsUserNameTaken, Layout::kCounter,
+                       {0, 1, 2, 7, 11}, true, false},
+        ComparisonCase{"UserNameOfTheOverview", IsUserNameTaken, Layout::kOverview,
+                       {0, 1, 2, 5, 7, 11}, true, false}),
+    [](const testing::TestParamInfo<ComparisonCase>& one) { return one.param.name; });
+// clang-format on
 
 // The listing behaviour of the real table.
 
