@@ -20,6 +20,10 @@ bool ReplaceByRename(const std::string& from, const std::string& to);
 // Cuts the open `file` back to `size` bytes. False when the system could not.
 bool CutBack(std::FILE* file, std::int64_t size);
 
+// Makes or removes one folder; only an empty one is removed. False when the system could not.
+bool MakeFolder(const std::string& path);
+bool RemoveFolder(const std::string& path);
+
 }  // namespace velnor
 
 #endif  // VELNOR_BASE_FILE_CALLS_H_

@@ -37,6 +37,10 @@ class Form {
   virtual int ItemCount(int id) const = 0;
   virtual void AddItem(int id, std::string_view text) = 0;
   virtual void ClearItems(int id) = 0;  // takes the selection with it
+  // The text of an item, counted from 0; empty when there is no such item.
+  virtual std::string ItemText(int id, int index) const = 0;
+  // Selects an item, counted from 0. As nothing here does, this does not announce itself.
+  virtual void SelectItem(int id, int index) = 0;
   // The text of the selected item; nothing when no item is selected.
   virtual std::optional<std::string> SelectedText(int id) const = 0;
   // Takes the selected item off a list box; without a selection nothing happens.

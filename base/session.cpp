@@ -2,6 +2,10 @@
 
 namespace velnor {
 
+std::string SessionState::FileOf(const std::string& user, std::string_view file_name) const {
+  return base_folder + user + kPathSeparator + std::string(file_name);
+}
+
 std::string DateText(int day, int month, int year) {
   return std::to_string(day) + '.' + std::to_string(month) + '.' + std::to_string(year);
 }

@@ -4,6 +4,7 @@
 #ifndef VELNOR_BASE_SESSION_H_
 #define VELNOR_BASE_SESSION_H_
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -16,12 +17,23 @@ inline constexpr std::string_view kTitle = "Velnor calorie counter";
 using ScreenId = int;
 inline constexpr ScreenId kHomeScreen = 0;
 
+// Characters of a user's name.
+inline constexpr std::size_t kUserNameLimit = 99;
+
 struct SessionState {
   ScreenId screen = kHomeScreen;
-  std::string user_name = {};    // at most 99 characters; empty: nobody is logged in
+  std::string user_name = {};    // at most kUserNameLimit; empty: nobody is logged in
   std::string base_folder = {};  // the start-up directory with a separator at its end
   std::string date_text = {};    // today, as DateText writes it; stays for the whole run
+
+  // The path of a file in the folder of a user, or of the one who is logged in.
+  std::string FileOf(const std::string& user, std::string_view file_name) const;
+  std::string UserFile(std::string_view file_name) const { return FileOf(user_name, file_name); }
 };
+
+// Between the folders of a path.
+inline constexpr char kPathSeparator =
+    static_cast<char>(std::filesystem::path::preferred_separator);
 
 // Day, month (1 to 12) and four-digit year joined by points, without leading zeros: "5.3.2026".
 std::string DateText(int day, int month, int year);

@@ -12,7 +12,13 @@ namespace {
 
 constexpr std::string_view kHelpFile = "Velnor CALORIES COUNTER V 2.6 PORADNIK.HLP";
 
+void OpenLogin(Program& program) { program.OpenLogin(); }
+
 void LogOut(Program& program) { program.LogOut(); }
+
+void OpenUsers(Program& program) { program.OpenUsers(); }
+
+void OpenProfile(Program& program) { program.OpenProfile(); }
 
 void Exit(Program& program) { program.window().Close(); }
 
@@ -31,9 +37,6 @@ void OpenAddProduct(Program& program) { program.OpenAddProduct(); }
 
 void OpenRemoveProduct(Program& program) { program.OpenRemoveProduct(); }
 
-// Commands whose dialogs are still to come; they do nothing yet.
-void OpenNothing(Program& /*program*/) {}
-
 struct CommandRow {
   int id;
   void (*run)(Program& program);
@@ -41,23 +44,15 @@ struct CommandRow {
 
 // The commands that do something other than selecting a screen.
 constexpr CommandRow kCommands[] = {
-    {200, OpenNothing},      // login
-    {201, LogOut},           //
-    {202, OpenNothing},      // add and remove users
-    {203, Exit},             //
-    {204, OpenNothing},      // profile
-    {211, SayNotAvailable},  //
-    {220, SayNotAvailable},  //
-    {222, SayNotAvailable},  //
-    {223, SayNotAvailable},  //
-    {230, SayNotAvailable},  //
-    {234, SayNotAvailable},  //
-    {235, SayNotAvailable},  //
-    {237, SayNotAvailable},  //
-    {240, OpenAddProduct},
-    {241, OpenRemoveProduct},
-    {250, OpenAboutBox},  //
-    {251, OpenHelp},      //
+    {200, OpenLogin},         {201, LogOut},
+    {202, OpenUsers},         {203, Exit},
+    {204, OpenProfile},       {211, SayNotAvailable},
+    {220, SayNotAvailable},   {222, SayNotAvailable},
+    {223, SayNotAvailable},   {230, SayNotAvailable},
+    {234, SayNotAvailable},   {235, SayNotAvailable},
+    {237, SayNotAvailable},   {240, OpenAddProduct},
+    {241, OpenRemoveProduct}, {250, OpenAboutBox},
+    {251, OpenHelp},
 };
 
 // Menu ids; outside of them an id always belongs to a control.
@@ -70,6 +65,7 @@ bool RunCommand(Program& program, int id) {
   if (id < kFirstCommand || id > kLastCommand) return false;
   const auto screen = std::ranges::find(Screens(), id, &ScreenRow::command);
   if (screen != Screens().end()) {
+    if (screen->before != nullptr) screen->before(program);
     program.ShowScreen(screen->id);
     return true;
   }

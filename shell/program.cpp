@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "food/add_product_dialog.h"
+#include "food/balance_file.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
 #include "food/user_product_file.h"
@@ -13,6 +14,9 @@
 #include "shell/header.h"
 #include "shell/menu_states.h"
 #include "shell/screens.h"
+#include "users/login_dialog.h"
+#include "users/profile_dialog.h"
+#include "users/users_dialog.h"
 
 namespace velnor {
 namespace {
@@ -36,6 +40,8 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
+    {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
 };
 
 }  // namespace
@@ -47,7 +53,8 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       window_(window),
       message_boxes_(message_boxes),
       counter_(food_, form),
-      overview_(food_, exchanges_, form) {}
+      overview_(food_, exchanges_, form),
+      requirement_(session_, profile_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -90,6 +97,27 @@ void Program::LogOut() {
   window_.PaintNow();
 }
 
+void Program::OpenLogin() {
+  window_.OpenDialog(
+      kLoginResource,
+      std::make_unique<LoginDialog>(
+          session_, profile_, window_, message_boxes_,
+          LoginDialog::Events{.on_login = [this] { ApplyMenuState(MenuState::kLoggedIn, window_); },
+                              .start_day = [this] { StartUserDay(); }}));
+}
+
+void Program::OpenUsers() {
+  window_.OpenDialog(kUsersResource,
+                     std::make_unique<UsersDialog>(session_, window_, message_boxes_, [this] {
+                       ApplyMenuState(MenuState::kUserRemoved, window_);
+                     }));
+}
+
+void Program::OpenProfile() {
+  window_.OpenDialog(kProfileResource,
+                     std::make_unique<ProfileDialog>(session_, profile_, window_, message_boxes_));
+}
+
 void Program::OpenAddProduct() {
   window_.OpenDialog(kAddProductResource,
                      std::make_unique<AddProductDialog>(food_, UserProductsPath(), message_boxes_));
@@ -102,6 +130,11 @@ void Program::OpenRemoveProduct() {
 
 void Program::OpenSearch() {
   window_.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food_));
+}
+
+void Program::StartUserDay() {
+  StartDayIfNew(session_.UserFile(kBalanceFile), session_.date_text);
+  requirement_.OnLogin();
 }
 
 std::string Program::UserProductsPath() const {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 
+#include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
 #include "base/main_window.h"
@@ -16,6 +17,7 @@
 #include "food/counter_screen.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
+#include "users/profile.h"
 
 namespace velnor {
 
@@ -45,26 +47,34 @@ class Program {
   // What the commands and screens of the tables work with.
   void ShowScreen(ScreenId screen);
   void LogOut();
+  void OpenLogin();
+  void OpenUsers();
+  void OpenProfile();
   void OpenAddProduct();
   void OpenRemoveProduct();
   void OpenSearch();
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
+  RequirementScreen& requirement() { return requirement_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const SessionState& session() const { return session_; }
 
  private:
   std::string UserProductsPath() const;
+  // What begins with the login of a user: the day's balance, the user's limits.
+  void StartUserDay();
 
   SessionState session_;
   Form& form_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
+  UserProfile profile_;
   FoodTable food_;
   Exchanges exchanges_;
   CounterScreen counter_;
   OverviewScreen overview_;
+  RequirementScreen requirement_;
 };
 
 }  // namespace velnor

@@ -24,6 +24,8 @@ constexpr int kBalanceControls[] = {165};
 constexpr int kBmrControls[] = {101, 176};
 constexpr int kEnergyControls[] = {181, 182};
 
+void UpdateRequirement(Program& program) { program.requirement().Update(); }
+
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     {0, 0, "TLO", {}, nullptr},                          // home
@@ -33,9 +35,12 @@ constexpr ScreenRow kScreens[] = {
      [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
     {4, 210, "BCG", kReportControls, nullptr},           // weight report
     {5, 214, "BCG", kReportControls, nullptr},           // WHR report
-    {6, 232, "ZAAP", kRequirementControls, nullptr},     // daily requirement
+    {6, 232, "ZAAP", kRequirementControls,               // daily requirement
+     [](Program& program, Canvas& canvas) { program.requirement().Paint(canvas); },
+     UpdateRequirement},
     {7, 231, "POS", kCounterControls,                    // nutrition counter
-     [](Program& program, Canvas& canvas) { program.counter().Paint(canvas); }},
+     [](Program& program, Canvas& canvas) { program.counter().Paint(canvas); },
+     UpdateRequirement},
     {8, 212, "BCG", kReportControls, nullptr},           // eaten calories report
     {9, 213, "BCG", {}, nullptr},                        // recipes report
     {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories

@@ -22,6 +22,7 @@ struct ScreenRow {
   std::string_view background;
   std::span<const int> controls;                    // keys of the controls it shows
   void (*paint)(Program& program, Canvas& canvas);  // its own texts; null: none yet
+  void (*before)(Program& program) = nullptr;       // what the command does first; null: nothing
 };
 
 // All screens, by number.

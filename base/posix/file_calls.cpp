@@ -1,5 +1,6 @@
 #include "base/file_calls.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velnor {
@@ -11,5 +12,9 @@ bool ReplaceByRename(const std::string& from, const std::string& to) {
 }
 
 bool CutBack(std::FILE* file, std::int64_t size) { return ftruncate(fileno(file), size) == 0; }
+
+bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0; }
+
+bool RemoveFolder(const std::string& path) { return rmdir(path.c_str()) == 0; }
 
 }  // namespace velnor

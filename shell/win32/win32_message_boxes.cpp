@@ -13,13 +13,19 @@ constexpr std::array<UINT, 3> kIcons = {MB_ICONINFORMATION, MB_ICONQUESTION, 0};
 }  // namespace
 
 Answer Win32MessageBoxes::Show(const Message& message) {
-  const HWND owner = message.owner == MessageOwner::kMainWindow ? main_window_ : nullptr;
+  const HWND owner = Owner(message.owner);
   const UINT style = kButtons[static_cast<std::size_t>(message.buttons)] |
                      kIcons[static_cast<std::size_t>(message.icon)];
   const int pressed = MessageBoxA(owner, std::string(message.text).c_str(),
                                   std::string(message.caption).c_str(), style);
   if (message.buttons == MessageButtons::kOk) return Answer::kOk;
   return pressed == IDYES ? Answer::kYes : Answer::kNo;
+}
+
+HWND Win32MessageBoxes::Owner(MessageOwner owner) const {
+  if (owner == MessageOwner::kNone) return nullptr;
+  const HWND active = owner == MessageOwner::kDialog ? GetActiveWindow() : nullptr;
+  return active != nullptr ? active : main_window_;
 }
 
 }  // namespace velnor

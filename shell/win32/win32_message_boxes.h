@@ -16,6 +16,8 @@ class Win32MessageBoxes final : public MessageBoxes {
   Answer Show(const Message& message) override;
 
  private:
+  HWND Owner(MessageOwner owner) const;
+
   HWND main_window_;
 };
 

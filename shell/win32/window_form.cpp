@@ -31,12 +31,14 @@ const char* ClassName(ControlClass control_class) {
 
 // List boxes and combo boxes do the same things under different message numbers.
 struct ListMessages {
-  UINT count, add, reset, selection, text_length, text;
+  UINT count, add, reset, selection, select, text_length, text;
 };
-constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,  LB_ADDSTRING,  LB_RESETCONTENT,
-                                           LB_GETCURSEL, LB_GETTEXTLEN, LB_GETTEXT};
-constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,  CB_ADDSTRING,    CB_RESETCONTENT,
-                                            CB_GETCURSEL, CB_GETLBTEXTLEN, CB_GETLBTEXT};
+constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,  LB_ADDSTRING, LB_RESETCONTENT,
+                                           LB_GETCURSEL, LB_SETCURSEL, LB_GETTEXTLEN,
+                                           LB_GETTEXT};
+constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,  CB_ADDSTRING, CB_RESETCONTENT,
+                                            CB_GETCURSEL, CB_SETCURSEL, CB_GETLBTEXTLEN,
+                                            CB_GETLBTEXT};
 
 const ListMessages& MessagesOf(HWND control) {
   char name[16] = {};
@@ -95,18 +97,30 @@ void WindowForm::ClearItems(int id) {
   SendMessageA(control, MessagesOf(control).reset, 0, 0);
 }
 
-std::optional<std::string> WindowForm::SelectedText(int id) const {
+std::string WindowForm::ItemText(int id, int index) const {
   const HWND control = Control(id);
   const ListMessages& messages = MessagesOf(control);
-  const LRESULT selection = SendMessageA(control, messages.selection, 0, 0);
-  if (control == nullptr || selection < 0) return std::nullopt;
-  const auto index = static_cast<WPARAM>(selection);
-  const LRESULT length = SendMessageA(control, messages.text_length, index, 0);
-  if (length < 0) return std::nullopt;
+  const auto item = static_cast<WPARAM>(index);
+  const LRESULT length = SendMessageA(control, messages.text_length, item, 0);
+  if (length < 0) return {};
   std::string text(static_cast<std::size_t>(length) + 1, '\0');
-  SendMessageA(control, messages.text, index, reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(length));
+  // The length asked for may be more than the text has.
+  const LRESULT copied =
+      SendMessageA(control, messages.text, item, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(std::clamp<LRESULT>(copied, 0, length)));
   return text;
+}
+
+void WindowForm::SelectItem(int id, int index) {
+  const HWND control = Control(id);
+  SendMessageA(control, MessagesOf(control).select, static_cast<WPARAM>(index), 0);
+}
+
+std::optional<std::string> WindowForm::SelectedText(int id) const {
+  const HWND control = Control(id);
+  const LRESULT selection = SendMessageA(control, MessagesOf(control).selection, 0, 0);
+  if (control == nullptr || selection < 0) return std::nullopt;
+  return ItemText(id, static_cast<int>(selection));
 }
 
 void WindowForm::RemoveSelectedItem(int id) {

@@ -42,6 +42,7 @@ class Tour {
     }
 
     WalkProductDialogs();
+    WalkUserDialogs();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -97,14 +98,47 @@ class Tour {
     remove.Command(IDCANCEL);
   }
 
+  void WalkUserDialogs() const {
+    app_.main().Command(202);
+    const Window users = app_.WaitForPopup();
+    for (const char* const name : {"Zoe", "Adam"}) {
+      users.SetText(701, name);
+      users.Command(702);
+    }
+    users.Choose(700, "Zoe");
+    TakeWindow(users, "users");
+    users.Command(IDOK);
+
+    app_.main().Command(200);
+    const Window login = app_.WaitForPopup();
+    login.Choose(700, "Zoe");
+    TakeWindow(login, "login");
+    login.PostCommand(IDOK);
+    const MessageBoxSeen fill_up = app_.WaitForMessageBox(login);
+    TakeWindow(Window(fill_up.handle), "login-fill-up-profile");
+    Answer(fill_up, IDOK);
+
+    app_.main().Command(204);
+    const Window profile = app_.WaitForPopup();
+    profile.SetText(704, "35");
+    profile.SetText(705, "170");
+    profile.Choose(706, "women");
+    profile.Choose(707, "low");
+    profile.Choose(708, "athlete");
+    TakeWindow(profile, "profile");
+    profile.Command(IDOK);
+    Take("home-logged-in");
+    app_.main().Command(232);
+    Take("requirement-athlete");
+  }
+
   struct ScreenName {
     int command;
     const char* name;
   };
   static constexpr ScreenName kOtherScreens[] = {
-      {221, "bmi"},          {224, "whr"},        {210, "weight-report"},
-      {232, "requirement"},  {238, "activities"}, {233, "balance"},
-      {270, "weight-chart"}, {225, "bmr"},        {239, "energy-balance"},
+      {221, "bmi"},       {224, "whr"},          {210, "weight-report"}, {238, "activities"},
+      {233, "balance"},   {270, "weight-chart"}, {225, "bmr"},           {239, "energy-balance"},
       {252, "exchanges"},
   };
 

@@ -107,6 +107,15 @@ void FakeForm::ClearItems(int id) {
   control->selection = -1;
 }
 
+std::string FakeForm::ItemText(int id, int index) const {
+  return index < 0 || index >= ItemCount(id) ? "" : Items(id)[static_cast<std::size_t>(index)];
+}
+
+void FakeForm::SelectItem(int id, int index) {
+  Control* const control = Find(id);
+  if (control != nullptr) control->selection = index < ItemCount(id) ? index : -1;
+}
+
 std::optional<std::string> FakeForm::SelectedText(int id) const {
   const Control* const control = Find(id);
   if (control == nullptr || control->selection < 0) return std::nullopt;

@@ -47,6 +47,8 @@ class FakeForm final : public Form {
   int ItemCount(int id) const override;
   void AddItem(int id, std::string_view text) override;
   void ClearItems(int id) override;
+  std::string ItemText(int id, int index) const override;
+  void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void Focus(int id) override;

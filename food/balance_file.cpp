@@ -1,0 +1,18 @@
+#include "food/balance_file.h"
+
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr std::size_t kLineLimit = 99;
+
+}  // namespace
+
+void StartDayIfNew(const std::string& path, std::string_view date) {
+  const std::string text = ReadFile(path, kLineLimit);
+  const std::string_view first_line = LineReader(text, kLineLimit).Next().value_or("");
+  if (!first_line.starts_with(date)) ReplaceFile(path, date);
+}
+
+}  // namespace velnor

@@ -1,0 +1,455 @@
+// Registering, logging in, and the profile, through their dialogs.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_fixture.h"
+
+namespace velnor {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const std::string kForbidden =
+    "The name contain forbidden signs\n"
+    "         space + -  / . ; ~ ` > < | : tab ! @ # $ % ^ & * ( ) \"";
+
+class PeopleTest : public ProgramTest {
+ protected:
+  static constexpr std::uint32_t kSorted = control_style::kListNotify | control_style::kSortedList;
+
+  void OpenUsers() {
+    users_ = {};
+    users_.AddControl(700, ControlClass::kListBox, kSorted);
+    users_.AddControl(701, ControlClass::kEdit, control_style::kPlain);
+    OpenDialog(202, users_);
+  }
+  void OpenLogin() {
+    login_ = {};
+    login_.AddControl(700, ControlClass::kListBox, kSorted);
+    OpenDialog(200, login_);
+  }
+  void OpenProfile() {
+    profile_ = {};
+    for (const int id : {704, 705}) {
+      profile_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
+    }
+    for (const int id : {706, 707, 708}) {
+      profile_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
+    }
+    OpenDialog(204, profile_);
+  }
+  Texts Add(const std::string& name) {
+    users_.SetText(701, name);
+    users_.Press(702);
+    return boxes_.TakeTexts();
+  }
+  void Register(const std::string& name) {
+    OpenUsers();
+    EXPECT_EQ(Add(name), Texts{});
+    users_.Press(1);
+  }
+  Texts LogIn(const std::string& name) {
+    OpenLogin();
+    login_.Choose(700, name);
+    login_.Press(1);
+    return boxes_.TakeTexts();
+  }
+  std::string Registry() const { return folder_.Read("users.ASC"); }
+  const std::string& User() const { return program_->session().user_name; }
+
+  FakeForm users_;
+  FakeForm login_;
+  FakeForm profile_;
+};
+
+// --- users
+
+TEST_F(PeopleTest, AMissingListOpensEmpty) {
+  Start();
+  OpenUsers();
+  EXPECT_EQ(users_.ItemCount(700), 0);
+}
+
+TEST_F(PeopleTest, AddedUsersGetTheirFilesAtOnceAndTheirEntryOnOk) {
+  Start();
+  OpenUsers();
+  EXPECT_EQ(Add("Zoe"), Texts{});
+  EXPECT_EQ(users_.Text(701), "");
+  EXPECT_EQ(Add("adam"), Texts{});
+  EXPECT_EQ(Registry(), "(missing)");
+  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "adam"}));
+  Texts files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.path() + "Zoe")) {
+    files.push_back(entry.path().filename().string());
+    EXPECT_EQ(entry.file_size(), 0U);
+  }
+  std::ranges::sort(files);
+  EXPECT_EQ(files, (Texts{"cwiczenia.ASC", "info.ASC", "mirvo.ASC", "waga.ASC", "whr.ASC",
+                          "wykoda.txt", "wykwag.txt", "zestaw.ASC"}));
+  users_.Press(1);
+  EXPECT_EQ(users_.Log(), (Texts{"close"}));
+  EXPECT_EQ(Registry(), "adam\r\nZoe");
+}
+
+TEST_F(PeopleTest, CancelKeepsTheFolderAndForgetsTheEntry) {
+  Start();
+  OpenUsers();
+  Add("Zoe");
+  users_.Press(2);
+  EXPECT_EQ(folder_.Names(), (Texts{"Zoe"}));
+}
+
+TEST_F(PeopleTest, ASelectionFillsTheName) {
+  folder_.Write("users.ASC", "Ann\r\nBob");
+  Start();
+  OpenUsers();
+  users_.Choose(700, "Bob");
+  EXPECT_EQ(users_.Text(701), "Bob");
+}
+
+TEST_F(PeopleTest, ANameNeedsASign) {
+  Start();
+  OpenUsers();
+  users_.Press(702);
+  ASSERT_EQ(boxes_.shown.size(), 1U);
+  EXPECT_EQ(boxes_.shown[0].text, "The name of the user must\ncontain at least 1 sign");
+  EXPECT_EQ(boxes_.shown[0].caption, "ERROR!");
+  EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kNone);
+  EXPECT_EQ(users_.ItemCount(700), 0);
+}
+
+TEST_F(PeopleTest, EveryForbiddenSignHasItsBox) {
+  Start();
+  OpenUsers();
+  EXPECT_EQ(Add("Ann Lee"), (Texts{kForbidden}));
+  EXPECT_EQ(Add("a.b-c"), (Texts{kForbidden, kForbidden}));
+  EXPECT_EQ(Add("..\\x").size(), 3U);
+  EXPECT_EQ(Add("a?b"), (Texts{kForbidden}));  // no folder can be called so
+  EXPECT_EQ(users_.ItemCount(700), 0);
+  EXPECT_EQ(folder_.Names(), Texts{});
+}
+
+TEST_F(PeopleTest, ANameOrAListTooLongIsRefusedAndNothingIsMade) {
+  Start();
+  OpenUsers();
+  EXPECT_EQ(Add(std::string(100, 'n')),
+            (Texts{"The name of the user can\ncontain at most 99 signs"}));
+  for (int i = 0; i < 9; ++i) EXPECT_EQ(Add(std::string(98, 'n') + std::to_string(i)), Texts{});
+  // 9 names of 99 and 8 line ends make 907 bytes; 91 more and a line end are 1000.
+  EXPECT_EQ(Add(std::string(92, 'x')),
+            (Texts{"The list of users is full\nRemove some user first"}));
+  EXPECT_EQ(Add(std::string(91, 'x')), Texts{});
+  EXPECT_EQ(users_.ItemCount(700), 10);
+  EXPECT_EQ(folder_.Names().size(), 10U);
+  users_.Press(1);
+  EXPECT_EQ(Registry().size(), 1000U);
+}
+
+TEST_F(PeopleTest, ARegisteredNameIsTakenAgainAndItsFilesBecomeEmpty) {
+  Start();
+  OpenUsers();
+  Add("Ann");
+  folder_.Write("Ann/waga.ASC", "old");
+  Add("Ann");
+  users_.Press(1);
+  EXPECT_EQ(Registry(), "Ann\r\nAnn");
+  EXPECT_EQ(folder_.Read("Ann/waga.ASC"), "");
+}
+
+TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
+  Start();
+  Register("Ann");
+  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt", "bilans.ASC.new"}) {
+    folder_.Write(std::string("Ann/") + file, "x");
+  }
+  OpenUsers();
+  users_.Choose(700, "Ann");
+  users_.Press(703);
+  ASSERT_EQ(boxes_.shown.size(), 1U);
+  EXPECT_EQ(boxes_.shown[0].text, "Delete user??");
+  EXPECT_EQ(boxes_.shown[0].caption, "CAUTION");
+  EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
+  EXPECT_EQ(boxes_.shown[0].icon, MessageIcon::kQuestion);
+  EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kNone);
+  EXPECT_EQ(users_.ItemCount(700), 0);
+  EXPECT_EQ(users_.Text(701), "");
+  EXPECT_EQ(Registry(), "Ann");  // until OK
+  EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
+  users_.Press(1);
+  EXPECT_EQ(Registry(), "");
+}
+
+TEST_F(PeopleTest, NoRemovesNothing) {
+  Start();
+  Register("Ann");
+  OpenUsers();
+  users_.Choose(700, "Ann");
+  boxes_.answer = Answer::kNo;
+  users_.Press(703);
+  EXPECT_EQ(users_.ItemCount(700), 1);
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "users.ASC"}));
+}
+
+TEST_F(PeopleTest, ATypedNameIsRemovedWithoutAListEntry) {
+  Start();
+  Register("Ann");
+  OpenUsers();
+  users_.SetText(701, "Ann");
+  users_.Press(703);
+  EXPECT_EQ(users_.ItemCount(700), 1);
+  EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
+}
+
+TEST_F(PeopleTest, ATypedNameThatLeavesTheFolderRemovesNothing) {
+  folder_.Write("waga.ASC", "not a user's");
+  std::filesystem::create_directory(folder_.path() + "inner");
+  folder_.Write("inner/waga.ASC", "x");
+  Start();
+  OpenUsers();
+  for (const char* const name : {"..", "inner/../..", "..\\x", "C:x", ". "}) {
+    users_.SetText(701, name);
+    users_.Press(703);
+    EXPECT_EQ(boxes_.TakeTexts(), (Texts{"Delete user??", kForbidden})) << name;
+  }
+  EXPECT_EQ(folder_.Read("waga.ASC"), "not a user's");
+  EXPECT_EQ(folder_.Read("inner/waga.ASC"), "x");
+}
+
+TEST_F(PeopleTest, RemovingANameLikeTheUsersLogsThemOut) {
+  Start();
+  Register("Bea");
+  Register("Bob");
+  Register("Rob");
+  LogIn("Bea");
+  Open(252);
+  OpenUsers();
+  users_.Choose(700, "Rob");
+  users_.Press(703);
+  EXPECT_EQ(User(), "Bea");
+  EXPECT_EQ(program_->session().screen, 20);
+  window_.log.clear();
+  boxes_.TakeTexts();
+  users_.Choose(700, "Bob");
+  users_.Press(703);
+  EXPECT_EQ(boxes_.TakeTexts(), (Texts{"Delete user??"}));
+  EXPECT_EQ(User(), "");
+  EXPECT_EQ(program_->session().screen, 0);
+  EXPECT_EQ(window_.log, (Texts{"paint now"}));
+  EXPECT_TRUE(window_.menu.at(200));
+  EXPECT_TRUE(window_.menu.at(238));
+  EXPECT_FALSE(window_.menu.at(239));
+}
+
+TEST_F(PeopleTest, AListThatIsTooLongKeepsWhatIsNotShown) {
+  std::string list;
+  for (int i = 100; i < 500; ++i) list += "user" + std::to_string(i) + "\r\n";
+  folder_.Write("users.ASC", list);
+  Start();
+  OpenUsers();
+  EXPECT_EQ(users_.ItemCount(700), 111);  // nine bytes each
+  users_.Press(1);
+  EXPECT_EQ(Registry(), list.substr(0, list.size()));
+}
+
+TEST_F(PeopleTest, AListThatCannotBeWrittenKeepsTheDialogOpen) {
+  std::filesystem::create_directory(folder_.path() + "users.ASC");
+  Start();
+  OpenUsers();
+  Add("Ann");
+  users_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), (Texts{"The list of users could not be written"}));
+  EXPECT_EQ(users_.Log(), Texts{});
+}
+
+// --- login
+
+TEST_F(PeopleTest, LoginNeedsASelection) {
+  folder_.Write("users.ASC", "Ann");
+  Start();
+  OpenLogin();
+  login_.Press(1);
+  ASSERT_EQ(boxes_.shown.size(), 1U);
+  EXPECT_EQ(boxes_.shown[0].text,
+            "CAUTION!!\nThere`s no users\nIf You want to log in\nfirst have add at least 1 user.");
+  EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kDialog);
+  EXPECT_EQ(login_.Log(), Texts{});
+}
+
+TEST_F(PeopleTest, LoginOpensTheMenuAndShowsTheHomeScreen) {
+  Start();
+  Register("Ann");
+  Open(252);
+  folder_.Write("Ann/info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  window_.log.clear();
+  EXPECT_EQ(LogIn("Ann"), Texts{});
+  EXPECT_EQ(User(), "Ann");
+  EXPECT_EQ(program_->session().screen, 0);
+  EXPECT_EQ(window_.log, (Texts{"open 10002", "paint now"}));
+  EXPECT_EQ(login_.Log(), (Texts{"close"}));
+  for (const auto& [command, enabled] : window_.menu) EXPECT_EQ(enabled, command != 200) << command;
+  const RecordingCanvas canvas = Repaint();
+  EXPECT_EQ(canvas.texts[1], (DrawnText{"Ann", {45, 2}, kBodyFont, kBlack}));
+  EXPECT_EQ(canvas.texts[2], (DrawnText{kTestDate, {730, 2}, kBodyFont, kBlack}));
+}
+
+TEST_F(PeopleTest, OpeningTheLoginEmptiesTheNameAndASelectionFillsIt) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  OpenLogin();
+  EXPECT_EQ(User(), "");
+  login_.Choose(700, "Ann");
+  EXPECT_EQ(User(), "Ann");
+  login_.Press(2);
+  EXPECT_EQ(User(), "Ann");
+}
+
+TEST_F(PeopleTest, AnIncompleteProfileIsPointedOutAndTheLoginGoesOn) {
+  Start();
+  Register("Ann");
+  const std::string fill_up = "CAUTION!!\nFill up Your profile!";
+  EXPECT_EQ(LogIn("Ann"), (Texts{fill_up}));
+  EXPECT_EQ(User(), "Ann");
+  for (const char* const lines : {"0\r\n170\r\nwomen\r\nlow\r\nnone", "35\r\nabc\r\nwomen\r\nlow",
+                                  "35\r\n170\r\n0\r\nlow", "35\r\n170\r\nwomen\r\n0\r\nnone"}) {
+    folder_.Write("Ann/info.ASC", lines);
+    EXPECT_EQ(LogIn("Ann"), (Texts{fill_up})) << lines;
+  }
+  folder_.Write("Ann/info.ASC", "35\n170\nmen\nlow");  // other is not asked for
+  EXPECT_EQ(LogIn("Ann"), Texts{});
+}
+
+TEST_F(PeopleTest, APregnantManIsPointedOutButNotASucklingOne) {
+  Start();
+  Register("Bob");
+  folder_.Write("Bob/info.ASC", "35\r\n170\r\nmen\r\nlow\r\npregnant");
+  EXPECT_EQ(LogIn("Bob"),
+            (Texts{"CAUTION!!\nIt seems some of Your data are incorrect\nCheck them!"}));
+  folder_.Write("Bob/info.ASC", "35\r\n170\r\nmen\r\nlow\r\nsuckling mother");
+  EXPECT_EQ(LogIn("Bob"), Texts{});
+}
+
+TEST_F(PeopleTest, ANewDayStartsTheBalanceAfresh) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  EXPECT_EQ(folder_.Read("Ann/bilans.ASC"), kTestDate);
+  const std::string eaten = std::string(kTestDate) + "\r\n500.\r\n20.\r\n10.\r\n80.";
+  folder_.Write("Ann/bilans.ASC", eaten);
+  LogIn("Ann");
+  EXPECT_EQ(folder_.Read("Ann/bilans.ASC"), eaten);
+  folder_.Write("Ann/bilans.ASC", "15.11.2026\r\n500.\r\n20.\r\n10.\r\n80.");
+  LogIn("Ann");
+  EXPECT_EQ(folder_.Read("Ann/bilans.ASC"), kTestDate);
+}
+
+TEST_F(PeopleTest, NamesThatLeaveTheFolderAreNotOffered) {
+  folder_.Write("users.ASC", std::string("\r\n\nAnn\r\n..\\x\r\nC:\\y\r\n..\r\n") +
+                                 std::string(200, 'n') + "\nBob");
+  Start();
+  OpenLogin();
+  EXPECT_EQ(login_.Items(700), (Texts{"Ann", "Bob"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
+}
+
+TEST_F(PeopleTest, LogoutEmptiesTheNameAfterItsBox) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  program_->OnCommand(201, kButtonClicked);
+  EXPECT_EQ(boxes_.TakeTexts(), (Texts{"BYE, SEE YOU SOON!"}));
+  EXPECT_EQ(User(), "");
+  EXPECT_TRUE(window_.menu.at(240));
+}
+
+// --- profile
+
+TEST_F(PeopleTest, AnEmptyProfileOpensWithMenSelected) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  OpenProfile();
+  EXPECT_EQ(profile_.Items(706), (Texts{"women", "men"}));
+  EXPECT_EQ(profile_.Items(707), (Texts{"low", "medium", "high", "very high"}));
+  EXPECT_EQ(profile_.Items(708), (Texts{"pregnant", "suckling mother", "athlete", "none"}));
+  EXPECT_EQ(profile_.Text(704), "");
+  EXPECT_EQ(profile_.SelectedText(706), "men");
+  EXPECT_EQ(profile_.SelectedText(707), std::nullopt);
+  EXPECT_EQ(profile_.SelectedText(708), std::nullopt);
+}
+
+TEST_F(PeopleTest, WhatEachStoredValueSelects) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  const auto opened_with = [this](const std::string& lines) {
+    folder_.Write("Ann/info.ASC", lines);
+    OpenProfile();
+    return Texts{profile_.Text(704), profile_.Text(705), profile_.Text(706), profile_.Text(707),
+                 profile_.Text(708)};
+  };
+  EXPECT_EQ(opened_with("35\r\n170\r\nwomen\r\nvery high\r\nsuckling mother"),
+            (Texts{"35", "170", "women", "very high", "suckling mother"}));
+  EXPECT_EQ(opened_with("35\n170\nabcde\nmuch\nathlete"),  // told by length and first letter
+            (Texts{"35", "170", "women", "medium", "athlete"}));
+  EXPECT_EQ(opened_with("0\r\n0\r\n0\r\n0\r\n0"), (Texts{"0", "0", "men", "", ""}));
+  EXPECT_EQ(opened_with("x\n\xFF\n\nhigh\nnone"), (Texts{"x", "\xFF", "men", "high", "none"}));
+}
+
+TEST_F(PeopleTest, SavingWritesTheProfileAndGoesHome) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  Open(252);
+  OpenProfile();
+  profile_.SetText(704, "");
+  profile_.SetText(705, "170");
+  profile_.Choose(706, "women");
+  profile_.Choose(707, "low");
+  profile_.Choose(708, "pregnant");
+  boxes_.TakeTexts();
+  window_.log.clear();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "0\r\n170\r\nwomen\r\nlow\r\npregnant");
+  EXPECT_EQ(program_->session().screen, 0);
+  EXPECT_EQ(window_.log, (Texts{"paint now"}));
+  EXPECT_EQ(profile_.Log(), (Texts{"close"}));
+}
+
+TEST_F(PeopleTest, AContradictionIsPointedOutAndSavedWithoutIt) {
+  Start();
+  Register("Bob");
+  LogIn("Bob");
+  for (const char* const other : {"pregnant", "suckling mother"}) {
+    OpenProfile();
+    profile_.SetText(704, "35");
+    profile_.SetText(705, "180");
+    profile_.Choose(706, "men");
+    profile_.Choose(707, "high");
+    profile_.Choose(708, other);
+    boxes_.TakeTexts();
+    profile_.Press(1);
+    EXPECT_EQ(boxes_.TakeTexts(),
+              (Texts{"ATTENTION!!\nIt seems something is wrong\nCheck Your profile!"}));
+    EXPECT_EQ(folder_.Read("Bob/info.ASC"), "35\r\n180\r\nmen\r\nhigh\r\n0");
+  }
+}
+
+TEST_F(PeopleTest, OnlyAPressOfOkSavesAndCancelDoesNot) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  OpenProfile();
+  profile_.SetText(704, "35");
+  window_.opened->OnCommand(profile_, 1, 1);
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "");
+  profile_.Press(2);
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "");
+  EXPECT_EQ(profile_.Log(), (Texts{"close"}));
+}
+
+}  // namespace
+}  // namespace velnor

@@ -1,0 +1,68 @@
+#include "users/login_dialog.h"
+
+#include <string>
+#include <utility>
+
+#include "users/user_registry.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kUsers = 700;
+
+constexpr std::string_view kNobody =
+    "CAUTION!!\nThere`s no users\nIf You want to log in\nfirst have add at least 1 user.";
+constexpr std::string_view kFillUp = "CAUTION!!\nFill up Your profile!";
+constexpr std::string_view kIncorrect =
+    "CAUTION!!\nIt seems some of Your data are incorrect\nCheck them!";
+
+}  // namespace
+
+LoginDialog::LoginDialog(SessionState& session, UserProfile& profile, MainWindow& window,
+                         MessageBoxes& message_boxes, Events events)
+    : session_(session),
+      profile_(profile),
+      window_(window),
+      message_boxes_(message_boxes),
+      events_(std::move(events)) {}
+
+void LoginDialog::OnOpen(Form& form) {
+  session_.user_name.clear();
+  const std::string path = session_.base_folder + std::string(kRegistryFile);
+  for (const std::string& name : ReadUserRegistry(path).names) form.AddItem(kUsers, name);
+}
+
+void LoginDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kUsers && notification == kSelectionChanged) {
+    session_.user_name = form.SelectedText(kUsers).value_or("");
+  }
+  if (id == kOkButton && notification == kButtonClicked) LogIn(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void LoginDialog::LogIn(Form& form) {
+  if (session_.user_name.empty()) {
+    message_boxes_.Show({.text = kNobody, .owner = MessageOwner::kDialog});
+    return;
+  }
+  events_.on_login();
+  LoadProfile();
+  session_.screen = kHomeScreen;
+  events_.start_day();
+  window_.PaintNow();
+  form.Close();
+}
+
+void LoginDialog::LoadProfile() {
+  profile_ = ProfileOf(ReadProfileLines(session_.UserFile(kProfileFile)));
+  if (!IsComplete(profile_)) {
+    message_boxes_.Show({.text = kFillUp, .owner = MessageOwner::kDialog});
+  }
+  // The profile dialog refuses suckling men too; here only pregnant ones are noticed.
+  if (profile_.IsMan() && profile_.IsPregnant()) {
+    message_boxes_.Show({.text = kIncorrect, .owner = MessageOwner::kDialog});
+    profile_.other = "0";
+  }
+}
+
+}  // namespace velnor

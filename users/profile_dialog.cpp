@@ -1,0 +1,87 @@
+#include "users/profile_dialog.h"
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace velnor {
+namespace {
+
+constexpr int kAge = 704;
+constexpr int kHeight = 705;
+constexpr int kSex = 706;
+constexpr int kLifeStyle = 707;
+constexpr int kOther = 708;
+
+// What a line of the profile file can hold.
+constexpr std::size_t kTypedLimit = 99;
+
+constexpr std::string_view kSexes[] = {"women", "men"};
+constexpr std::string_view kLifeStyles[] = {"low", "medium", "high", "very high"};
+constexpr std::string_view kOthers[] = {"pregnant", "suckling mother", "athlete", "none"};
+
+constexpr std::string_view kContradiction =
+    "ATTENTION!!\nIt seems something is wrong\nCheck Your profile!";
+
+void Fill(Form& form, int id, std::span<const std::string_view> words) {
+  for (const std::string_view word : words) form.AddItem(id, word);
+}
+
+// Selects the word that begins with the first letter of `text`; without one nothing is selected.
+void SelectByLetter(Form& form, int id, std::span<const std::string_view> words,
+                    std::string_view text) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (!text.empty() && words[i].front() == text.front()) {
+      form.SelectItem(id, static_cast<int>(i));
+    }
+  }
+}
+
+}  // namespace
+
+ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWindow& window,
+                             MessageBoxes& message_boxes)
+    : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
+
+void ProfileDialog::OnOpen(Form& form) {
+  Fill(form, kSex, kSexes);
+  Fill(form, kLifeStyle, kLifeStyles);
+  Fill(form, kOther, kOthers);
+  const auto [age, height, sex, life_style, other] =
+      ReadProfileLines(session_.UserFile(kProfileFile));
+  form.SetText(kAge, age);
+  form.SetText(kHeight, height);
+  // Women are told by the length of the word; everything else counts as men.
+  form.SelectItem(kSex, sex.size() == kSexes[0].size() ? 0 : 1);
+  SelectByLetter(form, kLifeStyle, kLifeStyles, life_style);
+  SelectByLetter(form, kOther, kOthers, other);
+}
+
+void ProfileDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kOkButton && notification == kButtonClicked) Save(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void ProfileDialog::Save(Form& form) {
+  ProfileLines lines = {form.ReadText(kAge, kTypedLimit), form.ReadText(kHeight, kTypedLimit),
+                        form.SelectedText(kSex).value_or(""),
+                        form.SelectedText(kLifeStyle).value_or(""),
+                        form.SelectedText(kOther).value_or("")};
+  auto& [age, height, sex, life_style, other] = lines;
+  if (sex.starts_with('m') && (other.starts_with('p') || other.starts_with('s'))) {
+    message_boxes_.Show({.text = kContradiction, .owner = MessageOwner::kDialog});
+    other = "0";
+  }
+  WriteProfileLines(session_.UserFile(kProfileFile), lines);
+  for (std::string& line : lines) {
+    if (line.empty()) line = "0";
+    line.resize(std::min(line.size(), UserProfile::kLimit));
+  }
+  profile_ = {age, height, sex, life_style, other};
+  session_.screen = kHomeScreen;
+  window_.PaintNow();
+  form.Close();
+}
+
+}  // namespace velnor

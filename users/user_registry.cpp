@@ -1,0 +1,91 @@
+#include "users/user_registry.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <limits>
+
+#include "base/file_calls.h"
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr std::string_view kForbiddenSigns = " +-\\./:|`;\"~><!@#$%^&*()\t";
+
+constexpr const char* kFirstFiles[] = {"waga.ASC", "mirvo.ASC",     "info.ASC",   "zestaw.ASC",
+                                       "whr.ASC",  "cwiczenia.ASC", "wykwag.txt", "wykoda.txt"};
+
+constexpr const char* kAllFiles[] = {"waga.ASC",   "mirvo.ASC",     "info.ASC",  "zestaw.ASC",
+                                     "whr.ASC",    "cwiczenia.ASC", "zapot.ASC", "bilans.ASC",
+                                     "wykwag.txt", "wykoda.txt",    "erg.txt"};
+
+bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+// Where the last whole name within the limit ends; what follows is not shown.
+std::size_t WholeNamesEnd(std::string_view text) {
+  if (text.size() <= kRegistryLimit) return text.size();
+  std::size_t end = kRegistryLimit;
+  while (end > 0 && !IsLineEnd(text[end])) --end;
+  return end;
+}
+
+}  // namespace
+
+UserRegistry ReadUserRegistry(const std::string& path) {
+  const std::string text = ReadFile(path, std::numeric_limits<std::size_t>::max());
+  const std::size_t end = WholeNamesEnd(text);
+  const std::size_t names_end = std::min(text.find('\0'), end);
+
+  UserRegistry registry;
+  std::size_t start = 0;
+  while (start < names_end) {
+    const std::size_t stop = std::min(text.find_first_of("\r\n", start), names_end);
+    std::string name = text.substr(start, stop - start);
+    if (IsFolderName(name)) registry.names.push_back(std::move(name));
+    start = stop + 1;
+  }
+  const std::size_t rest = text.find_first_not_of("\r\n", end);
+  if (rest != std::string::npos) registry.rest = text.substr(rest);
+  return registry;
+}
+
+std::string RegistryBytes(const UserRegistry& registry) {
+  std::string bytes;
+  const auto append_line = [&bytes](std::string_view line) {
+    if (!bytes.empty()) bytes += "\r\n";
+    bytes += line;
+  };
+  for (const std::string& name : registry.names) append_line(name);
+  if (!registry.rest.empty()) append_line(registry.rest);
+  return bytes;
+}
+
+std::size_t CountForbiddenSigns(std::string_view name) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      name, [](char c) { return kForbiddenSigns.find(c) != std::string_view::npos; }));
+}
+
+bool IsFolderName(std::string_view name) {
+  if (name.empty() || name.size() > kUserNameLimit) return false;
+  if (name.find_first_of("\\/:*?\"<>|") != std::string_view::npos) return false;
+  // The platform takes dots and blanks off the end of a name: ".. " is the folder above.
+  return name.find_first_not_of(". ") != std::string_view::npos &&
+         std::ranges::none_of(name, [](char c) { return c >= '\0' && c < ' '; });
+}
+
+void CreateUserFiles(const SessionState& session, const std::string& user) {
+  MakeFolder(session.base_folder + user);
+  for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
+}
+
+void DeleteUserFiles(const SessionState& session, const std::string& user) {
+  for (const char* const file : kAllFiles) {
+    const std::string path = session.FileOf(user, file);
+    std::remove(path.c_str());
+    std::remove(TemporaryPath(path).c_str());
+  }
+  if (!user.empty()) RemoveFolder(session.base_folder + user);
+}
+
+}  // namespace velnor

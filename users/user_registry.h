@@ -1,0 +1,53 @@
+// The list of registered users and the folder of files that each of them has.
+
+#ifndef VELNOR_USERS_USER_REGISTRY_H_
+#define VELNOR_USERS_USER_REGISTRY_H_
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/session.h"
+
+namespace velnor {
+
+// In the start-up folder: a name a line, no line end behind the last.
+inline constexpr std::string_view kRegistryFile = "users.ASC";
+
+// The list may not grow past this many bytes.
+inline constexpr std::size_t kRegistryLimit = 1000;
+
+struct UserRegistry {
+  std::vector<std::string> names;  // in the order of the file
+  std::string rest;  // what stands behind the first kRegistryLimit bytes, kept as it is
+};
+
+// Reads the list. Lines may end with CR LF, LF or CR; what follows a NUL among
+// the names is not read. Empty lines,
+// names longer than kUserNameLimit and names that are no plain folder name are left out. A missing
+// file gives no names.
+UserRegistry ReadUserRegistry(const std::string& path);
+
+// What the file of such a list holds.
+std::string RegistryBytes(const UserRegistry& registry);
+
+// How many of the characters of `name` a user's name must not contain; 0 for a good name.
+std::size_t CountForbiddenSigns(std::string_view name);
+
+// Whether a folder called `name` lies in the start-up folder itself: no separator, no drive, not
+// "..". An empty name is no folder name.
+bool IsFolderName(std::string_view name);
+
+// Makes the user's folder and the eight files that every user has from the start, empty; files that
+// are there already become empty. What the system refuses is not reported.
+void CreateUserFiles(const SessionState& session, const std::string& user);
+
+// Deletes the eleven files that a user can have, whatever an interrupted write has left of them,
+// and the folder when nothing else is in it. What the system refuses is not reported.
+void DeleteUserFiles(const SessionState& session, const std::string& user);
+
+}  // namespace velnor
+
+#endif  // VELNOR_USERS_USER_REGISTRY_H_

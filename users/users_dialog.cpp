@@ -1,0 +1,142 @@
+#include "users/users_dialog.h"
+
+#include <utility>
+
+#include "base/text_file.h"
+#include "users/user_registry.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kUsers = 700;
+constexpr int kName = 701;
+constexpr int kAdd = 702;
+constexpr int kRemove = 703;
+
+constexpr std::size_t kTypedLimit = 127;
+
+constexpr std::string_view kNoName = "The name of the user must\ncontain at least 1 sign";
+constexpr std::string_view kForbidden =
+    "The name contain forbidden signs\n"
+    "         space + -  / . ; ~ ` > < | : tab ! @ # $ % ^ & * ( ) \"";
+constexpr std::string_view kTooLong = "The name of the user can\ncontain at most 99 signs";
+constexpr std::string_view kListFull = "The list of users is full\nRemove some user first";
+constexpr std::string_view kNotWritten = "The list of users could not be written";
+
+UserRegistry Listed(const Form& form) {
+  UserRegistry registry;
+  for (int i = 0; i < form.ItemCount(kUsers); ++i) {
+    registry.names.push_back(form.ItemText(kUsers, i));
+  }
+  return registry;
+}
+
+}  // namespace
+
+UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes& message_boxes,
+                         std::function<void()> on_removed)
+    : session_(session),
+      window_(window),
+      message_boxes_(message_boxes),
+      on_removed_(std::move(on_removed)) {}
+
+void UsersDialog::OnOpen(Form& form) {
+  UserRegistry registry = ReadUserRegistry(RegistryPath());
+  for (const std::string& name : registry.names) form.AddItem(kUsers, name);
+  rest_of_registry_ = std::move(registry.rest);
+}
+
+void UsersDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kUsers && notification == kSelectionChanged) {
+    form.SetText(kName, form.SelectedText(kUsers).value_or(""));
+  }
+  if (id == kAdd && notification == kButtonClicked) Add(form);
+  if (id == kRemove && notification == kButtonClicked) Remove(form);
+  if (id == kOkButton && notification == kButtonClicked) Confirm(form);
+  if (id == kCancelButton) form.Close();
+}
+
+// A name that is listed already is taken all the same, and its files become empty.
+void UsersDialog::Add(Form& form) {
+  const std::string name = form.ReadText(kName, kTypedLimit);
+  if (!Accept(form, name)) return;
+  form.AddItem(kUsers, name);
+  CreateUserFiles(session_, name);
+  form.SetText(kName, "");
+}
+
+bool UsersDialog::Accept(const Form& form, const std::string& name) {
+  if (name.empty()) {
+    Complain(kNoName);
+    return false;
+  }
+  const std::size_t forbidden = CountForbiddenSigns(name);
+  for (std::size_t i = 0; i < forbidden; ++i) Complain(kForbidden);
+  if (forbidden > 0) return false;
+  if (name.size() > kUserNameLimit) {
+    Complain(kTooLong);
+    return false;
+  }
+  // Signs that are not on the list of forbidden ones but in no folder name of the platform either.
+  if (!IsFolderName(name)) {
+    Complain(kForbidden);
+    return false;
+  }
+  UserRegistry registry = Listed(form);
+  registry.names.push_back(name);
+  if (RegistryBytes(registry).size() > kRegistryLimit) {
+    Complain(kListFull);
+    return false;
+  }
+  return true;
+}
+
+void UsersDialog::Remove(Form& form) {
+  const std::string name = form.ReadText(kName, kTypedLimit);
+  const Answer answer = message_boxes_.Show({.text = "Delete user??",
+                                             .caption = "CAUTION",
+                                             .buttons = MessageButtons::kYesNo,
+                                             .icon = MessageIcon::kQuestion,
+                                             .owner = MessageOwner::kNone});
+  if (answer != Answer::kYes) return;
+  // Nothing outside the start-up folder is ever deleted. Without a name the files of the start-up
+  // folder itself are meant.
+  if (!name.empty() && !IsFolderName(name)) {
+    Complain(kForbidden);
+    return;
+  }
+  form.RemoveSelectedItem(kUsers);
+  DeleteUserFiles(session_, name);
+  form.SetText(kName, "");
+
+  // The names are taken for one another when length and first letter agree.
+  const std::string& user = session_.user_name;
+  if (user.empty() || name.size() != user.size() || name[0] != user[0]) return;
+  on_removed_();
+  session_.user_name.clear();
+  session_.screen = kHomeScreen;
+  window_.PaintNow();
+}
+
+void UsersDialog::Confirm(Form& form) {
+  UserRegistry registry = Listed(form);
+  registry.rest = rest_of_registry_;
+  if (!ReplaceFile(RegistryPath(), RegistryBytes(registry))) {
+    Complain(kNotWritten);
+    return;
+  }
+  form.Close();
+}
+
+void UsersDialog::Complain(std::string_view text) {
+  message_boxes_.Show({.text = text,
+                       .caption = "ERROR!",
+                       .icon = MessageIcon::kNone,
+                       .owner = MessageOwner::kNone});
+}
+
+std::string UsersDialog::RegistryPath() const {
+  return session_.base_folder + std::string(kRegistryFile);
+}
+
+}  // namespace velnor

@@ -1,0 +1,45 @@
+// The dialog that adds and removes users.
+
+#ifndef VELNOR_USERS_USERS_DIALOG_H_
+#define VELNOR_USERS_USERS_DIALOG_H_
+
+#include <functional>
+#include <string>
+
+#include "base/dialog.h"
+#include "base/main_window.h"
+#include "base/message_boxes.h"
+#include "base/session.h"
+
+namespace velnor {
+
+inline constexpr int kUsersResource = 10001;
+
+class UsersDialog final : public Dialog {
+ public:
+  // `on_removed` greys the menu when the user who is logged in was removed.
+  UsersDialog(SessionState& session, MainWindow& window, MessageBoxes& message_boxes,
+              std::function<void()> on_removed);
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void Add(Form& form);
+  void Remove(Form& form);
+  void Confirm(Form& form);
+  // Whether the name can be a user's; a box says why not.
+  bool Accept(const Form& form, const std::string& name);
+  void Complain(std::string_view text);
+  std::string RegistryPath() const;
+
+  SessionState& session_;
+  MainWindow& window_;
+  MessageBoxes& message_boxes_;
+  std::function<void()> on_removed_;
+  std::string rest_of_registry_;  // what the file holds behind the names that fit
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_USERS_USERS_DIALOG_H_
