@@ -335,9 +335,9 @@ TEST_F(UserFilesTest, WithoutANameTheBaseFolderStays) {
 
 TEST(ReadUserRegistryTest, ANulAmongTheNamesDoesNotCostTheRest) {
   const TemporaryFolder folder;
-  std::string list = std::string("Ann\r\nBob\0hidden\r\n", 18);
+  std::string list = "Ann\r\nBob\0hidden\r\n"s;
   while (list.size() < 1000) list += "user" + std::to_string(list.size()) + "\r\n";
-  const std::string rest = std::string("behind\0the\r\nlimit", 18);
+  const std::string rest = "behind\0the\r\nlimit"s;
   const UserRegistry registry = ReadUserRegistry(folder.Write("users.ASC", list + rest));
   EXPECT_EQ(registry.names, (std::vector<std::string>{"Ann", "Bob"}));
   EXPECT_TRUE(registry.rest.ends_with(rest));
