@@ -1,8 +1,11 @@
 #include "food/user_product_file.h"
 
+#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 #include "base/text_file.h"
@@ -150,6 +153,36 @@ TEST_F(UserProductFileTest, ALeftOverOfAnInterruptedRemovalIsNoProduct) {
   Write(Line("apple pie") + Line("fig"));
   EXPECT_TRUE(RemoveUserProducts(Path(), "apple pie"));
   EXPECT_EQ(Bytes(), Line("fig"));
+  EXPECT_EQ(folder_.Names(), (Names{"data.txt"}));
+}
+
+// A process that removes a product is killed a little later every time.
+TEST_F(UserProductFileTest, AKilledRemovalLeavesTheOldFileOrTheNewOne) {
+  std::string kept;
+  for (int i = 0; i < 2000; ++i) kept += Line("product " + std::to_string(i));
+  const std::string old = Line("apple pie") + kept;
+  int whole_old = 0;
+  int whole_new = 0;
+  for (useconds_t delay = 0; delay < 100; ++delay) {
+    Write(old);
+    const pid_t child = fork();
+    if (child == 0) {
+      RemoveUserProducts(Path(), "apple pie");
+      _exit(0);
+    }
+    usleep(delay * 200);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const std::string bytes = Bytes();
+    whole_old += bytes == old ? 1 : 0;
+    whole_new += bytes == kept ? 1 : 0;
+  }
+  EXPECT_EQ(whole_old + whole_new, 100);
+  EXPECT_GT(whole_old, 0);
+  // And what was interrupted can be done again.
+  Write(old);
+  EXPECT_TRUE(RemoveUserProducts(Path(), "apple pie"));
+  EXPECT_EQ(Bytes(), kept);
   EXPECT_EQ(folder_.Names(), (Names{"data.txt"}));
 }
 
