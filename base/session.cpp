@@ -2,6 +2,10 @@
 
 namespace velnor {
 
+std::string SessionState::BaseFile(std::string_view file_name) const {
+  return base_folder + std::string(file_name);
+}
+
 std::string SessionState::FileOf(const std::string& user, std::string_view file_name) const {
   return base_folder + user + kPathSeparator + std::string(file_name);
 }

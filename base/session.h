@@ -26,7 +26,9 @@ struct SessionState {
   std::string base_folder = {};  // the start-up directory with a separator at its end
   std::string date_text = {};    // today, as DateText writes it; stays for the whole run
 
-  // The path of a file in the folder of a user, or of the one who is logged in.
+  // The path of a file in the start-up directory itself, in the folder of a user, or in that of the
+  // one who is logged in.
+  std::string BaseFile(std::string_view file_name) const;
   std::string FileOf(const std::string& user, std::string_view file_name) const;
   std::string UserFile(std::string_view file_name) const { return FileOf(user_name, file_name); }
 };

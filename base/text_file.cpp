@@ -1,6 +1,7 @@
 #include "base/text_file.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <utility>
@@ -28,9 +29,10 @@ bool Close(File file) { return std::fclose(file.release()) == 0; }
 
 }  // namespace
 
-std::optional<std::string> ReadFileIfThere(const std::string& path, std::size_t limit) {
+std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
+  errno = 0;
   const File file = Open(path, "rb");
-  if (!file) return std::nullopt;
+  if (!file) return errno == ENOENT ? std::optional<std::string>("") : std::nullopt;
   constexpr std::size_t kBlock = 65'536;
   std::string text;
   while (text.size() < limit) {
@@ -46,7 +48,7 @@ std::optional<std::string> ReadFileIfThere(const std::string& path, std::size_t 
 }
 
 std::string ReadFile(const std::string& path, std::size_t limit) {
-  return ReadFileIfThere(path, limit).value_or("");
+  return ReadFileToRewrite(path, limit).value_or("");
 }
 
 bool AppendToFile(const std::string& path, std::string_view text) {

@@ -10,12 +10,12 @@
 
 namespace velnor {
 
-// The first `limit` bytes of a file, as they stand on disk. Nothing when the file is missing or
-// cannot be read. `path` is in the machine's own code page, here and below.
-std::optional<std::string> ReadFileIfThere(const std::string& path, std::size_t limit);
+// The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
+// when there is something that cannot be read: who goes on to rewrite it would destroy it. `path`
+// is in the machine's own code page, here and below.
+std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit);
 
-// The same; a file that is missing or cannot be read gives empty text, like an empty one: most
-// readers of the program treat them alike.
+// The same for who only reads: what cannot be read gives empty text too.
 std::string ReadFile(const std::string& path, std::size_t limit);
 
 // Adds `text` to the end of the file, which is made when it is missing. Every line end of the text

@@ -11,7 +11,8 @@ namespace velnor {
 inline constexpr std::string_view kBalanceFile = "bilans.ASC";
 
 // Starts a new day when the first line of the file is not `date`, compared over the length of
-// `date`: the file then holds the date and nothing else. A missing file counts as another day.
+// `date`: the file then holds the date and nothing else. A missing file counts as another day; one
+// that cannot be read stays as it is.
 void StartDayIfNew(const std::string& path, std::string_view date);
 
 }  // namespace velnor

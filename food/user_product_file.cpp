@@ -74,8 +74,8 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
 }
 
 bool RemoveUserProducts(const std::string& path, std::string_view name) {
-  const std::optional<std::string> text = ReadFileIfThere(path, kNoLimit);
-  if (!text) return true;
+  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);
   std::string kept;
   bool removed = false;

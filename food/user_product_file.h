@@ -31,8 +31,8 @@ bool IsRemovedWith(std::string_view line, std::string_view name);
 
 // Takes every line that IsRemovedWith away. Empty lines among the first 3000 go too; a line longer
 // than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
-// old bytes or its new ones. Does nothing when no line goes. False when a line should have gone but
-// the file could not be written.
+// old bytes or its new ones. Does nothing when no line goes. False when the file could not be read,
+// or a line should have gone but it could not be written.
 bool RemoveUserProducts(const std::string& path, std::string_view name);
 
 }  // namespace velnor

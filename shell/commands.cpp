@@ -43,17 +43,27 @@ struct CommandRow {
 };
 
 // The commands that do something other than selecting a screen.
+// clang-format off
 constexpr CommandRow kCommands[] = {
-    {200, OpenLogin},         {201, LogOut},
-    {202, OpenUsers},         {203, Exit},
-    {204, OpenProfile},       {211, SayNotAvailable},
-    {220, SayNotAvailable},   {222, SayNotAvailable},
-    {223, SayNotAvailable},   {230, SayNotAvailable},
-    {234, SayNotAvailable},   {235, SayNotAvailable},
-    {237, SayNotAvailable},   {240, OpenAddProduct},
-    {241, OpenRemoveProduct}, {250, OpenAboutBox},
+    {200, OpenLogin},
+    {201, LogOut},
+    {202, OpenUsers},
+    {203, Exit},
+    {204, OpenProfile},
+    {211, SayNotAvailable},
+    {220, SayNotAvailable},
+    {222, SayNotAvailable},
+    {223, SayNotAvailable},
+    {230, SayNotAvailable},
+    {234, SayNotAvailable},
+    {235, SayNotAvailable},
+    {237, SayNotAvailable},
+    {240, OpenAddProduct},
+    {241, OpenRemoveProduct},
+    {250, OpenAboutBox},
     {251, OpenHelp},
 };
+// clang-format on
 
 // Menu ids; outside of them an id always belongs to a control.
 constexpr int kFirstCommand = 200;

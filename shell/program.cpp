@@ -58,7 +58,7 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
-  food_.user_products.Load(UserProductsPath());
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
 }
 
 void Program::OnCommand(int id, int notification) {
@@ -120,12 +120,14 @@ void Program::OpenProfile() {
 
 void Program::OpenAddProduct() {
   window_.OpenDialog(kAddProductResource,
-                     std::make_unique<AddProductDialog>(food_, UserProductsPath(), message_boxes_));
+                     std::make_unique<AddProductDialog>(food_, session_.BaseFile(kUserProductsFile),
+                                                        message_boxes_));
 }
 
 void Program::OpenRemoveProduct() {
-  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
-                                                 food_, UserProductsPath(), message_boxes_));
+  window_.OpenDialog(kRemoveProductResource,
+                     std::make_unique<RemoveProductDialog>(
+                         food_, session_.BaseFile(kUserProductsFile), message_boxes_));
 }
 
 void Program::OpenSearch() {
@@ -135,10 +137,6 @@ void Program::OpenSearch() {
 void Program::StartUserDay() {
   StartDayIfNew(session_.UserFile(kBalanceFile), session_.date_text);
   requirement_.OnLogin();
-}
-
-std::string Program::UserProductsPath() const {
-  return session_.base_folder + std::string(kUserProductsFile);
 }
 
 }  // namespace velnor

@@ -61,7 +61,6 @@ class Program {
   const SessionState& session() const { return session_; }
 
  private:
-  std::string UserProductsPath() const;
   // What begins with the login of a user: the day's balance, the user's limits.
   void StartUserDay();
 

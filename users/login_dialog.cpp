@@ -28,8 +28,9 @@ LoginDialog::LoginDialog(SessionState& session, UserProfile& profile, MainWindow
 
 void LoginDialog::OnOpen(Form& form) {
   session_.user_name.clear();
-  const std::string path = session_.base_folder + std::string(kRegistryFile);
-  for (const std::string& name : ReadUserRegistry(path).names) form.AddItem(kUsers, name);
+  const UserRegistry registry =
+      ReadUserRegistry(session_.BaseFile(kRegistryFile)).value_or(UserRegistry());
+  for (const std::string& name : registry.names) form.AddItem(kUsers, name);
 }
 
 void LoginDialog::OnCommand(Form& form, int id, int notification) {

@@ -32,8 +32,11 @@ std::size_t WholeNamesEnd(std::string_view text) {
 
 }  // namespace
 
-UserRegistry ReadUserRegistry(const std::string& path) {
-  const std::string text = ReadFile(path, std::numeric_limits<std::size_t>::max());
+std::optional<UserRegistry> ReadUserRegistry(const std::string& path) {
+  const std::optional<std::string> read =
+      ReadFileToRewrite(path, std::numeric_limits<std::size_t>::max());
+  if (!read) return std::nullopt;
+  const std::string& text = *read;
   const std::size_t end = WholeNamesEnd(text);
   const std::size_t names_end = std::min(text.find('\0'), end);
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,13 +23,15 @@ inline constexpr std::size_t kRegistryLimit = 1000;
 struct UserRegistry {
   std::vector<std::string> names;  // in the order of the file
   std::string rest;  // what stands behind the first kRegistryLimit bytes, kept as it is
+
+  bool operator==(const UserRegistry&) const = default;
 };
 
 // Reads the list. Lines may end with CR LF, LF or CR; what follows a NUL among
 // the names is not read. Empty lines,
 // names longer than kUserNameLimit and names that are no plain folder name are left out. A missing
-// file gives no names.
-UserRegistry ReadUserRegistry(const std::string& path);
+// file gives no names; nothing comes of one that cannot be read.
+std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.
 std::string RegistryBytes(const UserRegistry& registry);

@@ -41,9 +41,10 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
       on_removed_(std::move(on_removed)) {}
 
 void UsersDialog::OnOpen(Form& form) {
-  UserRegistry registry = ReadUserRegistry(RegistryPath());
-  for (const std::string& name : registry.names) form.AddItem(kUsers, name);
-  rest_of_registry_ = std::move(registry.rest);
+  std::optional<UserRegistry> registry = ReadUserRegistry(session_.BaseFile(kRegistryFile));
+  if (!registry) return;
+  for (const std::string& name : registry->names) form.AddItem(kUsers, name);
+  rest_of_registry_ = std::move(registry->rest);
 }
 
 void UsersDialog::OnCommand(Form& form, int id, int notification) {
@@ -120,8 +121,10 @@ void UsersDialog::Remove(Form& form) {
 
 void UsersDialog::Confirm(Form& form) {
   UserRegistry registry = Listed(form);
-  registry.rest = rest_of_registry_;
-  if (!ReplaceFile(RegistryPath(), RegistryBytes(registry))) {
+  // A list that could not be read is not overwritten with the little that is known of it.
+  if (rest_of_registry_) registry.rest = *rest_of_registry_;
+  if (!rest_of_registry_ ||
+      !ReplaceFile(session_.BaseFile(kRegistryFile), RegistryBytes(registry))) {
     Complain(kNotWritten);
     return;
   }
@@ -133,10 +136,6 @@ void UsersDialog::Complain(std::string_view text) {
                        .caption = "ERROR!",
                        .icon = MessageIcon::kNone,
                        .owner = MessageOwner::kNone});
-}
-
-std::string UsersDialog::RegistryPath() const {
-  return session_.base_folder + std::string(kRegistryFile);
 }
 
 }  // namespace velnor

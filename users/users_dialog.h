@@ -4,6 +4,7 @@
 #define VELNOR_USERS_USERS_DIALOG_H_
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "base/dialog.h"
@@ -31,13 +32,13 @@ class UsersDialog final : public Dialog {
   // Whether the name can be a user's; a box says why not.
   bool Accept(const Form& form, const std::string& name);
   void Complain(std::string_view text);
-  std::string RegistryPath() const;
 
   SessionState& session_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_removed_;
-  std::string rest_of_registry_;  // what the file holds behind the names that fit
+  // What the file holds behind the names that fit; nothing when it could not be read.
+  std::optional<std::string> rest_of_registry_;
 };
 
 }  // namespace velnor

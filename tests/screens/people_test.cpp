@@ -263,6 +263,17 @@ TEST_F(PeopleTest, AListThatCannotBeWrittenKeepsTheDialogOpen) {
   EXPECT_EQ(users_.Log(), Texts{});
 }
 
+TEST_F(PeopleTest, AListThatCouldNotBeReadIsNotOverwritten) {
+  std::filesystem::create_directory(folder_.path() + "users.ASC");  // stands for a locked file
+  Start();
+  OpenUsers();
+  std::filesystem::remove(folder_.path() + "users.ASC");
+  folder_.Write("users.ASC", "Ann\r\nBob");  // it can be read and written again
+  users_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), (Texts{"The list of users could not be written"}));
+  EXPECT_EQ(Registry(), "Ann\r\nBob");
+}
+
 // --- login
 
 TEST_F(PeopleTest, LoginNeedsASelection) {

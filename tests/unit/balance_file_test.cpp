@@ -1,5 +1,6 @@
 #include "food/balance_file.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -74,6 +75,14 @@ TEST_F(BalanceFileTest, LongAndBinaryFilesAreOtherDays) {
 TEST_F(BalanceFileTest, WithoutTheFolderNothingHappens) {
   StartDayIfNew(folder_.path() + "missing/bilans.ASC", kToday);
   EXPECT_EQ(folder_.Names(), Names{});
+}
+
+// A link to itself can be replaced but not read, as a file that somebody has locked for a moment.
+TEST_F(BalanceFileTest, WhatCannotBeReadIsNotOverwritten) {
+  const std::string path = folder_.path() + "bilans.ASC";
+  std::filesystem::create_symlink(path, path);
+  StartDayIfNew(path, kToday);
+  EXPECT_TRUE(std::filesystem::is_symlink(path));
 }
 
 TEST_F(BalanceFileTest, OtherFilesStay) {

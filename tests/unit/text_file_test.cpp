@@ -91,11 +91,12 @@ TEST(ReadFileTest, GivesNothingForWhatCannotBeRead) {
   EXPECT_EQ(ReadFile(folder.Write("empty", ""), 100), "");
 }
 
-TEST(ReadFileTest, TellsAMissingFileFromAnEmptyOne) {
+TEST(ReadFileTest, TellsWhatCannotBeReadFromWhatIsNotThere) {
   const TemporaryFolder folder;
-  EXPECT_EQ(ReadFileIfThere(folder.path() + "missing", 100), std::nullopt);
-  EXPECT_EQ(ReadFileIfThere(folder.path(), 100), std::nullopt);
-  EXPECT_EQ(ReadFileIfThere(folder.Write("empty", ""), 100), "");
+  EXPECT_EQ(ReadFileToRewrite(folder.path() + "missing", 100), "");
+  EXPECT_EQ(ReadFileToRewrite(folder.path() + "missing/file", 100), "");
+  EXPECT_EQ(ReadFileToRewrite(folder.Write("empty", ""), 100), "");
+  EXPECT_EQ(ReadFileToRewrite(folder.path(), 100), std::nullopt);  // a folder
 }
 
 TEST(LineReaderTest, KeepsTheBytesBehindANulWhenAskedForTheWholePiece) {

@@ -45,8 +45,9 @@ TEST_F(UserProductFileTest, ALastLineWithoutAnEndKeepsItsProduct) {
             "fruits;fresh;fig;100;1;1;1;1;\r\nfruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
 }
 
-TEST_F(UserProductFileTest, WhatCannotBeWrittenIsReported) {
+TEST_F(UserProductFileTest, WhatCannotBeReadOrWrittenIsReported) {
   std::filesystem::create_directory(Path());
+  EXPECT_FALSE(RemoveUserProducts(Path(), "apple pie"));
   EXPECT_FALSE(AppendUserProduct(Path(), kApplePie));
 }
 

@@ -26,7 +26,7 @@ const Names kAllFiles = {"bilans.ASC", "cwiczenia.ASC", "erg.txt",   "info.ASC",
 class UserRegistryTest : public testing::Test {
  protected:
   UserRegistry Read(std::string_view bytes) const {
-    return ReadUserRegistry(folder_.Write("users.ASC", bytes));
+    return ReadUserRegistry(folder_.Write("users.ASC", bytes)).value();
   }
   Names NamesOf(std::string_view bytes) const {
     const UserRegistry registry = Read(bytes);
@@ -58,7 +58,7 @@ TEST_F(UserRegistryTest, EmptyLinesAreNoNames) {
 }
 
 TEST_F(UserRegistryTest, AMissingFileHasNoUsers) {
-  const UserRegistry registry = ReadUserRegistry(folder_.path() + "users.ASC");
+  const UserRegistry registry = ReadUserRegistry(folder_.path() + "users.ASC").value();
   EXPECT_EQ(registry.names, Names{});
   EXPECT_EQ(registry.rest, "");
   EXPECT_EQ(RegistryBytes(registry), "");
@@ -338,9 +338,14 @@ TEST(ReadUserRegistryTest, ANulAmongTheNamesDoesNotCostTheRest) {
   std::string list = "Ann\r\nBob\0hidden\r\n"s;
   while (list.size() < 1000) list += "user" + std::to_string(list.size()) + "\r\n";
   const std::string rest = "behind\0the\r\nlimit"s;
-  const UserRegistry registry = ReadUserRegistry(folder.Write("users.ASC", list + rest));
+  const UserRegistry registry = ReadUserRegistry(folder.Write("users.ASC", list + rest)).value();
   EXPECT_EQ(registry.names, (std::vector<std::string>{"Ann", "Bob"}));
   EXPECT_TRUE(registry.rest.ends_with(rest));
+}
+
+TEST(ReadUserRegistryTest, WhatCannotBeReadIsNoEmptyList) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(ReadUserRegistry(folder.path()), std::nullopt);  // a folder
 }
 
 }  // namespace
