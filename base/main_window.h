@@ -16,6 +16,8 @@ class MainWindow {
 
   // Asks for a repaint of the whole client area, background included, when the program is idle.
   virtual void Invalidate() = 0;
+  // The same without asking for the background to be erased first.
+  virtual void InvalidateWithoutErasing() = 0;
   // Repaints before returning.
   virtual void PaintNow() = 0;
   // Asks the window to close; nothing is asked and nothing is saved.

@@ -128,4 +128,11 @@ std::string FormatNumber(double value, int digits) {
   return result.append(mantissa, whole_digits);
 }
 
+float TruncateTwoDecimals(std::string_view text) {
+  const auto number = static_cast<float>(ParseNumber(text));
+  const float whole = std::floor(number);
+  const float fraction = number - whole;
+  return std::floor(fraction * 100.0F) / 100.0F + whole;
+}
+
 }  // namespace velnor

@@ -30,6 +30,11 @@ int ParseInteger(std::string_view text);
 // "1.e+06"). Not finite: "inf", "-inf", "nan". A negative zero is written "-0.".
 std::string FormatNumber(double value, int digits);
 
+// The number at the start of `text`, cut to two decimals in single precision: always downwards,
+// never rounded, so that "1234.5678" gives 1234.56 and "-1.234" gives -1.24. What does not fit
+// single precision is infinite, and its cut is no number (nan).
+float TruncateTwoDecimals(std::string_view text);
+
 }  // namespace velnor
 
 #endif  // VELNOR_BASE_NUMBER_TEXT_H_

@@ -177,6 +177,8 @@ void Win32MainWindow::FocusIfShown(HWND control) const {
 
 void Win32MainWindow::Invalidate() { InvalidateRect(window_, nullptr, TRUE); }
 
+void Win32MainWindow::InvalidateWithoutErasing() { InvalidateRect(window_, nullptr, FALSE); }
+
 void Win32MainWindow::PaintNow() { SendMessageA(window_, WM_PAINT, 0, 0); }
 
 void Win32MainWindow::Close() { SendMessageA(window_, WM_CLOSE, 0, 0); }

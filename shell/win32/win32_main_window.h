@@ -29,6 +29,7 @@ class Win32MainWindow final : public MainWindow {
   int RunMessageLoop();
 
   void Invalidate() override;
+  void InvalidateWithoutErasing() override;
   void PaintNow() override;
   void Close() override;
   void EnableMenuItem(int command, bool enabled) override;

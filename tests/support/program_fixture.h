@@ -22,6 +22,7 @@ namespace velnor {
 class FakeMainWindow final : public MainWindow {
  public:
   void Invalidate() override { log.emplace_back("invalidate"); }
+  void InvalidateWithoutErasing() override { log.emplace_back("invalidate without erasing"); }
   void PaintNow() override { log.emplace_back("paint now"); }
   void Close() override { log.emplace_back("close"); }
   void EnableMenuItem(int command, bool enabled) override { menu[command] = enabled; }

@@ -184,5 +184,27 @@ TEST(ParseIntegerTest, StopsAtTheBoundsOfInt) {
   EXPECT_EQ(ParseInteger("-99999999999999999999"), std::numeric_limits<int>::min());
 }
 
+TEST(TruncateTwoDecimalsTest, CutsDownwardsAndNeverRounds) {
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("1234.5678"), 6), "1234.56");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("22.8571"), 6), "22.85");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("22.999"), 6), "22.99");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("80.129"), 6), "80.12");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("0.8013"), 6), "0.8");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("-1.234"), 6), "-1.24");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("70"), 6), "70.");
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals(""), 6), "0.");
+}
+
+// In double precision 0.29 would be cut to 0.28, in single precision it is not.
+TEST(TruncateTwoDecimalsTest, CountsInSinglePrecision) {
+  EXPECT_EQ(TruncateTwoDecimals("0.29"), 0.29F);
+  EXPECT_EQ(TruncateTwoDecimals("16777217.5"), 16777218.0F);
+}
+
+TEST(TruncateTwoDecimalsTest, TakesNumbersOfAnySize) {
+  EXPECT_EQ(TruncateTwoDecimals("1e30"), 1e30F);
+  EXPECT_EQ(FormatNumber(TruncateTwoDecimals("1e40"), 6), "nan");
+}
+
 }  // namespace
 }  // namespace velnor

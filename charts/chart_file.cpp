@@ -1,0 +1,70 @@
+#include "charts/chart_file.h"
+
+#include <limits>
+#include <optional>
+
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr std::size_t kLineLimit = 99;
+constexpr std::size_t kLongestEmptySlot = 5;
+constexpr std::size_t kFullSlot = 20;  // occupied: the series is full
+constexpr std::size_t kDayCharacters = 7;
+constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+
+ChartSeries SeriesOf(std::string_view text) {
+  ChartSeries series;
+  LineReader lines(text, kLineLimit);
+  for (std::size_t i = 0; i < kChartSlots; ++i) {
+    const std::optional<std::string_view> line = lines.Next();
+    if (!line) break;
+    series.slots[i] = *line;
+    if (!IsEmptySlot(*line)) series.last = i;
+  }
+  return series;
+}
+
+bool IsOfDay(std::string_view line, std::string_view date) {
+  return line.substr(0, kDayCharacters) == date.substr(0, kDayCharacters);
+}
+
+}  // namespace
+
+bool IsEmptySlot(std::string_view slot) { return slot.size() <= kLongestEmptySlot; }
+
+ChartSeries LoadChartFile(const std::string& path) {
+  // Every slot on disk ends with CR LF.
+  return SeriesOf(ReadFile(path, kChartSlots * (kLineLimit + 1)));
+}
+
+bool UpdateChartFile(const std::string& path, std::string_view date,
+                     std::span<const std::string> fields) {
+  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  if (!text) return false;
+  const ChartSeries series = SeriesOf(*text);
+
+  std::string day(date);
+  day += ';';
+  for (const std::string& field : fields) {
+    day += field;
+    day += ';';
+  }
+  day += '\n';
+
+  if (IsOfDay(series.slots[series.last], date)) {
+    std::string lines;
+    for (std::size_t i = 0; i < series.last; ++i) {
+      lines += series.slots[i];
+      lines += '\n';
+    }
+    return ReplaceFile(path, WithCrLf(lines + day));
+  }
+  if (!IsEmptySlot(series.slots[kFullSlot])) return ReplaceFile(path, WithCrLf(day));
+  // Someone who edited the file by hand may have left its last line open.
+  const bool open = !text->empty() && text->back() != '\n';
+  return AppendToFile(path, open ? '\n' + day : day);
+}
+
+}  // namespace velnor
