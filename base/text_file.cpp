@@ -55,6 +55,7 @@ bool AppendToFile(const std::string& path, std::string_view text) {
   const std::string bytes = WithCrLf(text);
   File file = Open(path, "ab");
   if (!file) return false;
+  if (bytes.empty()) return true;
   std::setvbuf(file.get(), nullptr, _IONBF, 0);  // the text goes to the system whole
   if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
   const std::int64_t size = std::ftell(file.get());

@@ -18,7 +18,7 @@ std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_
 // The same for who only reads: what cannot be read gives empty text too.
 std::string ReadFile(const std::string& path, std::size_t limit);
 
-// Adds `text` to the end of the file, which is made when it is missing. Every line end of the text
+// Adds `text` to the end of the file, which is made when it is missing, for an empty text too. Every line end of the text
 // goes to disk as CR LF. The text is written in one call; when that fails, the file is cut back to
 // what it was. False when the file is not longer by all of the text.
 bool AppendToFile(const std::string& path, std::string_view text);

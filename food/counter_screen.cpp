@@ -12,7 +12,7 @@ constexpr PickerControls kControls = {.layout = Layout::kCounter,
                                       .protein = 130,
                                       .fat = 131,
                                       .carbohydrate = 132,
-                                      .weight_limit = 7,
+                                      .weight_limit = kCounterWeightLimit,
                                       .name_limit = 99};
 
 constexpr std::string_view kNothing = "   -";

@@ -32,13 +32,17 @@ NutrientAmounts ScaleToWeight(const SelectedProduct& product, double weight) {
           scale(product.carbohydrate)};
 }
 
+double CarbohydrateExchanges(double carbohydrate) { return carbohydrate / 10; }
+
+double ProteinFatExchanges(double protein, double fat) { return (protein * 4 + fat * 9) / 100; }
+
 float Exchanges::CountCarbohydrate(float carbohydrate) {
-  last_carbohydrate_ = carbohydrate / 10.0F;
+  last_carbohydrate_ = static_cast<float>(CarbohydrateExchanges(carbohydrate));
   return last_carbohydrate_;
 }
 
 float Exchanges::CountProteinFat(float protein, float fat) {
-  last_protein_fat_ = (protein * 4.0F + fat * 9.0F) / 100.0F;
+  last_protein_fat_ = static_cast<float>(ProteinFatExchanges(protein, fat));
   return last_protein_fat_;
 }
 

@@ -4,6 +4,7 @@
 #ifndef VELNOR_FOOD_NUTRITION_H_
 #define VELNOR_FOOD_NUTRITION_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -33,12 +34,16 @@ struct NutrientAmounts {
 // infinite or undefined amounts.
 NutrientAmounts ScaleToWeight(const SelectedProduct& product, double weight);
 
-// The two exchange units of dietetics. Each remembers the last result it gave.
+// The two exchange units of dietetics, from grams. Carbohydrate exchanges: one for every 10 g of
+// available carbohydrate. Protein-fat exchanges: one for every 100 kcal from protein (4 kcal/g) and
+// fat (9 kcal/g).
+double CarbohydrateExchanges(double carbohydrate);
+double ProteinFatExchanges(double protein, double fat);
+
+// Counts the same, with results in single precision, and remembers the last result of each.
 class Exchanges {
  public:
-  // Carbohydrate exchanges: one for every 10 g of available carbohydrate.
   float CountCarbohydrate(float carbohydrate);
-  // Protein-fat exchanges: one for every 100 kcal from protein (4 kcal/g) and fat (9 kcal/g).
   float CountProteinFat(float protein, float fat);
 
   float last_carbohydrate() const { return last_carbohydrate_; }
@@ -52,6 +57,9 @@ class Exchanges {
 // Amounts below this are traces: they show as nothing, or as "<0.1".
 inline constexpr double kTrace = 0.1;
 inline constexpr std::string_view kBelowTrace = "<0.1";
+
+// Characters of a weight that the nutrition counter weighs with.
+inline constexpr std::size_t kCounterWeightLimit = 7;
 
 // Six significant digits, as every figure of the counter is shown.
 inline constexpr int kShownDigits = 6;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "base/number_text.h"
 
@@ -43,6 +44,7 @@ void ProductPicker::OnProductChosen() {
   name->resize(std::min(name->size(), controls_.name_limit));
   const ProductRecord* const product = FindProduct(food_, controls_.layout, *name);
   if (product == nullptr) return;
+  chosen_name_ = std::move(*name);
   const SelectedProduct& chosen = selected_.emplace(SelectedProduct::CopyOf(*product));
   // Setting the weight announces a change, which shows computed values; the product's own texts
   // take their place.

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 
 #include "base/form.h"
 #include "food/food_table.h"
@@ -48,6 +49,9 @@ class ProductPicker {
   // product has been chosen there is nothing to weigh and nothing changes.
   void OnWeightChanged();
 
+  // The name of the last product chosen; empty before the first choice.
+  const std::string& chosen_name() const { return chosen_name_; }
+
  protected:
   // What a picker shows beyond the four values.
   virtual void ShowNoProduct() {}      // after a choice of main category
@@ -61,6 +65,7 @@ class ProductPicker {
   const FoodTable& food_;
   const PickerControls& controls_;
   Form& form_;
+  std::string chosen_name_;
   std::optional<SelectedProduct> selected_;  // nothing until the first choice
 };
 

@@ -55,14 +55,22 @@ bool IsNamedUserProduct(Layout layout, std::string_view row, std::string_view na
          (layout == Layout::kCounter || AgreeAt(row, name, {n / 4}));
 }
 
-using NameRule = bool (*)(Layout, std::string_view row, std::string_view name);
+bool IsNamedByList(std::string_view row, std::string_view name) {
+  const int n = Length(name);
+  return AgreeAt(row, name, {0, 1, 2, 3, n - 1, n - 2}) && EndsBy(row, n);
+}
 
-const ProductRecord* FindLast(std::span<const ProductRecord> products, NameRule matches,
-                              Layout layout, std::string_view name) {
-  const auto found = std::find_if(
-      products.rbegin(), products.rend(),
-      [=](const ProductRecord& product) { return matches(layout, product.name, name); });
+const ProductRecord* FindLast(std::span<const ProductRecord> products, const auto& matches) {
+  const auto found =
+      std::find_if(products.rbegin(), products.rend(),
+                   [&](const ProductRecord& product) { return matches(product.name); });
   return found == products.rend() ? nullptr : &*found;
+}
+
+// The user's products are looked through only when no built-in row matches.
+const ProductRecord* FindInTables(const FoodTable& food, const auto& built_in, const auto& users) {
+  const ProductRecord* const found = FindLast(food.products, built_in);
+  return found != nullptr ? found : FindLast(food.user_products.products(), users);
 }
 
 }  // namespace
@@ -94,9 +102,14 @@ std::vector<std::string_view> ListProducts(const FoodTable& food, Layout layout,
 }
 
 const ProductRecord* FindProduct(const FoodTable& food, Layout layout, std::string_view name) {
-  const ProductRecord* const built_in = FindLast(food.products, IsNamedBuiltIn, layout, name);
-  if (built_in != nullptr) return built_in;
-  return FindLast(food.user_products.products(), IsNamedUserProduct, layout, name);
+  return FindInTables(
+      food, [=](std::string_view row) { return IsNamedBuiltIn(layout, row, name); },
+      [=](std::string_view row) { return IsNamedUserProduct(layout, row, name); });
+}
+
+const ProductRecord* FindListedProduct(const FoodTable& food, std::string_view name) {
+  const auto matches = [=](std::string_view row) { return IsNamedByList(row, name); };
+  return FindInTables(food, matches, matches);
 }
 
 }  // namespace velnor

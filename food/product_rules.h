@@ -35,6 +35,10 @@ std::vector<std::string_view> ListProducts(const FoodTable& food, Layout layout,
 // Null when nothing matches. The record lives as long as the tables are not reloaded.
 const ProductRecord* FindProduct(const FoodTable& food, Layout layout, std::string_view name);
 
+// The product that a line of the food list names, by the same rules of the last and of the user's
+// products; but the comparison is another one, and the same for both tables.
+const ProductRecord* FindListedProduct(const FoodTable& food, std::string_view name);
+
 }  // namespace velnor
 
 #endif  // VELNOR_FOOD_PRODUCT_RULES_H_

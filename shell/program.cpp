@@ -6,7 +6,8 @@
 #include <utility>
 
 #include "food/add_product_dialog.h"
-#include "food/balance_file.h"
+#include "food/calorie_record_dialog.h"
+#include "food/recipe_record_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
 #include "food/user_product_file.h"
@@ -40,6 +41,12 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {127, kButtonClicked, [](Program& p) { p.food_list().Add(p.counter().chosen_name()); }},
+    {136, kButtonClicked, [](Program& p) { p.food_list().Remove(); }},
+    {146, kButtonClicked, [](Program& p) { p.food_list().ClearList(); }},
+    {145, kButtonClicked, [](Program& p) { p.OpenCalorieRecord(); }},
+    {147, kButtonClicked, [](Program& p) { p.OpenRecipeRecord(); }},
+    {165, kButtonClicked, [](Program& p) { p.ClearDay(); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
 };
@@ -52,7 +59,9 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       form_(form),
       window_(window),
       message_boxes_(message_boxes),
+      day_(session_),
       counter_(food_, form),
+      food_list_(food_, day_, exchanges_, form, message_boxes),
       overview_(food_, exchanges_, form),
       requirement_(session_, profile_, form, window, message_boxes) {}
 
@@ -134,9 +143,26 @@ void Program::OpenSearch() {
   window_.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food_));
 }
 
+void Program::OpenCalorieRecord() {
+  window_.OpenDialog(kCalorieRecordResource,
+                     std::make_unique<CalorieRecordDialog>(session_, exchanges_,
+                                                           food_list_.Totals(kCalorieTotalLimit)));
+}
+
+void Program::OpenRecipeRecord() {
+  window_.OpenDialog(kRecipeRecordResource,
+                     std::make_unique<RecipeRecordDialog>(session_, food_list_));
+}
+
+void Program::ClearDay() {
+  food_list_.ClearDay();
+  window_.Invalidate();
+}
+
 void Program::StartUserDay() {
-  StartDayIfNew(session_.UserFile(kBalanceFile), session_.date_text);
+  day_.StartDayIfNew();
   requirement_.OnLogin();
+  food_list_.Empty("");
 }
 
 }  // namespace velnor

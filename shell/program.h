@@ -15,6 +15,8 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "food/counter_screen.h"
+#include "food/day_balance.h"
+#include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
 #include "users/profile.h"
@@ -53,11 +55,16 @@ class Program {
   void OpenAddProduct();
   void OpenRemoveProduct();
   void OpenSearch();
+  void OpenCalorieRecord();
+  void OpenRecipeRecord();
+  void ClearDay();
   CounterScreen& counter() { return counter_; }
+  FoodListPanel& food_list() { return food_list_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
+  const DayBalance& day() const { return day_; }
   const SessionState& session() const { return session_; }
 
  private:
@@ -71,7 +78,9 @@ class Program {
   UserProfile profile_;
   FoodTable food_;
   Exchanges exchanges_;
+  DayBalance day_;
   CounterScreen counter_;
+  FoodListPanel food_list_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
 };

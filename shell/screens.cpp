@@ -1,6 +1,7 @@
 #include "shell/screens.h"
 
 #include "base/form.h"
+#include "food/balance_screen.h"
 #include "shell/program.h"
 
 namespace velnor {
@@ -45,7 +46,11 @@ constexpr ScreenRow kScreens[] = {
     {9, 213, "BCG", {}, nullptr},                        // recipes report
     {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories
     {11, 215, "BCG", {}, nullptr},                       // burned calories report
-    {12, 233, "BILANS", kBalanceControls, nullptr},      // daily balance
+    {12, 233, "BILANS", kBalanceControls,                // daily balance
+     [](Program& program, Canvas& canvas) {
+       PaintBalance(canvas, program.day(), program.requirement().requirement());
+     },
+     UpdateRequirement},
     {13, 270, "BCG", {}, nullptr},                       // weight chart
     {14, 271, "BCG", {}, nullptr},                       // calorie chart
     {15, 272, "BCG", {}, nullptr},                       // proteins chart

@@ -195,6 +195,13 @@ std::vector<HWND> Window::Controls() const {
 
 bool Window::IsShown(int id, int nth) const { return IsWindowVisible(Control(id, nth)) != 0; }
 
+int Window::FocusedId() const {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  if (GetGUIThreadInfo(GetWindowThreadProcessId(handle_, nullptr), &info) == FALSE) return 0;
+  return info.hwndFocus == nullptr ? 0 : GetDlgCtrlID(info.hwndFocus);
+}
+
 std::string Window::Text(int id) const {
   const HWND control = Control(id);
   const LRESULT length = SendMessageA(control, WM_GETTEXTLENGTH, 0, 0);
@@ -427,6 +434,13 @@ bool WaitUntil(const std::function<bool()>& condition) {
 
 bool WaitUntilGone(HWND window) {
   return WaitUntil([=] { return IsWindow(window) == 0; });
+}
+
+std::string Today() {
+  SYSTEMTIME now = {};
+  GetLocalTime(&now);
+  return std::to_string(now.wDay) + '.' + std::to_string(now.wMonth) + '.' +
+         std::to_string(now.wYear);
 }
 
 void Answer(const MessageBoxSeen& box, int button) {

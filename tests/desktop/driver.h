@@ -45,6 +45,8 @@ class Window {
   HWND Control(int id, int nth = 0) const;
   std::vector<HWND> Controls() const;
   bool IsShown(int id, int nth = 0) const;
+  // The id of the control with the keyboard focus; 0 when none of the program's has it.
+  int FocusedId() const;
 
   std::string Text(int id) const;
   void SetText(int id, const std::string& text) const;
@@ -114,6 +116,9 @@ class App {
   PROCESS_INFORMATION process_ = {};
   Window main_{nullptr};
 };
+
+// The date as the program writes it, without leading zeros.
+std::string Today();
 
 // Presses a button of an open box and waits until the box is gone.
 void Answer(const MessageBoxSeen& box, int button);

@@ -18,13 +18,6 @@ constexpr int kOpenLogin = 200;
 constexpr int kOpenProfile = 204;
 constexpr int kLogout = 201;
 
-std::string Today() {
-  SYSTEMTIME now = {};
-  GetLocalTime(&now);
-  return std::to_string(now.wDay) + '.' + std::to_string(now.wMonth) + '.' +
-         std::to_string(now.wYear);
-}
-
 class People : public testing::Test {
  protected:
   static Window OpenDialog(const App& app, int command) {

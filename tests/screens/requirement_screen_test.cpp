@@ -18,16 +18,7 @@ class RequirementScreenTest : public ProgramTest {
  protected:
   // Ann is registered with this profile; a login shows nothing when it is complete.
   void LogIn(const std::string& profile) {
-    std::filesystem::create_directory(folder_.path() + "Ann");
-    folder_.Write("users.ASC", "Ann");
-    folder_.Write("Ann/info.ASC", profile);
-    if (!program_) Start();
-    FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
-    OpenDialog(200, login);
-    login.Choose(700, "Ann");
-    login.Press(1);
-    boxes_.TakeTexts();
+    ProgramTest::LogIn("Ann", profile);
   }
   Texts Shown() const {
     return {form_.Text(120), form_.Text(121), form_.Text(122), form_.Text(123)};

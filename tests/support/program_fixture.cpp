@@ -1,5 +1,7 @@
 #include "tests/support/program_fixture.h"
 
+#include <filesystem>
+
 namespace velnor {
 
 void FakeMainWindow::RunDialog(int resource_id, Dialog& dialog) {
@@ -39,6 +41,19 @@ void ProgramTest::OpenDialog(int command, FakeForm& form) {
   form.SetListener(
       [&dialog, &form](int id, int notification) { dialog.OnCommand(form, id, notification); });
   dialog.OnOpen(form);
+}
+
+void ProgramTest::LogIn(const std::string& name, const std::string& profile) {
+  std::filesystem::create_directory(folder_.path() + name);
+  folder_.Write("users.ASC", name);
+  folder_.Write(name + "/info.ASC", profile);
+  if (!program_) Start();
+  FakeForm login;
+  login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
+  OpenDialog(200, login);
+  login.Choose(700, name);
+  login.Press(1);
+  boxes_.TakeTexts();
 }
 
 }  // namespace velnor

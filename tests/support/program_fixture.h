@@ -82,6 +82,9 @@ class ProgramTest : public testing::Test {
   // Chooses the command, or presses the button, that opens a dialog over `form`, whose controls the
   // test has added.
   void OpenDialog(int command, FakeForm& form);
+  // Logs `name` in, whose folder is made when it is missing and whose profile gets these five
+  // lines; starts the program when nothing has. Boxes of the login are not kept.
+  void LogIn(const std::string& name, const std::string& profile);
 
   TemporaryFolder folder_;
   FakeForm form_;

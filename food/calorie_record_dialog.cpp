@@ -1,0 +1,52 @@
+#include "food/calorie_record_dialog.h"
+
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kDate = 709;
+constexpr int kProtein = 717;
+constexpr int kFat = 718;
+constexpr int kCarbohydrate = 719;
+constexpr int kWeight = 721;
+constexpr int kKcal = 722;
+constexpr int kOther = 723;
+constexpr int kCarbohydrateExchange = 746;
+constexpr int kProteinFatExchange = 747;
+
+constexpr std::size_t kTextLimit = 99;
+
+// The least exchange of each kind that the dialog shows; the record holds smaller ones too.
+constexpr double kLeastCarbohydrate = 0.01;
+constexpr double kLeastProteinFat = 0.1;
+
+}  // namespace
+
+void CalorieRecordDialog::OnOpen(Form& form) {
+  form.SetText(kDate, session_.date_text);
+  form.SetText(kWeight, totals_.weight);
+  form.SetText(kKcal, totals_.kcal);
+  form.SetText(kProtein, totals_.protein);
+  form.SetText(kFat, totals_.fat);
+  form.SetText(kCarbohydrate, totals_.carbohydrate);
+  form.SetText(kCarbohydrateExchange,
+               ShownExchange(exchanges_.last_carbohydrate(), kLeastCarbohydrate));
+  form.SetText(kProteinFatExchange, ShownExchange(exchanges_.last_protein_fat(), kLeastProteinFat));
+}
+
+void CalorieRecordDialog::OnCommand(Form& form, int id, int notification) {
+  const bool save = id == kOkButton && notification == kButtonClicked;
+  if (save) Save(form);
+  if (save || id == kCancelButton) form.Close();
+}
+
+// Whether the record could be written is not reported.
+void CalorieRecordDialog::Save(const Form& form) const {
+  AppendToFile(
+      session_.UserFile(kCalorieReportFile),
+      CalorieRecordText({form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
+                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
+}
+
+}  // namespace velnor

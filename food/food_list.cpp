@@ -1,0 +1,62 @@
+#include "food/food_list.h"
+
+#include "base/number_text.h"
+#include "food/nutrition.h"
+#include "food/product_rules.h"
+
+namespace velnor {
+namespace {
+
+constexpr std::string_view kGap = "  ";
+constexpr char kUnit = 'g';
+constexpr double kLeastWeight = 1.0;
+
+float Total(float figure, double change) {
+  const auto total = static_cast<float>(figure + change);
+  return total >= kTrace ? total : 0;
+}
+
+}  // namespace
+
+std::string ListedWeight(std::string_view typed) {
+  std::string weight(typed);
+  if (weight.find('.') == std::string::npos) weight += ".0";
+  return weight;
+}
+
+std::string ListLine(const ListedFood& food) {
+  return food.name + std::string(kGap) + food.weight + kUnit;
+}
+
+ListedFood ParseListLine(std::string_view line) {
+  const std::size_t gap = line.find(kGap);
+  if (gap == std::string_view::npos) return {std::string(line), ""};
+  const std::string_view weight = line.substr(gap + kGap.size());
+  return {std::string(line.substr(0, gap)), std::string(weight.substr(0, weight.find(kUnit)))};
+}
+
+bool CountsInTotals(std::string_view weight) { return !(ParseNumber(weight) < kLeastWeight); }
+
+DayTotals ListedAmounts(const FoodTable& food, const ListedFood& listed, FigureKind kind) {
+  const ProductRecord* const product = FindListedProduct(food, listed.name);
+  if (product == nullptr) return {};
+  if (kind == FigureKind::kOwn) {
+    return {ParseNumber(product->kcal), ParseNumber(product->protein), ParseNumber(product->fat),
+            ParseNumber(product->carbohydrate)};
+  }
+  const double weight = ParseNumber(std::string_view(listed.weight).substr(0, kCounterWeightLimit));
+  const NutrientAmounts amounts = ScaleToWeight(SelectedProduct::CopyOf(*product), weight);
+  const auto shown = [](float amount) { return ParseNumber(CounterText(amount)); };
+  return {shown(amounts.kcal), shown(amounts.protein), shown(amounts.fat),
+          shown(amounts.carbohydrate)};
+}
+
+void ListTotals::Change(double weight_change, const DayTotals& change) {
+  weight = Total(weight, weight_change);
+  kcal = Total(kcal, change.kcal);
+  protein = Total(protein, change.protein);
+  fat = Total(fat, change.fat);
+  carbohydrate = Total(carbohydrate, change.carbohydrate);
+}
+
+}  // namespace velnor

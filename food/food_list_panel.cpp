@@ -1,0 +1,176 @@
+#include "food/food_list_panel.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/number_text.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kWeight = 128;
+constexpr int kKcal = 129;
+constexpr int kProtein = 130;
+constexpr int kFat = 131;
+constexpr int kCarbohydrate = 132;
+constexpr int kList = 134;
+constexpr int kTotalWeight = 137;
+constexpr int kTotalKcal = 138;
+constexpr int kTotalProtein = 139;
+constexpr int kTotalFat = 140;
+constexpr int kTotalCarbohydrate = 141;
+constexpr int kRatioProtein = 142;
+constexpr int kRatioFat = 143;
+constexpr int kRatioCarbohydrate = 144;
+constexpr int kCarbohydrateExchange = 183;
+constexpr int kProteinFatExchange = 184;
+
+constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein,
+                           kTotalFat,          kTotalCarbohydrate, kRatioProtein,
+                           kRatioFat,          kRatioCarbohydrate, kCarbohydrateExchange,
+                           kProteinFatExchange};
+
+constexpr std::size_t kNumberLimit = 30;
+constexpr std::size_t kLineLimit = 150;
+
+constexpr std::string_view kNothing = "0";
+
+// The system's own text, as it stands.
+constexpr std::string_view kTooLight = "Choose some product from the list or change weight!";
+
+constexpr std::string_view kNotWritten =
+    "The daily balance could not be saved.\nCheck the folder of Your data and try again.";
+
+DayExchanges ExchangesOf(const DayTotals& food) {
+  return {CarbohydrateExchanges(food.carbohydrate), ProteinFatExchanges(food.protein, food.fat)};
+}
+
+std::string ExchangeText(float exchange) {
+  return exchange < kTrace ? std::string(kBelowTrace) : FormatNumber(exchange, kShownDigits);
+}
+
+}  // namespace
+
+FoodListPanel::FoodListPanel(const FoodTable& food, const DayBalance& day, Exchanges& exchanges,
+                             Form& form, MessageBoxes& message_boxes)
+    : food_(food), day_(day), exchanges_(exchanges), form_(form), message_boxes_(message_boxes) {}
+
+void FoodListPanel::Add(const std::string& product) {
+  const auto number = [this](int id) { return ParseNumber(form_.ReadText(id, kNumberLimit)); };
+  const ListedFood listed = {product, ListedWeight(form_.ReadText(kWeight, kNumberLimit))};
+  const DayTotals amounts = {number(kKcal), number(kProtein), number(kFat), number(kCarbohydrate)};
+  day_.MakeExchangeFiles();
+  if (!day_.ChangeTotals(amounts)) {
+    ReportFailedWrite();
+    return;
+  }
+  const std::string line = ListLine(listed);
+  if (amounts == ListedAmounts(food_, listed, FigureKind::kOwn)) {
+    lines_with_own_figures_.push_back(line);
+  }
+  form_.AddItem(kList, line);
+  if (!CountsInTotals(listed.weight)) {
+    message_boxes_.Show({.text = kTooLight});
+    return;
+  }
+  ListTotals totals = ReadTotals();
+  totals.Change(ParseNumber(listed.weight), amounts);
+  const bool written = day_.ChangeExchanges(ExchangesOf(amounts));
+  ShowTotals(totals);
+  if (!written) ReportFailedWrite();
+}
+
+void FoodListPanel::Remove() {
+  std::optional<std::string> line = form_.SelectedText(kList);
+  if (!line) return;
+  if (line->size() > kLineLimit) line->resize(kLineLimit);
+  const ListedFood listed = ParseListLine(*line);
+  const auto own = std::ranges::find(lines_with_own_figures_, *line);
+  const bool is_own = own != lines_with_own_figures_.end();
+  const DayTotals amounts =
+      ListedAmounts(food_, listed, is_own ? FigureKind::kOwn : FigureKind::kScaled);
+  if (!day_.ChangeTotals(-amounts)) {
+    ReportFailedWrite();
+    return;
+  }
+  form_.RemoveSelectedItem(kList);
+  if (is_own) lines_with_own_figures_.erase(own);
+  // A food that was refused for its weight is in the day's totals alone.
+  if (!CountsInTotals(listed.weight)) return;
+  ListTotals totals = ReadTotals();
+  totals.Change(-ParseNumber(listed.weight), -amounts);
+  const bool written = day_.ChangeExchanges(-ExchangesOf(amounts));
+  ShowTotals(totals);
+  if (!written) ReportFailedWrite();
+}
+
+void FoodListPanel::ClearList() {
+  const TotalTexts totals = Totals(kNumberLimit);
+  const DayTotals amounts = {ParseNumber(totals.kcal), ParseNumber(totals.protein),
+                             ParseNumber(totals.fat), ParseNumber(totals.carbohydrate)};
+  if (!day_.ChangeTotals(-amounts)) {
+    ReportFailedWrite();
+    return;
+  }
+  const bool written = day_.ChangeExchanges(-ExchangesOf(amounts));
+  Empty(kNothing);
+  if (!written) ReportFailedWrite();
+}
+
+void FoodListPanel::ClearDay() {
+  if (day_.Clear()) {
+    Empty(kNothing);
+  } else {
+    ReportFailedWrite();
+  }
+}
+
+void FoodListPanel::Empty(std::string_view nothing) {
+  form_.ClearItems(kList);
+  lines_with_own_figures_.clear();
+  for (const int id : kFields) form_.SetText(id, nothing);
+  exchanges_.CountCarbohydrate(0);
+  exchanges_.CountProteinFat(0, 0);
+}
+
+TotalTexts FoodListPanel::Totals(std::size_t limit) const {
+  return {form_.ReadText(kTotalWeight, limit), form_.ReadText(kTotalKcal, limit),
+          form_.ReadText(kTotalProtein, limit), form_.ReadText(kTotalFat, limit),
+          form_.ReadText(kTotalCarbohydrate, limit)};
+}
+
+std::vector<std::string> FoodListPanel::Lines() const {
+  std::vector<std::string> lines;
+  for (int i = 0; i < form_.ItemCount(kList); ++i) lines.push_back(form_.ItemText(kList, i));
+  return lines;
+}
+
+ListTotals FoodListPanel::ReadTotals() const {
+  const TotalTexts texts = Totals(kNumberLimit);
+  const auto number = [](const std::string& text) { return static_cast<float>(ParseNumber(text)); };
+  return {number(texts.weight), number(texts.kcal), number(texts.protein), number(texts.fat),
+          number(texts.carbohydrate)};
+}
+
+void FoodListPanel::ShowTotals(const ListTotals& totals) {
+  const std::string protein = CounterText(totals.protein);
+  const std::string fat = CounterText(totals.fat);
+  const std::string carbohydrate = CounterText(totals.carbohydrate);
+  const RatioTexts ratio = NutrientRatio(protein, fat, carbohydrate, kBelowTrace);
+  form_.SetText(kTotalWeight, CounterText(totals.weight));
+  form_.SetText(kTotalKcal, CounterText(totals.kcal));
+  form_.SetText(kTotalProtein, protein);
+  form_.SetText(kTotalFat, fat);
+  form_.SetText(kTotalCarbohydrate, carbohydrate);
+  form_.SetText(kRatioProtein, ratio.protein);
+  form_.SetText(kRatioFat, ratio.fat);
+  form_.SetText(kRatioCarbohydrate, ratio.carbohydrate);
+  form_.SetText(kCarbohydrateExchange,
+                ExchangeText(exchanges_.CountCarbohydrate(totals.carbohydrate)));
+  form_.SetText(kProteinFatExchange,
+                ExchangeText(exchanges_.CountProteinFat(totals.protein, totals.fat)));
+}
+
+void FoodListPanel::ReportFailedWrite() { message_boxes_.Show({.text = kNotWritten}); }
+
+}  // namespace velnor

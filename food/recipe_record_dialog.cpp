@@ -1,0 +1,38 @@
+#include "food/recipe_record_dialog.h"
+
+#include "base/text_file.h"
+#include "food/recipe_record.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kDate = 709;
+constexpr int kName = 724;
+constexpr int kRecipe = 725;
+
+constexpr std::size_t kNameLimit = 99;
+constexpr std::size_t kRecipeLimit = 499;
+constexpr std::size_t kTotalLimit = 14;
+
+}  // namespace
+
+void RecipeRecordDialog::OnOpen(Form& form) {
+  form.Focus(kRecipe);
+  form.SetText(kDate, session_.date_text);
+}
+
+void RecipeRecordDialog::OnCommand(Form& form, int id, int notification) {
+  const bool save = id == kOkButton && notification == kButtonClicked;
+  if (save) Save(form);
+  if (save || id == kCancelButton) form.Close();
+}
+
+// Whether the record could be written is not reported.
+void RecipeRecordDialog::Save(const Form& form) const {
+  AppendToFile(session_.UserFile(kRecipeReportFile),
+               RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
+                                 list_.Totals(kTotalLimit), composition_,
+                                 form.ReadText(kRecipe, kRecipeLimit)}));
+}
+
+}  // namespace velnor
