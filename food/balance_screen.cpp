@@ -20,6 +20,10 @@ constexpr Pen kTickPen{kGrey, 2};
 constexpr int kBandWidth = 7;
 constexpr int kMarkWidth = 3;
 
+// Small enough for each label to end before its figure begins.
+constexpr Font kHeadFont{12, 0, false};
+constexpr Font kEatenFont{10, 0, false};
+
 constexpr int kHeadY = 23;
 constexpr int kTickDistance = 100;
 constexpr int kTickHalf = 4;
@@ -52,7 +56,7 @@ void PaintHead(Canvas& canvas, const DayExchanges& exchanges) {
   canvas.SetFont(kTitleFont);
   canvas.SetTextColour(kBlack);
   canvas.DrawText({10, kHeadY}, "Daily balance");
-  canvas.SetFont(kBodyFont);
+  canvas.SetFont(kHeadFont);
   canvas.SetTextColour(kYellow);
   canvas.DrawText({300, kHeadY}, "Factors +/- 0.1");
   canvas.DrawText({400, kHeadY}, "Carb Exch: ");
@@ -98,6 +102,7 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
                 const DailyRequirement& requirement) {
   const int axis_y = scale.label_y - kAxisAboveLabels;
   const Standing standing = StandingOf(scale, eaten, requirement);
+  canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kGreen);
   canvas.DrawText({65, scale.norm_y}, kNorm);
   canvas.SetTextColour(kBlack);
@@ -110,7 +115,9 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
     canvas.DrawText({650, scale.norm_y + 5}, "OUT OF SCALE");
     canvas.SetTextColour(kBlack);
   }
+  canvas.SetFont(kEatenFont);
   canvas.DrawText({60, scale.eaten_y}, scale.eaten_label);
+  canvas.SetFont(kBodyFont);
   canvas.DrawText({110, scale.eaten_y}, ShownNumber(eaten));
   canvas.DrawText({160, scale.eaten_y}, "balance:");
   if (standing == Standing::kInside) canvas.SetTextColour(kGreen);

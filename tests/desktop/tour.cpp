@@ -43,6 +43,7 @@ class Tour {
 
     WalkProductDialogs();
     WalkUserDialogs();
+    WalkDay();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -130,6 +131,41 @@ class Tour {
     Take("home-logged-in");
     app_.main().Command(232);
     Take("requirement-athlete");
+  }
+
+  void AddFood(const char* main_category, const char* subcategory, const char* product,
+               const char* weight) const {
+    app_.main().Choose(124, main_category);
+    app_.main().Choose(125, subcategory);
+    app_.main().Choose(126, product);
+    app_.main().SetText(128, weight);
+    app_.main().Command(127);
+  }
+
+  void WalkDay() const {
+    app_.main().Command(233);
+    Take("balance-nothing-eaten");
+    app_.main().Command(231);
+    AddFood("fruits", "frozen", "frozen strawberries", "250");
+    AddFood("milk preserves", "milk", "milk 3,5%", "500");
+    AddFood("dairy products", "cottage cheese", "cottage cheese 2%", "350");
+    AddFood("fats", "animal fats", "butter", "60");
+    Take("counter-list");
+    app_.main().Command(145);
+    const Window report = app_.WaitForPopup();
+    TakeWindow(report, "save-calories");
+    report.Command(IDCANCEL);
+    app_.main().Command(147);
+    const Window recipe = app_.WaitForPopup();
+    recipe.SetText(724, "strawberry shake");
+    recipe.SetText(725, "Mix everything.\r\nServe cold.");
+    TakeWindow(recipe, "save-recipe");
+    recipe.Command(IDCANCEL);
+    app_.main().Command(233);
+    Take("balance-below-and-inside");
+    folder_.Write("Zoe\\bilans.ASC", Today() + "\r\n3400\r\n290\r\n120\r\n380");
+    app_.main().Command(233);
+    Take("balance-above-and-out-of-scale");
   }
 
   struct ScreenName {

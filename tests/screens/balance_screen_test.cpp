@@ -18,6 +18,8 @@ constexpr int kClear = 165;
 
 constexpr Font kTitle{18, 700, true};
 constexpr Font kBody{14, 0, false};
+constexpr Font kHead{12, 0, false};
+constexpr Font kEaten{10, 0, false};
 constexpr Colour kGrey{79, 79, 79};
 constexpr Colour kLightGrey{205, 205, 205};
 constexpr Colour kGreen{0, 205, 0};
@@ -71,11 +73,11 @@ TEST_F(BalanceScreenTest, PaintsItsTexts) {
   EXPECT_EQ(canvas.backgrounds, Texts{"BILANS"});
   std::vector<DrawnText> expected = {
       {"Daily balance", {10, 23}, kTitle, kBlack},
-      {"Factors +/- 0.1", {300, 23}, kBody, kYellow},
-      {"Carb Exch: ", {400, 23}, kBody, kYellow},
-      {"23.075", {460, 23}, kBody, kYellow},
-      {"Protein-Fat Exch: ", {510, 23}, kBody, kYellow},
-      {"8.3225", {600, 23}, kBody, kYellow},
+      {"Factors +/- 0.1", {300, 23}, kHead, kYellow},
+      {"Carb Exch: ", {400, 23}, kHead, kYellow},
+      {"23.075", {460, 23}, kHead, kYellow},
+      {"Protein-Fat Exch: ", {510, 23}, kHead, kYellow},
+      {"8.3225", {600, 23}, kHead, kYellow},
   };
   struct Scale {
     int norm_y;
@@ -139,7 +141,7 @@ TEST_F(BalanceScreenTest, PaintsItsTexts) {
       const int left = label.size() == 4 ? 10 : label.size() == 3 ? 8 : 5;
       expected.push_back({label, {150 + 100 * i - left, scale.label_y}, kBody, kBlack});
     }
-    expected.push_back({scale.unit, {60, scale.row_y}, kBody, kBlack});
+    expected.push_back({scale.unit, {60, scale.row_y}, kEaten, kBlack});
     expected.push_back({scale.eaten, {110, scale.row_y}, kBody, kBlack});
     expected.push_back({"balance:", {160, scale.row_y}, kBody, kBlack});
     expected.push_back({scale.balance, {210, scale.row_y}, kBody, scale.balance_colour});
