@@ -14,6 +14,7 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
@@ -43,6 +44,9 @@ class Program {
   // shows its own. An unknown screen number paints and shows nothing.
   void HideControls();
   void Paint(Canvas& canvas);
+  // What follows when the repaint has ended and can be seen: a chart that had too little to draw
+  // says so, once, and gives way to the home screen. May wait for the user and be entered again.
+  void FinishPaint();
 
   // What the commands and screens of the tables work with.
   void ShowScreen(ScreenId screen);
@@ -56,6 +60,7 @@ class Program {
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
+  ChartScreen& charts() { return charts_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const SessionState& session() const { return session_; }
@@ -74,6 +79,8 @@ class Program {
   CounterScreen counter_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
+  ChartScreen charts_;
+  bool refusal_open_ = false;  // the box of a chart that refused
 };
 
 }  // namespace velnor
