@@ -80,13 +80,15 @@ void PaintBand(Canvas& canvas, const Chart& chart, Limit lower, const Requiremen
   PaintAcross(canvas, ChartY(chart, bounds[lower + 1]));
 }
 
+// The labels come last: the line would cross those of its steep pieces.
 void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
   const std::vector<ChartPoint> points = ChartPoints(chart, series);
+  std::vector<Point> line;
+  for (const ChartPoint& point : points) line.push_back(point.at);
   canvas.SetPen({chart.colour, kDataWidth});
+  canvas.DrawPolyline(line);
   canvas.SetFont(kDayFont);
-  for (std::size_t i = 1; i < points.size(); ++i) {
-    const auto& [at, label] = points[i];
-    canvas.DrawLine(points[i - 1].at, at);
+  for (const auto& [at, label] : points) {
     if (!label.empty()) canvas.DrawText({at.x + kDayLabel.x, at.y + kDayLabel.y}, label);
   }
 }

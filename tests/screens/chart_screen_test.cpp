@@ -1,6 +1,6 @@
 // The five charts: everything that is painted, and the boxes of those that refuse.
 
-#include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -100,18 +100,14 @@ std::vector<DrawnLine> Lines(const RecordingCanvas& canvas) {
   return {canvas.lines.begin() + 1, canvas.lines.end()};
 }
 
-// The line of the data, from the right.
-std::vector<DrawnLine> DataLines(const std::vector<int>& heights, Colour colour) {
-  std::vector<DrawnLine> lines;
-  for (int i = 0; i < 20; ++i) {
-    const auto height = [&heights](int point) {
-      const auto index = static_cast<std::size_t>(point);
-      return index < heights.size() ? heights[index] : 450;
-    };
-    const int x = 750 - 35 * i;
-    lines.push_back({{{x, height(i)}, {x - 35, height(i + 1)}}, {colour, 3}});
+// The line of the data: these heights from the right, and the bottom axis further left.
+DrawnLine DataLine(const std::vector<int>& heights, Colour colour) {
+  DrawnLine line = {{}, {colour, 3}};
+  for (int i = 0; i < 21; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    line.points.push_back({750 - 35 * i, index < heights.size() ? heights[index] : 450});
   }
-  return lines;
+  return line;
 }
 
 template <typename T>
@@ -151,7 +147,7 @@ TEST_F(ChartScreenTest, TheWeightChartLineByLine) {
                         "Entries are making by writing the report at calculating the BMI rate",
                         "weight[kg]", kWeightScale),
              {{"17.11", {705, 315}, kDay, kBlack}, {"16.11", {670, 318}, kDay, kBlack}}));
-  EXPECT_EQ(Lines(canvas), Joined(FrameLines(), DataLines({334, 330, 333}, {0, 0, 188})));
+  EXPECT_EQ(Lines(canvas), Joined(FrameLines(), {DataLine({334, 330, 333}, {0, 0, 188})}));
   canvas.DrawLine({0, 0}, {1, 1});
   EXPECT_EQ(canvas.lines.back().pen, kBlackPen) << "the black pen comes back";
   EXPECT_TRUE(boxes_.shown.empty());
@@ -173,7 +169,7 @@ TEST_F(ChartScreenTest, TheCalorieChartLineByLine) {
   const std::vector<DrawnLine> band = {{{{52, 300}, {748, 300}}, kBand},
                                        {{{52, 287}, {748, 287}}, kBand}};
   EXPECT_EQ(Lines(canvas),
-            Joined(Joined(FrameLines(), band), DataLines({325, 150, 334}, {255, 139, 137})));
+            Joined(Joined(FrameLines(), band), {DataLine({325, 150, 334}, {255, 139, 137})}));
   EXPECT_EQ(program_->session().screen, 14);
 }
 
@@ -226,7 +222,7 @@ TEST_F(ChartScreenTest, TheOtherNutrientsHaveTheirOwnScaleFieldAndPen) {
     const std::vector<DrawnLine> band = {{{{52, chart.band[0]}, {748, chart.band[0]}}, kBand},
                                          {{{52, chart.band[1]}, {748, chart.band[1]}}, kBand}};
     EXPECT_EQ(Lines(canvas),
-              Joined(Joined(FrameLines(), band), DataLines(chart.heights, chart.colour)));
+              Joined(Joined(FrameLines(), band), {DataLine(chart.heights, chart.colour)}));
   }
 }
 
@@ -239,9 +235,13 @@ TEST_F(ChartScreenTest, AFullSeriesReachesFromAxisToAxis) {
   folder_.Write("Ann/wykwag.txt", lines);
   const RecordingCanvas canvas = Open(kWeightChart);
   const std::vector<DrawnLine> data = LinesOf(canvas, {{0, 0, 188}, 3});
-  ASSERT_EQ(data.size(), 20U);
-  EXPECT_EQ(data.front().points, (std::vector<Point>{{750, 313}, {715, 314}}));
-  EXPECT_EQ(data.back().points, (std::vector<Point>{{85, 344}, {50, 346}}));
+  ASSERT_EQ(data.size(), 1U);
+  const std::vector<Point>& points = data[0].points;
+  ASSERT_EQ(points.size(), 21U);
+  EXPECT_EQ(points[0], (Point{750, 313}));
+  EXPECT_EQ(points[1], (Point{715, 314}));
+  EXPECT_EQ(points[19], (Point{85, 344}));
+  EXPECT_EQ(points[20], (Point{50, 346}));
   std::vector<std::string> labels;
   for (const DrawnText& text : canvas.texts) {
     if (text.font == kDay) labels.push_back(text.text);
@@ -249,6 +249,32 @@ TEST_F(ChartScreenTest, AFullSeriesReachesFromAxisToAxis) {
   ASSERT_EQ(labels.size(), 20U) << "every entry drawn but the newest";
   EXPECT_EQ(labels.front(), "21.11");
   EXPECT_EQ(labels.back(), "2.11");
+}
+
+// Tells whether a day's label was drawn before the line of the data was.
+class OrderCanvas final : public Canvas {
+ public:
+  void CopyBackground(std::string_view) override {}
+  void SetFont(const Font& font) override { font_ = font; }
+  void SetTextColour(Colour) override {}
+  void SetPen(const Pen& pen) override { pen_ = pen; }
+  void DrawText(Point, std::string_view) override { order += font_ == kDay ? "d" : ""; }
+  void DrawPolyline(std::span<const Point>) override { order += pen_.width == 3 ? "L" : ""; }
+
+  std::string order;
+
+ private:
+  Font font_;
+  Pen pen_;
+};
+
+TEST_F(ChartScreenTest, TheLineNeverCoversALabel) {
+  LogIn();
+  folder_.Write("Ann/wykwag.txt", kThreeWeights);
+  program_->ShowScreen(13);
+  OrderCanvas canvas;
+  program_->Paint(canvas);
+  EXPECT_EQ(canvas.order, "Ldd");
 }
 
 TEST_F(ChartScreenTest, EveryPaintReadsTheFileAnew) {
