@@ -41,9 +41,6 @@ inline constexpr int kChartRight = 750;
 inline constexpr int kChartBottom = 450;
 inline constexpr int kChartColumn = 35;
 
-// Entries below which a chart is not drawn.
-inline constexpr std::size_t kFewestEntries = 3;
-
 // The height at which `value` is drawn: whole pixels above the bottom axis, rounded away from it.
 // Values so large that no screen reaches there give 20,000 pixels above or below it.
 int ChartY(const Chart& chart, double value);

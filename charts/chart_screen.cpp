@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/text_file.h"
+#include "charts/chart.h"
 
 namespace velnor {
 namespace {
@@ -32,6 +33,8 @@ constexpr int kInnerRight = kChartRight - kTick;
 
 // From the point of an entry to its label's corner.
 constexpr Point kDayLabel{-10, -15};
+
+constexpr std::size_t kFewestEntries = 3;
 
 constexpr std::string_view kTooFew =
     "Not enought data to draw graph.\nNeed at least 3 savings (from 3 different days).";
@@ -93,6 +96,15 @@ void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
   }
 }
 
+ChartSeries LoadSeries(const Chart& chart, const SessionState& session) {
+  // Without a user there is no folder that a series could lie in.
+  if (session.user_name.empty()) return {};
+  const std::string path = session.UserFile(chart.file);
+  ChartSeries series = LoadChartFile(path);
+  if (series.file_is_empty) AppendToFile(path, "");  // makes it when it is missing
+  return series;
+}
+
 std::optional<Message> RefusalOf(const Chart& chart, const ChartSeries& series) {
   if (series.file_is_empty) return Message{.text = chart.no_data, .caption = "Caution"};
   if (series.last + 1 < kFewestEntries) return Message{.text = kTooFew, .caption = "ATTENTION"};
@@ -106,21 +118,12 @@ void ChartScreen::Paint(Canvas& canvas, const Chart& chart, const RequirementBou
   PaintAxes(canvas, chart);
   PaintGrid(canvas);
   if (chart.lower_bound) PaintBand(canvas, chart, *chart.lower_bound, bounds);
-  const ChartSeries series = LoadSeries(chart);
+  const ChartSeries series = LoadSeries(chart, session_);
   refusal_ = RefusalOf(chart, series);
   if (!refusal_) Plot(canvas, chart, series);
   canvas.SetPen(kAxisPen);
 }
 
 std::optional<Message> ChartScreen::TakeRefusal() { return std::exchange(refusal_, std::nullopt); }
-
-ChartSeries ChartScreen::LoadSeries(const Chart& chart) const {
-  // Without a user there is no folder that a series could lie in.
-  if (session_.user_name.empty()) return {};
-  const std::string path = session_.UserFile(chart.file);
-  ChartSeries series = LoadChartFile(path);
-  if (series.file_is_empty) AppendToFile(path, "");  // makes it when it is missing
-  return series;
-}
 
 }  // namespace velnor

@@ -10,9 +10,10 @@
 #include "base/canvas.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
-#include "charts/chart.h"
 
 namespace velnor {
+
+struct Chart;
 
 class ChartScreen {
  public:
@@ -26,8 +27,6 @@ class ChartScreen {
   std::optional<Message> TakeRefusal();
 
  private:
-  ChartSeries LoadSeries(const Chart& chart) const;
-
   const SessionState& session_;
   std::optional<Message> refusal_;
 };
