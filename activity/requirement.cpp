@@ -109,4 +109,24 @@ void UpdateRequirement(const UserProfile& profile, const PersonalLimits& limits,
   }
 }
 
+RequirementBounds BoundsOf(const DailyRequirement& requirement) {
+  const auto& [calories, protein, fat, carbohydrate] = requirement;
+  RequirementBounds bounds = {};
+  bounds[kCaloriesLower] = calories.lower;
+  bounds[kCaloriesUpper] = calories.upper;
+  bounds[kProteinLower] = protein.lower;
+  bounds[kProteinUpper] = protein.upper;
+  bounds[kFatLower] = fat.lower;
+  bounds[kFatUpper] = fat.upper;
+  bounds[kCarbohydrateLower] = carbohydrate.lower;
+  bounds[kCarbohydrateUpper] = carbohydrate.upper;
+  return bounds;
+}
+
+RequirementBounds BoundsOf(const PersonalLimits& limits) {
+  RequirementBounds bounds = {};
+  for (std::size_t limit = 0; limit < kLimitCount; ++limit) bounds[limit] = limits.Number(limit);
+  return bounds;
+}
+
 }  // namespace velnor

@@ -4,6 +4,8 @@
 #ifndef VELNOR_ACTIVITY_REQUIREMENT_H_
 #define VELNOR_ACTIVITY_REQUIREMENT_H_
 
+#include <array>
+
 #include "activity/personal_limits.h"
 #include "users/profile.h"
 
@@ -32,6 +34,14 @@ struct DailyRequirement {
 // counts as 0. Source of the table: the program's own recommendations by age, sex and way of life.
 void UpdateRequirement(const UserProfile& profile, const PersonalLimits& limits,
                        DailyRequirement& requirement);
+
+// Lower and upper bounds of the four, in the order of Limit.
+using RequirementBounds = std::array<double, kLimitCount>;
+
+// The bounds of a requirement, and those that personal limits give by themselves, with their
+// decimals.
+RequirementBounds BoundsOf(const DailyRequirement& requirement);
+RequirementBounds BoundsOf(const PersonalLimits& limits);
 
 }  // namespace velnor
 

@@ -97,6 +97,10 @@ void RequirementScreen::Update() {
   UpdateRequirement(profile_, ReadPersonalLimits(LimitsPath()), requirement_);
 }
 
+RequirementBounds RequirementScreen::DayBounds() const {
+  return limits_active_ ? BoundsOf(limits_) : BoundsOf(requirement_);
+}
+
 void RequirementScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kHeadingFont);
   canvas.DrawText({10, 30}, "Daily request");

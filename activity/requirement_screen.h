@@ -31,6 +31,9 @@ class RequirementScreen {
   void Clear();
 
   const DailyRequirement& requirement() const { return requirement_; }
+  // The bounds that the day is measured by elsewhere: the limits while they are shown as active,
+  // otherwise the requirement as it was last brought up to date.
+  RequirementBounds DayBounds() const;
 
  private:
   std::string LimitsPath() const;

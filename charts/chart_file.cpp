@@ -16,6 +16,7 @@ constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 ChartSeries SeriesOf(std::string_view text) {
   ChartSeries series;
+  series.file_is_empty = text.empty();
   LineReader lines(text, kLineLimit);
   for (std::size_t i = 0; i < kChartSlots; ++i) {
     const std::optional<std::string_view> line = lines.Next();

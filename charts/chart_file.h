@@ -21,7 +21,8 @@ inline constexpr std::size_t kChartSlots = 22;
 // The lines of a series in the order of the file, without line ends.
 struct ChartSeries {
   std::array<std::string, kChartSlots> slots;
-  std::size_t last = 0;  // the highest slot that is not empty; 0 also when all are
+  std::size_t last = 0;       // the highest slot that is not empty; 0 also when all are
+  bool file_is_empty = true;  // or missing, or cannot be read
 };
 
 // Whether a slot counts as empty: five characters or fewer.

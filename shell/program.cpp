@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "food/add_product_dialog.h"
@@ -63,7 +64,8 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       counter_(food_, form),
       food_list_(food_, day_, exchanges_, form, message_boxes),
       overview_(food_, exchanges_, form),
-      requirement_(session_, profile_, form, window, message_boxes) {}
+      requirement_(session_, profile_, form, window, message_boxes),
+      charts_(session_) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -91,6 +93,15 @@ void Program::Paint(Canvas& canvas) {
   PaintHeader(canvas, session_);
   if (screen->paint != nullptr) screen->paint(*this, canvas);
   for (const int key : screen->controls) form_.Show(key);
+}
+
+void Program::FinishPaint() {
+  const std::optional<Message> refusal = charts_.TakeRefusal();
+  if (!refusal || refusal_open_) return;
+  refusal_open_ = true;
+  message_boxes_.Show(*refusal);
+  refusal_open_ = false;
+  ShowScreen(kHomeScreen);
 }
 
 void Program::ShowScreen(ScreenId screen) {

@@ -14,6 +14,7 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/day_balance.h"
 #include "food/food_list_panel.h"
@@ -45,6 +46,9 @@ class Program {
   // shows its own. An unknown screen number paints and shows nothing.
   void HideControls();
   void Paint(Canvas& canvas);
+  // What follows when the repaint has ended and can be seen: a chart that had too little to draw
+  // says so, once, and gives way to the home screen. May wait for the user and be entered again.
+  void FinishPaint();
 
   // What the commands and screens of the tables work with.
   void ShowScreen(ScreenId screen);
@@ -62,6 +66,7 @@ class Program {
   FoodListPanel& food_list() { return food_list_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
+  ChartScreen& charts() { return charts_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const DayBalance& day() const { return day_; }
@@ -83,6 +88,8 @@ class Program {
   FoodListPanel food_list_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
+  ChartScreen charts_;
+  bool refusal_open_ = false;  // the box of a chart that refused
 };
 
 }  // namespace velnor

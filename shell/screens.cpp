@@ -1,6 +1,8 @@
 #include "shell/screens.h"
 
+#include "activity/exchanges_screen.h"
 #include "base/form.h"
+#include "charts/chart.h"
 #include "food/balance_screen.h"
 #include "shell/program.h"
 
@@ -27,6 +29,11 @@ constexpr int kEnergyControls[] = {181, 182};
 
 void UpdateRequirement(Program& program) { program.requirement().Update(); }
 
+template <ChartId chart>
+void PaintChart(Program& program, Canvas& canvas) {
+  program.charts().Paint(canvas, FindChart(chart), program.requirement().DayBounds());
+}
+
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     {0, 0, "TLO", {}, nullptr},                          // home
@@ -51,14 +58,15 @@ constexpr ScreenRow kScreens[] = {
        PaintBalance(canvas, program.day(), program.requirement().requirement());
      },
      UpdateRequirement},
-    {13, 270, "BCG", {}, nullptr},                       // weight chart
-    {14, 271, "BCG", {}, nullptr},                       // calorie chart
-    {15, 272, "BCG", {}, nullptr},                       // proteins chart
-    {16, 273, "BCG", {}, nullptr},                       // fat chart
-    {17, 274, "BCG", {}, nullptr},                       // carbohydrates chart
+    {13, 270, "BCG", {}, PaintChart<ChartId::kWeight>},
+    {14, 271, "BCG", {}, PaintChart<ChartId::kCalories>, UpdateRequirement},
+    {15, 272, "BCG", {}, PaintChart<ChartId::kProteins>, UpdateRequirement},
+    {16, 273, "BCG", {}, PaintChart<ChartId::kFat>, UpdateRequirement},
+    {17, 274, "BCG", {}, PaintChart<ChartId::kCarbohydrates>, UpdateRequirement},
     {18, 225, "SPAL", kBmrControls, nullptr},            // BMR
     {19, 239, "SPAL", kEnergyControls, nullptr},         // energy balance
-    {20, 252, "POS", {}, nullptr},                       // weight exchanges
+    {20, 252, "POS", {},                                 // weight exchanges
+     [](Program&, Canvas& canvas) { PaintWeightExchanges(canvas); }},
 };
 // clang-format on
 

@@ -159,6 +159,7 @@ void Win32MainWindow::OnPaint() {
   }
   EndPaint(window_, &paint);
   FocusIfShown(focused);
+  program_->FinishPaint();
 }
 
 // The platform gives the focus to the window itself when it comes to the front again; it belongs to

@@ -103,6 +103,7 @@ std::multiset<int> ShownAfter(const App& app, int command) {
   return shown;
 }
 
+// The charts, which show none, need a user: they are looked at in charts_test.cpp.
 TEST_F(Controls, EveryScreenShowsItsOwn) {
   const std::multiset<int> reports = {119, 151, 152, 153, 154, 155, 156, 157, 158};
   const std::vector<std::pair<int, std::multiset<int>>> screens = {
@@ -120,11 +121,6 @@ TEST_F(Controls, EveryScreenShowsItsOwn) {
       {238, {159, 160, 161, 162, 163, 164, 177, 179, 180}},
       {215, {}},
       {233, {165}},
-      {270, {}},
-      {271, {}},
-      {272, {}},
-      {273, {}},
-      {274, {}},
       {225, {101, 176}},
       {239, {181, 182}},
       {252, {}},

@@ -131,6 +131,31 @@ class Tour {
     Take("home-logged-in");
     app_.main().Command(232);
     Take("requirement-athlete");
+    WalkCharts();
+  }
+
+  // With a series as long as a chart can show.
+  void WalkCharts() const {
+    app_.main().PostCommand(270);
+    const MessageBoxSeen refusal = app_.WaitForMessageBox();
+    Take("chart-refused");
+    Answer(refusal, IDOK);
+    std::string weights;
+    std::string nutrients;
+    for (int day = 1; day <= 21; ++day) {
+      const std::string date = std::to_string(day) + ".11.2026;";
+      const int wave = (day * 7) % 10;
+      weights += date + std::to_string(72 + wave / 3) + ".5;24.5;\r\n";
+      nutrients += date + std::to_string(1700 + 150 * wave) + ".;" + std::to_string(60 + 7 * wave) +
+                   ".5;" + std::to_string(50 + 6 * wave) + ".;" + std::to_string(220 + 40 * wave) +
+                   ".;\r\n";
+    }
+    folder_.Write("Zoe\\wykwag.txt", weights);
+    folder_.Write("Zoe\\wykoda.txt", nutrients);
+    for (const auto& [command, name] : kCharts) {
+      app_.main().Command(command);
+      Take(name);
+    }
   }
 
   void AddFood(const char* main_category, const char* subcategory, const char* product,
@@ -173,9 +198,13 @@ class Tour {
     const char* name;
   };
   static constexpr ScreenName kOtherScreens[] = {
-      {221, "bmi"},       {224, "whr"},          {210, "weight-report"}, {238, "activities"},
-      {233, "balance"},   {270, "weight-chart"}, {225, "bmr"},           {239, "energy-balance"},
-      {252, "exchanges"},
+      {221, "bmi"},     {224, "whr"}, {210, "weight-report"},  {238, "activities"},
+      {233, "balance"}, {225, "bmr"}, {239, "energy-balance"}, {252, "exchanges"},
+  };
+
+  static constexpr ScreenName kCharts[] = {
+      {270, "chart-weight"}, {271, "chart-calories"},      {272, "chart-proteins"},
+      {273, "chart-fat"},    {274, "chart-carbohydrates"},
   };
 
   void Take(const std::string& name) const { TakeWindow(app_.main(), name); }

@@ -62,8 +62,9 @@ TEST_F(ScreensTest, EveryScreenHasItsBackgroundHeaderAndControls) {
   const DrawnLine rule = {{{4, 20}, {790, 20}}, {{0, 0, 0}, 1}};
   ASSERT_EQ(Screens().size(), ExpectedScreens().size());
   for (const auto& [screen, expected] : ExpectedScreens()) {
-    const RecordingCanvas canvas = expected.command == 0 ? Repaint() : Open(expected.command);
+    if (expected.command != 0) program_->OnCommand(expected.command, kButtonClicked);
     EXPECT_EQ(program_->session().screen, screen);
+    const RecordingCanvas canvas = Repaint();
     EXPECT_EQ(canvas.backgrounds, std::vector<std::string>{expected.background}) << screen;
     ASSERT_GE(canvas.texts.size(), 2U) << screen;
     EXPECT_EQ(std::vector<DrawnText>(canvas.texts.begin(), canvas.texts.begin() + 2), header);

@@ -26,6 +26,7 @@ RecordingCanvas ProgramTest::Repaint() {
   RecordingCanvas canvas;
   program_->HideControls();
   program_->Paint(canvas);
+  program_->FinishPaint();
   return canvas;
 }
 

@@ -3,6 +3,7 @@
 #ifndef VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
 #define VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -54,6 +55,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   Answer Show(const Message& message) override {
     shown.push_back({std::string(message.text), std::string(message.caption), message.buttons,
                      message.icon, message.owner});
+    if (while_open) while_open();
     return message.buttons == MessageButtons::kOk ? Answer::kOk : answer;
   }
 
@@ -66,6 +68,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   }
 
   Answer answer = Answer::kYes;
+  std::function<void()> while_open;  // what happens before the person answers
   std::vector<Shown> shown;
 };
 
@@ -75,7 +78,7 @@ class ProgramTest : public testing::Test {
 
   // Starts the program; files of the folder are written before.
   Program& Start();
-  // The repaint that follows a change of screen.
+  // The repaint that follows a change of screen, and what the program does after it.
   RecordingCanvas Repaint();
   // Chooses the command and repaints.
   RecordingCanvas Open(int command);

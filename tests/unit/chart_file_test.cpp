@@ -114,6 +114,14 @@ TEST_F(ChartFileTest, MissingAndEmptyFilesHaveNoLines) {
   EXPECT_EQ(LoadChartFile(path_).slots[0], "");
 }
 
+TEST_F(ChartFileTest, AFileWithoutEntriesIsNotAnEmptyOne) {
+  EXPECT_TRUE(LoadChartFile(path_).file_is_empty);
+  Write("");
+  EXPECT_TRUE(LoadChartFile(path_).file_is_empty);
+  Write("\n");
+  EXPECT_FALSE(LoadChartFile(path_).file_is_empty);
+}
+
 TEST_F(ChartFileTest, LinesEndWithLfOrNotAtAllToo) {
   Write("16.11.2026;70;\n17.11.2026;71;");
   const ChartSeries series = LoadChartFile(path_);
