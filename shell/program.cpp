@@ -5,6 +5,8 @@
 #include <memory>
 #include <utility>
 
+#include "body/weight_record_dialog.h"
+#include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/balance_file.h"
 #include "food/remove_product_dialog.h"
@@ -31,6 +33,10 @@ struct ControlEvent {
 };
 
 constexpr ControlEvent kControlEvents[] = {
+    {102, kButtonClicked, [](Program& p) { p.bmi().Count(); }},
+    {103, kButtonClicked, [](Program& p) { p.OpenWeightRecord(); }},
+    {106, kButtonClicked, [](Program& p) { p.whr().Count(); }},
+    {107, kButtonClicked, [](Program& p) { p.OpenWhrRecord(); }},
     {108, kSelectionChanged, [](Program& p) { p.overview().OnMainCategoryChosen(); }},
     {110, kSelectionChanged, [](Program& p) { p.overview().OnSubcategoryChosen(); }},
     {109, kSelectionChanged, [](Program& p) { p.overview().OnProductChosen(); }},
@@ -42,6 +48,7 @@ constexpr ControlEvent kControlEvents[] = {
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
+    {176, kButtonClicked, [](Program& p) { p.bmr().Count(); }},
 };
 
 }  // namespace
@@ -54,7 +61,10 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       message_boxes_(message_boxes),
       counter_(food_, form),
       overview_(food_, exchanges_, form),
-      requirement_(session_, profile_, form, window, message_boxes) {}
+      requirement_(session_, profile_, form, window, message_boxes),
+      bmi_(profile_, weight_, form, window),
+      whr_(profile_, form, window),
+      bmr_(profile_, weight_, form, window) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -132,6 +142,16 @@ void Program::OpenRemoveProduct() {
 
 void Program::OpenSearch() {
   window_.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food_));
+}
+
+void Program::OpenWeightRecord() {
+  window_.OpenDialog(kWeightRecordResource,
+                     std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
+}
+
+void Program::OpenWhrRecord() {
+  window_.OpenDialog(kWhrRecordResource,
+                     std::make_unique<WhrRecordDialog>(session_, whr_.result()));
 }
 
 void Program::StartUserDay() {

@@ -14,6 +14,10 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "body/bmi_screen.h"
+#include "body/bmr_screen.h"
+#include "body/weight_text.h"
+#include "body/whr_screen.h"
 #include "food/counter_screen.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
@@ -53,9 +57,14 @@ class Program {
   void OpenAddProduct();
   void OpenRemoveProduct();
   void OpenSearch();
+  void OpenWeightRecord();
+  void OpenWhrRecord();
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
+  BmiScreen& bmi() { return bmi_; }
+  WhrScreen& whr() { return whr_; }
+  BmrScreen& bmr() { return bmr_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const SessionState& session() const { return session_; }
@@ -74,6 +83,10 @@ class Program {
   CounterScreen counter_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
+  WeightText weight_;
+  BmiScreen bmi_;
+  WhrScreen whr_;
+  BmrScreen bmr_;
 };
 
 }  // namespace velnor

@@ -29,8 +29,10 @@ void UpdateRequirement(Program& program) { program.requirement().Update(); }
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     {0, 0, "TLO", {}, nullptr},                          // home
-    {1, 221, "BMI2", kBmiControls, nullptr},             // BMI
-    {2, 224, "WHR", kWhrControls, nullptr},              // WHR
+    {1, 221, "BMI2", kBmiControls,                       // BMI
+     [](Program& program, Canvas& canvas) { program.bmi().Paint(canvas); }},
+    {2, 224, "WHR", kWhrControls,                        // WHR
+     [](Program& program, Canvas& canvas) { program.whr().Paint(canvas); }},
     {3, 236, "POS", kOverviewControls,                   // products overview
      [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
     {4, 210, "BCG", kReportControls, nullptr},           // weight report
@@ -51,7 +53,8 @@ constexpr ScreenRow kScreens[] = {
     {15, 272, "BCG", {}, nullptr},                       // proteins chart
     {16, 273, "BCG", {}, nullptr},                       // fat chart
     {17, 274, "BCG", {}, nullptr},                       // carbohydrates chart
-    {18, 225, "SPAL", kBmrControls, nullptr},            // BMR
+    {18, 225, "SPAL", kBmrControls,                      // BMR
+     [](Program& program, Canvas& canvas) { program.bmr().Paint(canvas); }},
     {19, 239, "SPAL", kEnergyControls, nullptr},         // energy balance
     {20, 252, "POS", {}, nullptr},                       // weight exchanges
 };
