@@ -1,9 +1,7 @@
 #include "body/bmi.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <iterator>
 #include <limits>
 
 #include "base/number_text.h"
@@ -39,10 +37,12 @@ float ComputeBmi(std::string_view weight, std::string_view height) {
 std::optional<int> ClassifyBmi(float bmi, const UserProfile& profile) {
   const Bounds* const bounds = BoundsFor(profile);
   if (bounds == nullptr) return std::nullopt;
-  const auto bound =
-      std::ranges::find_if(*bounds, [bmi](double upper) { return double{bmi} <= upper; });
-  if (bound == bounds->end()) return std::nullopt;
-  return static_cast<int>(std::distance(bounds->begin(), bound)) + 1;
+  int bmi_class = 1;
+  for (const double upper : *bounds) {
+    if (double{bmi} <= upper) return bmi_class;
+    ++bmi_class;
+  }
+  return std::nullopt;
 }
 
 int BmiMarkerOffset(float bmi) { return static_cast<int>(std::ceil(bmi * kPixelsPerUnit)); }

@@ -26,11 +26,12 @@ TEST(ComputeBmi, DividesTheWeightByTheSquareOfTheHeight) {
 }
 
 TEST(ComputeBmi, RoundsEveryStepToSinglePrecision) {
-  EXPECT_EQ(ComputeBmi("40", "156"), 16.43655777F);   // 16.436554 with a height in double
-  EXPECT_EQ(ComputeBmi("40", "160"), 15.624999046F);  // 15.625 exactly, where nothing is rounded
-  EXPECT_EQ(ComputeBmi("40", "157"), 16.227836609F);  // 16.227839 with a square in double
-  EXPECT_EQ(ComputeBmi("1", "1e-22"), kInfinity);     // the square is too small for a float
-  EXPECT_EQ(ComputeBmi("1e40", "100"), kInfinity);    // the weight too large
+  EXPECT_EQ(ComputeBmi("40", "156"), 16.43655777F);     // 16.436554 with a height in double
+  EXPECT_EQ(ComputeBmi("70", "151.4"), 30.538396835F);  // 30.538403 when divided by a float 100
+  EXPECT_EQ(ComputeBmi("40", "160"), 15.624999046F);    // 15.625 exactly, where nothing is rounded
+  EXPECT_EQ(ComputeBmi("40", "157"), 16.227836609F);    // 16.227839 with a square in double
+  EXPECT_EQ(ComputeBmi("1", "1e-22"), kInfinity);       // the square is too small for a float
+  EXPECT_EQ(ComputeBmi("1e40", "100"), kInfinity);      // the weight too large
 }
 
 TEST(ComputeBmi, MissingFiguresCountAsNothing) {
