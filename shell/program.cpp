@@ -6,6 +6,8 @@
 #include <optional>
 #include <utility>
 
+#include "body/weight_record_dialog.h"
+#include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
 #include "food/recipe_record_dialog.h"
@@ -33,6 +35,10 @@ struct ControlEvent {
 };
 
 constexpr ControlEvent kControlEvents[] = {
+    {102, kButtonClicked, [](Program& p) { p.bmi().Count(); }},
+    {103, kButtonClicked, [](Program& p) { p.OpenWeightRecord(); }},
+    {106, kButtonClicked, [](Program& p) { p.whr().Count(); }},
+    {107, kButtonClicked, [](Program& p) { p.OpenWhrRecord(); }},
     {108, kSelectionChanged, [](Program& p) { p.overview().OnMainCategoryChosen(); }},
     {110, kSelectionChanged, [](Program& p) { p.overview().OnSubcategoryChosen(); }},
     {109, kSelectionChanged, [](Program& p) { p.overview().OnProductChosen(); }},
@@ -50,6 +56,7 @@ constexpr ControlEvent kControlEvents[] = {
     {165, kButtonClicked, [](Program& p) { p.ClearDay(); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
+    {176, kButtonClicked, [](Program& p) { p.bmr().Count(); }},
 };
 
 }  // namespace
@@ -65,7 +72,10 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       food_list_(food_, day_, exchanges_, form, message_boxes),
       overview_(food_, exchanges_, form),
       requirement_(session_, profile_, form, window, message_boxes),
-      charts_(session_) {}
+      charts_(session_),
+      bmi_(profile_, weight_, form, window),
+      whr_(profile_, form, window),
+      bmr_(profile_, weight_, form, window) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -168,6 +178,16 @@ void Program::OpenRecipeRecord() {
 void Program::ClearDay() {
   food_list_.ClearDay();
   window_.Invalidate();
+}
+
+void Program::OpenWeightRecord() {
+  window_.OpenDialog(kWeightRecordResource,
+                     std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
+}
+
+void Program::OpenWhrRecord() {
+  window_.OpenDialog(kWhrRecordResource,
+                     std::make_unique<WhrRecordDialog>(session_, whr_.result()));
 }
 
 void Program::StartUserDay() {

@@ -14,6 +14,10 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "body/bmi_screen.h"
+#include "body/bmr_screen.h"
+#include "body/weight_text.h"
+#include "body/whr_screen.h"
 #include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/day_balance.h"
@@ -62,11 +66,16 @@ class Program {
   void OpenCalorieRecord();
   void OpenRecipeRecord();
   void ClearDay();
+  void OpenWeightRecord();
+  void OpenWhrRecord();
   CounterScreen& counter() { return counter_; }
   FoodListPanel& food_list() { return food_list_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
   ChartScreen& charts() { return charts_; }
+  BmiScreen& bmi() { return bmi_; }
+  WhrScreen& whr() { return whr_; }
+  BmrScreen& bmr() { return bmr_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const DayBalance& day() const { return day_; }
@@ -90,6 +99,10 @@ class Program {
   RequirementScreen requirement_;
   ChartScreen charts_;
   bool refusal_open_ = false;  // the box of a chart that refused
+  WeightText weight_;
+  BmiScreen bmi_;
+  WhrScreen whr_;
+  BmrScreen bmr_;
 };
 
 }  // namespace velnor

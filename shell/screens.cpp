@@ -37,8 +37,10 @@ void PaintChart(Program& program, Canvas& canvas) {
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     {0, 0, "TLO", {}, nullptr},                          // home
-    {1, 221, "BMI2", kBmiControls, nullptr},             // BMI
-    {2, 224, "WHR", kWhrControls, nullptr},              // WHR
+    {1, 221, "BMI2", kBmiControls,                       // BMI
+     [](Program& program, Canvas& canvas) { program.bmi().Paint(canvas); }},
+    {2, 224, "WHR", kWhrControls,                        // WHR
+     [](Program& program, Canvas& canvas) { program.whr().Paint(canvas); }},
     {3, 236, "POS", kOverviewControls,                   // products overview
      [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
     {4, 210, "BCG", kReportControls, nullptr},           // weight report
@@ -63,7 +65,8 @@ constexpr ScreenRow kScreens[] = {
     {15, 272, "BCG", {}, PaintChart<ChartId::kProteins>, UpdateRequirement},
     {16, 273, "BCG", {}, PaintChart<ChartId::kFat>, UpdateRequirement},
     {17, 274, "BCG", {}, PaintChart<ChartId::kCarbohydrates>, UpdateRequirement},
-    {18, 225, "SPAL", kBmrControls, nullptr},            // BMR
+    {18, 225, "SPAL", kBmrControls,                      // BMR
+     [](Program& program, Canvas& canvas) { program.bmr().Paint(canvas); }},
     {19, 239, "SPAL", kEnergyControls, nullptr},         // energy balance
     {20, 252, "POS", {},                                 // weight exchanges
      [](Program&, Canvas& canvas) { PaintWeightExchanges(canvas); }},

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <utility>
 
 #include "tests/desktop/driver.h"
 
@@ -44,6 +45,7 @@ class Tour {
     WalkProductDialogs();
     WalkUserDialogs();
     WalkDay();
+    WalkBodyScreens();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -193,13 +195,42 @@ class Tour {
     Take("balance-above-and-out-of-scale");
   }
 
+  void WalkBodyScreens() const {
+    app_.main().Command(221);
+    Take("bmi-before-counting");
+    for (const auto& [weight, name] :
+         {std::pair{"65", "bmi-standard"}, {"49", "bmi-attention"}, {"140", "bmi-third-level"}}) {
+      app_.main().SetText(101, weight);
+      app_.main().Command(102);
+      Take(name);
+    }
+    TakeAndClose(103, "save-weight");
+    app_.main().Command(224);
+    app_.main().SetText(104, "81");
+    app_.main().SetText(105, "100");
+    app_.main().Command(106);
+    Take("whr-apple");
+    TakeAndClose(107, "save-whr");
+    app_.main().Command(225);
+    app_.main().Command(176);
+    Take("bmr");
+  }
+
+  // Presses a button of the main window that opens a dialog.
+  void TakeAndClose(int button, const std::string& name) const {
+    app_.main().Command(button);
+    const Window dialog = app_.WaitForPopup();
+    TakeWindow(dialog, name);
+    dialog.Command(IDCANCEL);
+  }
+
   struct ScreenName {
     int command;
     const char* name;
   };
   static constexpr ScreenName kOtherScreens[] = {
-      {221, "bmi"},     {224, "whr"}, {210, "weight-report"},  {238, "activities"},
-      {233, "balance"}, {225, "bmr"}, {239, "energy-balance"}, {252, "exchanges"},
+      {210, "weight-report"},  {238, "activities"}, {233, "balance"},
+      {239, "energy-balance"}, {252, "exchanges"},
   };
 
   static constexpr ScreenName kCharts[] = {

@@ -1,0 +1,49 @@
+#include "body/weight_record_dialog.h"
+
+#include <cstddef>
+#include <string>
+
+#include "base/number_text.h"
+#include "base/text_file.h"
+#include "body/record_fields.h"
+#include "body/weight_record.h"
+#include "charts/chart_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kWeight = 710;
+constexpr int kBmi = 711;
+
+constexpr std::size_t kOtherLimit = 127;
+
+}  // namespace
+
+WeightRecordDialog::WeightRecordDialog(const SessionState& session, const WeightText& weight,
+                                       const BmiResult& bmi)
+    : session_(session), weight_(weight), bmi_(bmi) {}
+
+void WeightRecordDialog::OnOpen(Form& form) {
+  form.SetText(kRecordDate, session_.date_text);
+  form.SetText(kWeight, weight_.text);
+  if (bmi_.value > 0) form.SetText(kBmi, FormatNumber(bmi_.value, kRecordDigits));
+}
+
+void WeightRecordDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kOkButton && notification == kButtonClicked) Save(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void WeightRecordDialog::Save(Form& form) {
+  const WeightRecord record = {.date = form.ReadText(kRecordDate, kRecordTextLimit),
+                               .weight = form.ReadText(kWeight, kRecordTextLimit),
+                               .bmi = ReadTwoDecimals(form, kBmi),
+                               .other = form.ReadText(kRecordOther, kOtherLimit)};
+  AppendToFile(session_.UserFile(kWeightReportFile), WeightRecordLine(record));
+  // The chart goes by the days of the calendar, whatever date the report was given.
+  const std::string fields[] = {record.weight, record.bmi};
+  UpdateChartFile(session_.UserFile(kWeightSeriesFile), session_.date_text, fields);
+  form.Close();
+}
+
+}  // namespace velnor

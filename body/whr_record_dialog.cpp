@@ -1,0 +1,46 @@
+#include "body/whr_record_dialog.h"
+
+#include <cstddef>
+
+#include "base/number_text.h"
+#include "base/text_file.h"
+#include "body/record_fields.h"
+#include "body/whr_record.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kWaist = 713;
+constexpr int kHip = 714;
+constexpr int kWhr = 715;
+
+constexpr std::size_t kOtherLimit = 99;
+
+}  // namespace
+
+WhrRecordDialog::WhrRecordDialog(const SessionState& session, const WhrResult& whr)
+    : session_(session), whr_(whr) {}
+
+void WhrRecordDialog::OnOpen(Form& form) {
+  form.SetText(kRecordDate, session_.date_text);
+  form.SetText(kWaist, whr_.waist);
+  form.SetText(kHip, whr_.hip);
+  if (whr_.value > 0) form.SetText(kWhr, FormatNumber(whr_.value, kRecordDigits));
+}
+
+void WhrRecordDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kOkButton && notification == kButtonClicked) Save(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void WhrRecordDialog::Save(Form& form) {
+  const WhrRecord record = {.date = form.ReadText(kRecordDate, kRecordTextLimit),
+                            .waist = ReadTwoDecimals(form, kWaist),
+                            .hip = ReadTwoDecimals(form, kHip),
+                            .whr = ReadTwoDecimals(form, kWhr),
+                            .other = form.ReadText(kRecordOther, kOtherLimit)};
+  AppendToFile(session_.UserFile(kWhrReportFile), WhrRecordLine(record));
+  form.Close();
+}
+
+}  // namespace velnor
