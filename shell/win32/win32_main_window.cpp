@@ -13,7 +13,6 @@ constexpr int kIconResource = 900;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;
-constexpr int kPictureHeight = 550;
 constexpr COLORREF kSurfaceColour = RGB(179, 179, 179);
 
 constexpr UINT kHelpPartialKey = 0x105;
@@ -143,21 +142,25 @@ bool Win32MainWindow::OnCreate() {
   return true;
 }
 
+// Everything is drawn in memory and copied to the window once, around the controls that stay.
 void Win32MainWindow::OnPaint() {
-  // Hiding the control that has the focus takes the focus away; it gets it back when the screen
-  // shows it again, so that a repaint does not interrupt typing.
+  // Hiding the control that has the focus takes the focus away; a screen that shows it again gets
+  // it back.
   const HWND focused = GetFocus();
-  InvalidateRect(window_, nullptr, TRUE);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->HideControls();
-  PAINTSTRUCT paint;
-  const HDC context = BeginPaint(window_, &paint);
-  const RECT below_picture = {0, kPictureHeight, client_width_, client_height_};
-  FillRect(context, &below_picture, surface_);
-  {
-    GdiCanvas canvas(context, resources_);
+  const HDC picture = back_buffer_.Begin(window_, client_width_, client_height_, surface_);
+  if (picture != nullptr) {
+    GdiCanvas canvas(picture, resources_);
     program_->Paint(canvas);
   }
+  form_->HideTheRest();
+  PAINTSTRUCT paint;
+  const HDC context = BeginPaint(window_, &paint);
+  form_->ClipTo(context);
+  BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
   EndPaint(window_, &paint);
+  form_->ShowChosen();
   FocusIfShown(focused);
   program_->FinishPaint();
 }
@@ -176,9 +179,14 @@ void Win32MainWindow::FocusIfShown(HWND control) const {
   }
 }
 
-void Win32MainWindow::Invalidate() { InvalidateRect(window_, nullptr, TRUE); }
+// The controls draw themselves; a new picture around them is no reason to.
+void Win32MainWindow::Invalidate() {
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+}
 
-void Win32MainWindow::InvalidateWithoutErasing() { InvalidateRect(window_, nullptr, FALSE); }
+void Win32MainWindow::InvalidateWithoutErasing() {
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+}
 
 void Win32MainWindow::PaintNow() { SendMessageA(window_, WM_PAINT, 0, 0); }
 

@@ -63,6 +63,17 @@ void WidenTo(HWND list, std::string_view item) {
   }
 }
 
+// Whether it is shown when the main window is.
+bool IsShown(HWND control) { return (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+// A frame has nothing inside: the picture is to be seen through it.
+bool IsFrame(HWND control) {
+  char name[16] = {};
+  GetClassNameA(control, name, sizeof name);
+  return lstrcmpiA(name, ClassName(ControlClass::kButton)) == 0 &&
+         (GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
 }  // namespace
@@ -162,6 +173,38 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }
   return true;
+}
+
+void MainForm::HideAll() { chosen_.clear(); }
+
+void MainForm::Show(int key) { chosen_.insert(Control(key)); }
+
+void MainForm::HideTheRest() {
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && !chosen_.contains(control)) {
+      ShowWindow(control, SW_HIDE);
+    }
+  }
+}
+
+void MainForm::ClipTo(HDC context) const {
+  for (const HWND control : chosen_) {
+    if (!IsShown(control) || IsFrame(control)) continue;
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+    ExcludeClipRect(context, place.left, place.top, place.right, place.bottom);
+  }
+}
+
+void MainForm::ShowChosen() {
+  for (const HWND control : chosen_) {
+    if (!IsShown(control)) {
+      ShowWindow(control, SW_SHOWNORMAL);
+    } else if (IsFrame(control)) {
+      InvalidateRect(control, nullptr, FALSE);
+    }
+  }
 }
 
 HWND MainForm::Control(int key) const {
