@@ -292,7 +292,7 @@ void Window::SavePicture(const std::string& path) const {
 }
 
 App::App(const WorkFolder& folder) {
-  std::string command_line = '"' + FolderOfThisProgram() + "velnor.exe\"";
+  std::string command_line = '"' + ProgramPath() + '"';
   STARTUPINFOA start = {};
   start.cb = sizeof start;
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
@@ -435,6 +435,8 @@ bool WaitUntil(const std::function<bool()>& condition) {
 bool WaitUntilGone(HWND window) {
   return WaitUntil([=] { return IsWindow(window) == 0; });
 }
+
+std::string ProgramPath() { return FolderOfThisProgram() + "velnor.exe"; }
 
 std::string Today() {
   SYSTEMTIME now = {};

@@ -117,6 +117,9 @@ class App {
   Window main_{nullptr};
 };
 
+// The velnor.exe that is driven.
+std::string ProgramPath();
+
 // The date as the program writes it, without leading zeros.
 std::string Today();
 
