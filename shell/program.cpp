@@ -1,7 +1,6 @@
 #include "shell/program.h"
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -21,9 +20,6 @@
 namespace velnor {
 namespace {
 
-constexpr int kReportEdit = 119;
-constexpr ScreenId kReportScreens[] = {4, 5, 8, 9, 11};
-
 struct ControlEvent {
   int id;
   int notification;
@@ -40,6 +36,14 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {151, kButtonClicked, [](Program& p) { p.reports().Clear(); }},
+    {152, kButtonClicked, [](Program& p) { p.reports().Save(); }},
+    {153, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 5); }},
+    {154, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 5); }},
+    {155, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 12); }},
+    {156, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 12); }},
+    {157, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageDown, 1); }},
+    {158, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageUp, 1); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
 };
@@ -54,7 +58,8 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       message_boxes_(message_boxes),
       counter_(food_, form),
       overview_(food_, exchanges_, form),
-      requirement_(session_, profile_, form, window, message_boxes) {}
+      requirement_(session_, profile_, form, window, message_boxes),
+      reports_(session_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -68,10 +73,7 @@ void Program::OnCommand(int id, int notification) {
   }
 }
 
-void Program::OnMouseWheel(std::int32_t movement) {
-  if (std::ranges::find(kReportScreens, session_.screen) == std::end(kReportScreens)) return;
-  form_.ScrollLine(kReportEdit, movement < 0);
-}
+bool Program::OnMouseWheel(std::int32_t movement) { return reports_.OnMouseWheel(movement < 0); }
 
 void Program::HideControls() { form_.HideAll(); }
 

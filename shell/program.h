@@ -17,6 +17,7 @@
 #include "food/counter_screen.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
+#include "reports/report_screen.h"
 #include "users/profile.h"
 
 namespace velnor {
@@ -36,8 +37,8 @@ class Program {
   void OnCommand(int id, int notification);
 
   // The wheel was turned; `movement` is negative when it was turned towards the user. Report
-  // screens scroll one line, whatever the distance; other screens do nothing.
-  void OnMouseWheel(std::int32_t movement);
+  // screens scroll one line, whatever the distance; other screens do nothing and give false.
+  bool OnMouseWheel(std::int32_t movement);
 
   // The two steps of every repaint: all controls are hidden, then the current screen is painted and
   // shows its own. An unknown screen number paints and shows nothing.
@@ -56,6 +57,7 @@ class Program {
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
+  ReportScreen& reports() { return reports_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const SessionState& session() const { return session_; }
@@ -74,6 +76,7 @@ class Program {
   CounterScreen counter_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
+  ReportScreen reports_;
 };
 
 }  // namespace velnor

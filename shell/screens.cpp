@@ -26,6 +26,8 @@ constexpr int kEnergyControls[] = {181, 182};
 
 void UpdateRequirement(Program& program) { program.requirement().Update(); }
 
+void PaintReport(Program& program, Canvas& canvas) { program.reports().Paint(canvas); }
+
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     {0, 0, "TLO", {}, nullptr},                          // home
@@ -33,18 +35,18 @@ constexpr ScreenRow kScreens[] = {
     {2, 224, "WHR", kWhrControls, nullptr},              // WHR
     {3, 236, "POS", kOverviewControls,                   // products overview
      [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
-    {4, 210, "BCG", kReportControls, nullptr},           // weight report
-    {5, 214, "BCG", kReportControls, nullptr},           // WHR report
+    {4, 210, "BCG", kReportControls, PaintReport},       // weight report
+    {5, 214, "BCG", kReportControls, PaintReport},       // WHR report
     {6, 232, "ZAAP", kRequirementControls,               // daily requirement
      [](Program& program, Canvas& canvas) { program.requirement().Paint(canvas); },
      UpdateRequirement},
     {7, 231, "POS", kCounterControls,                    // nutrition counter
      [](Program& program, Canvas& canvas) { program.counter().Paint(canvas); },
      UpdateRequirement},
-    {8, 212, "BCG", kReportControls, nullptr},           // eaten calories report
-    {9, 213, "BCG", {}, nullptr},                        // recipes report
+    {8, 212, "BCG", kReportControls, PaintReport},       // eaten calories report
+    {9, 213, "BCG", kReportControls, PaintReport},       // recipes report
     {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories
-    {11, 215, "BCG", {}, nullptr},                       // burned calories report
+    {11, 215, "BCG", kReportControls, PaintReport},      // burned calories report
     {12, 233, "BILANS", kBalanceControls, nullptr},      // daily balance
     {13, 270, "BCG", {}, nullptr},                       // weight chart
     {14, 271, "BCG", {}, nullptr},                       // calorie chart

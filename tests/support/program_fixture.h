@@ -3,6 +3,7 @@
 #ifndef VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
 #define VELNOR_TESTS_SUPPORT_PROGRAM_FIXTURE_H_
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -23,7 +24,10 @@ class FakeMainWindow final : public MainWindow {
  public:
   void Invalidate() override { log.emplace_back("invalidate"); }
   void InvalidateWithoutErasing() override { log.emplace_back("invalidate without erasing"); }
-  void PaintNow() override { log.emplace_back("paint now"); }
+  void PaintNow() override {
+    log.emplace_back("paint now");
+    if (on_paint_now) on_paint_now();
+  }
   void Close() override { log.emplace_back("close"); }
   void EnableMenuItem(int command, bool enabled) override { menu[command] = enabled; }
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override {
@@ -36,6 +40,7 @@ class FakeMainWindow final : public MainWindow {
   }
 
   std::vector<std::string> log;
+  std::function<void()> on_paint_now;
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::unique_ptr<Dialog> opened;  // the last one
 };
@@ -54,6 +59,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   Answer Show(const Message& message) override {
     shown.push_back({std::string(message.text), std::string(message.caption), message.buttons,
                      message.icon, message.owner});
+    if (while_open) while_open();
     return message.buttons == MessageButtons::kOk ? Answer::kOk : answer;
   }
 
@@ -66,6 +72,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   }
 
   Answer answer = Answer::kYes;
+  std::function<void()> while_open;  // what happens before the answer
   std::vector<Shown> shown;
 };
 
