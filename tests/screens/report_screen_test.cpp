@@ -145,6 +145,13 @@ TEST_F(ReportScreenTest, ARepaintWithoutChangesKeepsThePlace) {
   Write("mirvo.ASC", Lines(101));
   Repaint();
   EXPECT_EQ(form_.FirstVisibleLine(119), 0);
+  std::string lf_only = Lines(100);
+  std::erase(lf_only, '\r');
+  Write("mirvo.ASC", lf_only);
+  Repaint();
+  form_.Press(155);
+  Repaint();
+  EXPECT_EQ(form_.FirstVisibleLine(119), 12);
 }
 
 TEST_F(ReportScreenTest, TheSixButtonsScroll) {
@@ -158,8 +165,10 @@ TEST_F(ReportScreenTest, TheSixButtonsScroll) {
   EXPECT_EQ(press(153), 5);
   EXPECT_EQ(press(155), 17);
   EXPECT_EQ(press(157), 47);
-  EXPECT_EQ(press(154), 42);
-  EXPECT_EQ(press(156), 30);
+  EXPECT_EQ(press(157), 77);
+  EXPECT_EQ(press(154), 72);
+  EXPECT_EQ(press(156), 60);
+  EXPECT_EQ(press(158), 30);
   EXPECT_EQ(press(158), 0);
   EXPECT_EQ(press(156), 0);
   EXPECT_TRUE(boxes_.shown.empty());

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -174,7 +175,33 @@ TEST_F(ReportFileTest, NothingIsCutWhenAnEarlierRestWouldBeLost) {
   EXPECT_EQ(Rest(), "earlier");
 }
 
+// Leads to a file of the system that can be opened but not read from its start; to rename a file to
+// `path` would still succeed.
+void MakeUnreadable(const std::string& path) {
+  std::filesystem::create_symlink("/proc/self/mem", path);
+  ASSERT_TRUE(FileExists(path));
+  ASSERT_EQ(ReadFileToRewrite(path, 1), std::nullopt);
+}
+
 TEST_F(ReportFileTest, WhatCannotBeReadIsNeitherSavedNorCleared) {
+  MakeUnreadable(path_);
+  EXPECT_EQ(LoadReport(path_), "");
+  EXPECT_FALSE(SaveReport(path_, "", "new"));
+  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_TRUE(std::filesystem::is_symlink(path_));
+  EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
+}
+
+TEST_F(ReportFileTest, NothingIsCutWhenAnEarlierRestCannotBeRead) {
+  const std::string bytes = ReportOf(30'001);
+  folder_.Write("waga.ASC", bytes);
+  MakeUnreadable(RestPath(path_));
+  EXPECT_FALSE(SaveAsShown());
+  EXPECT_EQ(File(), bytes);
+  EXPECT_TRUE(std::filesystem::is_symlink(RestPath(path_)));
+}
+
+TEST_F(ReportFileTest, AFolderIsNeitherSavedNorCleared) {
   std::filesystem::create_directory(path_);
   EXPECT_EQ(LoadReport(path_), "");
   EXPECT_FALSE(SaveReport(path_, "", "new"));
