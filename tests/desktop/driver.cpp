@@ -462,6 +462,14 @@ void ClickOn(HWND control) {
   SendInputs({press, release});
 }
 
+void TurnWheel(int distance) {
+  INPUT turn = {};
+  turn.type = INPUT_MOUSE;
+  turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+  turn.mi.mouseData = static_cast<DWORD>(distance);
+  SendInputs({turn});
+}
+
 void TypeKeys(std::string_view keys) {
   for (const char key : keys) {
     const SHORT code = VkKeyScanA(key);

@@ -135,6 +135,7 @@ bool WaitUntilGone(HWND window);
 
 // Real input events, which go to whatever window is in front, as from mouse and keyboard.
 void ClickOn(HWND control);
+void TurnWheel(int distance);          // negative: towards the person; goes where the focus is
 void TypeKeys(std::string_view keys);  // letters, digits and points
 void PressKey(WORD virtual_key, bool with_alt = false);
 
