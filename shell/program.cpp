@@ -5,6 +5,8 @@
 #include <memory>
 #include <utility>
 
+#include "activity/burned_record.h"
+#include "activity/burned_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/balance_file.h"
 #include "food/remove_product_dialog.h"
@@ -40,6 +42,10 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {161, kButtonClicked, [](Program& p) { p.burned().Count(); }},
+    {162, kButtonClicked, [](Program& p) { p.OpenBurnedRecord(); }},
+    {177, kButtonClicked, [](Program& p) { p.burned().Add(); }},
+    {179, kButtonClicked, [](Program& p) { p.burned().Clear(); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
 };
@@ -54,7 +60,9 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       message_boxes_(message_boxes),
       counter_(food_, form),
       overview_(food_, exchanges_, form),
-      requirement_(session_, profile_, form, window, message_boxes) {}
+      requirement_(session_, profile_, form, window, message_boxes),
+      burned_total_(session_),
+      burned_(burned_total_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -132,6 +140,13 @@ void Program::OpenRemoveProduct() {
 
 void Program::OpenSearch() {
   window_.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food_));
+}
+
+void Program::OpenBurnedRecord() {
+  window_.OpenDialog(kBurnedRecordResource,
+                     std::make_unique<BurnedRecordDialog>(session_.UserFile(kBurnedReportFile),
+                                                          burned_.RecordOf(session_.date_text),
+                                                          burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string>
 
+#include "activity/burned_calories.h"
+#include "activity/burned_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -53,9 +55,11 @@ class Program {
   void OpenAddProduct();
   void OpenRemoveProduct();
   void OpenSearch();
+  void OpenBurnedRecord();
   CounterScreen& counter() { return counter_; }
   OverviewScreen& overview() { return overview_; }
   RequirementScreen& requirement() { return requirement_; }
+  BurnedScreen& burned() { return burned_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const SessionState& session() const { return session_; }
@@ -74,6 +78,8 @@ class Program {
   CounterScreen counter_;
   OverviewScreen overview_;
   RequirementScreen requirement_;
+  BurnedTotal burned_total_;
+  BurnedScreen burned_;
 };
 
 }  // namespace velnor

@@ -43,7 +43,8 @@ constexpr ScreenRow kScreens[] = {
      UpdateRequirement},
     {8, 212, "BCG", kReportControls, nullptr},           // eaten calories report
     {9, 213, "BCG", {}, nullptr},                        // recipes report
-    {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories
+    {10, 238, "SPAL", kActivityControls,                 // burn fat and calories
+     [](Program& program, Canvas& canvas) { program.burned().Paint(canvas); }},
     {11, 215, "BCG", {}, nullptr},                       // burned calories report
     {12, 233, "BILANS", kBalanceControls, nullptr},      // daily balance
     {13, 270, "BCG", {}, nullptr},                       // weight chart
