@@ -43,6 +43,7 @@ class Tour {
 
     WalkProductDialogs();
     WalkUserDialogs();
+    WalkActivities();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -132,14 +133,33 @@ class Tour {
     Take("requirement-athlete");
   }
 
+  void WalkActivities() const {
+    app_.main().Command(238);
+    Take("activities");
+    app_.main().Choose(159, "running fast ~1km/3,40 min");
+    app_.main().SetText(160, "12.34");
+    app_.main().Command(161);
+    Take("activities-counted");
+    app_.main().Command(177);
+    Take("activities-added");
+    app_.main().Command(162);
+    const Window record = app_.WaitForPopup();
+    record.SetText(745, "in the park");
+    TakeWindow(record, "burned-record");
+    record.Command(IDOK);
+    app_.main().PostCommand(179);
+    const MessageBoxSeen cleared = app_.WaitForMessageBox();
+    TakeWindow(Window(cleared.handle), "balance-cleared");
+    Answer(cleared, IDOK);
+  }
+
   struct ScreenName {
     int command;
     const char* name;
   };
   static constexpr ScreenName kOtherScreens[] = {
-      {221, "bmi"},       {224, "whr"},          {210, "weight-report"}, {238, "activities"},
-      {233, "balance"},   {270, "weight-chart"}, {225, "bmr"},           {239, "energy-balance"},
-      {252, "exchanges"},
+      {221, "bmi"},          {224, "whr"}, {210, "weight-report"},  {233, "balance"},
+      {270, "weight-chart"}, {225, "bmr"}, {239, "energy-balance"}, {252, "exchanges"},
   };
 
   void Take(const std::string& name) const { TakeWindow(app_.main(), name); }
