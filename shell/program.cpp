@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "activity/burned_record.h"
+#include "activity/burned_record_dialog.h"
 #include "body/weight_record_dialog.h"
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
@@ -44,6 +46,11 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {161, kButtonClicked, [](Program& p) { p.burned().Count(); }},
+    {162, kButtonClicked, [](Program& p) { p.OpenBurnedRecord(); }},
+    {177, kButtonClicked, [](Program& p) { p.burned().Add(); }},
+    {179, kButtonClicked, [](Program& p) { p.burned().Clear(); }},
+    {182, kButtonClicked, [](Program& p) { p.energy().Count(); }},
     {127, kButtonClicked, [](Program& p) { p.food_list().Add(p.counter().chosen_name()); }},
     {136, kButtonClicked, [](Program& p) { p.food_list().Remove(); }},
     {146, kButtonClicked, [](Program& p) { p.food_list().ClearList(); }},
@@ -80,7 +87,10 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       bmi_(profile_, weight_, form, window),
       whr_(profile_, form, window),
       bmr_(profile_, weight_, form, window),
-      reports_(session_, form, window, message_boxes) {}
+      reports_(session_, form, window, message_boxes),
+      burned_total_(session_),
+      burned_(burned_total_, form, window, message_boxes),
+      energy_(day_, burned_total_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -190,6 +200,13 @@ void Program::OpenWeightRecord() {
 void Program::OpenWhrRecord() {
   window_.OpenDialog(kWhrRecordResource,
                      std::make_unique<WhrRecordDialog>(session_, whr_.result()));
+}
+
+void Program::OpenBurnedRecord() {
+  window_.OpenDialog(kBurnedRecordResource,
+                     std::make_unique<BurnedRecordDialog>(session_.UserFile(kBurnedReportFile),
+                                                          burned_.RecordOf(session_.date_text),
+                                                          burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {

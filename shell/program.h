@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <string>
 
+#include "activity/burned_calories.h"
+#include "activity/burned_screen.h"
+#include "activity/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -69,6 +72,7 @@ class Program {
   void ClearDay();
   void OpenWeightRecord();
   void OpenWhrRecord();
+  void OpenBurnedRecord();
   CounterScreen& counter() { return counter_; }
   FoodListPanel& food_list() { return food_list_; }
   OverviewScreen& overview() { return overview_; }
@@ -78,6 +82,8 @@ class Program {
   WhrScreen& whr() { return whr_; }
   BmrScreen& bmr() { return bmr_; }
   ReportScreen& reports() { return reports_; }
+  BurnedScreen& burned() { return burned_; }
+  EnergyScreen& energy() { return energy_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const DayBalance& day() const { return day_; }
@@ -106,6 +112,9 @@ class Program {
   WhrScreen whr_;
   BmrScreen bmr_;
   ReportScreen reports_;
+  BurnedTotal burned_total_;
+  BurnedScreen burned_;
+  EnergyScreen energy_;
 };
 
 }  // namespace velnor

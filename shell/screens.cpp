@@ -54,7 +54,8 @@ constexpr ScreenRow kScreens[] = {
      UpdateRequirement},
     {8, 212, "BCG", kReportControls, PaintReport},       // eaten calories report
     {9, 213, "BCG", kReportControls, PaintReport},       // recipes report
-    {10, 238, "SPAL", kActivityControls, nullptr},       // burn fat and calories
+    {10, 238, "SPAL", kActivityControls,                 // burn fat and calories
+     [](Program& program, Canvas& canvas) { program.burned().Paint(canvas); }},
     {11, 215, "BCG", kReportControls, PaintReport},      // burned calories report
     {12, 233, "BILANS", kBalanceControls,                // daily balance
      [](Program& program, Canvas& canvas) {
@@ -68,7 +69,8 @@ constexpr ScreenRow kScreens[] = {
     {17, 274, "BCG", {}, PaintChart<ChartId::kCarbohydrates>, UpdateRequirement},
     {18, 225, "SPAL", kBmrControls,                      // BMR
      [](Program& program, Canvas& canvas) { program.bmr().Paint(canvas); }},
-    {19, 239, "SPAL", kEnergyControls, nullptr},         // energy balance
+    {19, 239, "SPAL", kEnergyControls,                   // energy balance
+     [](Program& program, Canvas& canvas) { program.energy().Paint(canvas); }},
     {20, 252, "POS", {},                                 // weight exchanges
      [](Program&, Canvas& canvas) { PaintWeightExchanges(canvas); }},
 };

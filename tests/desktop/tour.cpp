@@ -46,6 +46,7 @@ class Tour {
     WalkUserDialogs();
     WalkDay();
     WalkBodyScreens();
+    WalkActivities();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -242,6 +243,26 @@ class Tour {
     const MessageBoxSeen clear = app_.WaitForMessageBox();
     TakeWindow(app_.main(), "report-clear");
     Answer(clear, IDNO);
+  }
+
+  void WalkActivities() const {
+    app_.main().Command(238);
+    Take("activities");
+    app_.main().Choose(159, "running fast ~1km/3,40 min");
+    app_.main().SetText(160, "12.34");
+    app_.main().Command(161);
+    Take("activities-counted");
+    app_.main().Command(177);
+    Take("activities-added");
+    app_.main().Command(162);
+    const Window record = app_.WaitForPopup();
+    record.SetText(745, "in the park");
+    TakeWindow(record, "burned-record");
+    record.Command(IDOK);
+    app_.main().PostCommand(179);
+    const MessageBoxSeen cleared = app_.WaitForMessageBox();
+    TakeWindow(Window(cleared.handle), "balance-cleared");
+    Answer(cleared, IDOK);
   }
 
   struct ScreenName {
