@@ -216,7 +216,7 @@ TEST_F(BurnedTotalTest, TakingAnEntryBackLeavesNothing) {
     EXPECT_EQ(total_.kcal(), 0) << burned;
   }
   EXPECT_EQ(total_.Add("0.0001"), "0.") << "9.99999974737875e-05 could not be read again";
-  EXPECT_EQ(total_.Add("0.00011"), "0.000109999999403954");
+  EXPECT_EQ(total_.Add("0.00011"), "0.000110000000859145");
 }
 
 TEST_F(BurnedTotalTest, IsRoundedOnceOnly) {
