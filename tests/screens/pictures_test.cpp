@@ -1,8 +1,6 @@
 // The pictures: their form, the flat surfaces the screens put texts and lines on, and how far the
 // colours of those stand apart from the surface.
 
-#include <algorithm>
-#include <cctype>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -19,27 +17,19 @@ std::string Text(Colour colour) {
          std::to_string(colour.blue);
 }
 
-std::string FileOf(std::string_view resource) {
-  std::string file(resource);
-  std::ranges::transform(file, file.begin(), [](unsigned char letter) {
-    return static_cast<char>(std::tolower(letter));
-  });
-  return file + ".bmp";
-}
-
 TEST(PicturesTest, EveryBackgroundIsAPictureOfItsOwn) {
   const std::string script = ReadResource("velnor.rc");
   std::set<std::string> contents;
   for (const std::string resource : BackgroundNames()) {
     SCOPED_TRACE(resource);
-    const Picture picture(FileOf(resource));
+    const Picture picture(PictureFile(resource));
     EXPECT_EQ(picture.width(), 800);
     EXPECT_EQ(picture.height(), 550);
     const std::size_t row = script.find('\n' + resource + ' ');
     ASSERT_NE(row, std::string::npos);
     const std::string line = script.substr(row + 1, script.find('\n', row + 1) - row - 1);
-    EXPECT_TRUE(line.ends_with("BITMAP \"" + FileOf(resource) + '"')) << line;
-    contents.insert(ReadResource(FileOf(resource)));
+    EXPECT_TRUE(line.ends_with("BITMAP \"" + PictureFile(resource) + '"')) << line;
+    contents.insert(ReadResource(PictureFile(resource)));
   }
   EXPECT_EQ(contents.size(), BackgroundNames().size());
 }
@@ -65,12 +55,14 @@ struct Place {
 };
 
 constexpr Place kPlaces[] = {
-    {"BCG", {5, 26}, {695, 90}, "paper"},       // titles, notes
-    {"BCG", {16, 94}, {779, 478}, "slate"},     // axes, labels, lines of a chart
-    {"BMI2", {5, 28}, {318, 262}, "paper"},     // entries
-    {"BMI2", {6, 276}, {370, 332}, "paper"},    // value, age note
-    {"BMI2", {340, 44}, {792, 230}, "haze"},    // verdict
-    {"BMI2", {28, 412}, {792, 456}, "haze"},    // scale, marker
+    {"BCG", {5, 26}, {695, 90}, "paper"},      // titles, notes
+    {"BCG", {16, 94}, {779, 478}, "slate"},    // axes, labels, lines of a chart
+    {"BMI2", {5, 28}, {318, 262}, "paper"},    // entries
+    {"BMI2", {6, 276}, {370, 332}, "paper"},   // value, age note
+    {"BMI2", {340, 44}, {792, 230}, "haze"},   // verdict
+    {"BMI2", {28, 412}, {620, 456}, "haze"},   // scale, marker
+    {"BMI2", {621, 442}, {792, 456}, "haze"},  // right of it the axis alone, the word above
+    {"BMI2", {628, 413}, {786, 440}, "card"},
     {"BMI2", {190, 457}, {670, 482}, "haze"},   // names of the ranges
     {"BMI2", {133, 459}, {184, 474}, "paper"},  // red words of the scale
     {"BMI2", {678, 459}, {729, 474}, "paper"},
@@ -90,16 +82,20 @@ constexpr Place kPlaces[] = {
     {"SPAL", {5, 27}, {695, 55}, "paper"},
     {"SPAL", {8, 63}, {690, 542}, "mist"},
     {"SPAL", {691, 205}, {799, 542}, "mist"},
-    {"BILANS", {6, 27}, {280, 48}, "paper"},
+    {"BILANS", {6, 21}, {280, 48}, "paper"},
     {"BILANS", {295, 22}, {790, 48}, "pine"},
     {"BILANS", {116, 63}, {790, 176}, "card"},
     {"BILANS", {116, 189}, {790, 302}, "card"},
     {"BILANS", {116, 315}, {790, 428}, "card"},
     {"BILANS", {116, 441}, {790, 543}, "card"},
-    {"BILANS", {61, 68}, {110, 86}, "pine"},
-    {"BILANS", {61, 198}, {110, 216}, "pine"},
-    {"BILANS", {61, 328}, {110, 346}, "pine"},
-    {"BILANS", {61, 456}, {110, 474}, "pine"},
+    {"BILANS", {6, 86}, {55, 117}, "card"},  // the mark of nothing eaten
+    {"BILANS", {6, 216}, {55, 242}, "card"},
+    {"BILANS", {6, 346}, {55, 374}, "card"},
+    {"BILANS", {6, 476}, {55, 502}, "card"},
+    {"BILANS", {61, 68}, {110, 84}, "pine"},
+    {"BILANS", {61, 198}, {110, 214}, "pine"},
+    {"BILANS", {61, 328}, {110, 344}, "pine"},
+    {"BILANS", {61, 456}, {110, 472}, "pine"},
 };
 
 void ExpectFlat(const Picture& picture, Point from, Point to, Colour colour) {
@@ -114,7 +110,7 @@ TEST(PicturesTest, TextsAndLinesFallOnFlatSurfaces) {
   for (const Place& place : kPlaces) {
     SCOPED_TRACE(place.resource + std::string(" from ") + std::to_string(place.from.x) + ' ' +
                  std::to_string(place.from.y));
-    const Picture picture(FileOf(place.resource));
+    const Picture picture(PictureFile(place.resource));
     ASSERT_GT(picture.width(), place.to.x);
     ASSERT_GT(picture.height(), place.to.y);
     ExpectFlat(picture, place.from, place.to, PaletteColour(place.surface));
@@ -124,7 +120,7 @@ TEST(PicturesTest, TextsAndLinesFallOnFlatSurfaces) {
 TEST(PicturesTest, TheHeaderIsTheSameOnAll) {
   for (const std::string resource : BackgroundNames()) {
     SCOPED_TRACE(resource);
-    const Picture picture(FileOf(resource));
+    const Picture picture(PictureFile(resource));
     ASSERT_EQ(picture.width(), 800);
     ExpectFlat(picture, {0, 0}, {799, 20}, PaletteColour("band"));
   }
@@ -152,6 +148,7 @@ constexpr Demand kDemands[] = {
     {"paper", {0, 0, 165}, 3.0},
     {"card", kBlack, 7.0},
     {"card", kRed, 3.0},
+    {"card", {200, 0, 0}, 3.0},
     {"card", kLeafGreen, 1.6},
     {"card", kOrange, 1.5},
     {"card", kLightGrey, 1.5},
@@ -167,7 +164,6 @@ constexpr Demand kDemands[] = {
     {"haze", kRed, 1.6},
     {"haze", kGreen, 1.6},
     {"haze", kBrown, 1.6},
-    {"haze", {200, 0, 0}, 1.6},
     {"haze", kLightGrey, 1.5},
     {"haze", kAxisGrey, 1.5},
     {"mist", kBlack, 7.0},
@@ -189,6 +185,14 @@ TEST(PicturesTest, ContrastIsMeasuredFromBlackToWhite) {
   EXPECT_NEAR(Contrast(kWhite, kBlack), 21.0, 1e-9);
   EXPECT_NEAR(Contrast(kRed, kRed), 1.0, 1e-9);
   EXPECT_NEAR(Contrast(kWhite, {118, 118, 118}), 4.54, 0.005);  // the lightest grey above 4.5
+}
+
+TEST(PicturesTest, DifferenceCountsLightnessAndHue) {
+  EXPECT_NEAR(ColourDifference(kBlack, kWhite), 100.0, 0.05);
+  EXPECT_NEAR(ColourDifference(kRed, kRed), 0.0, 1e-9);
+  // Red is L* 53.24, a* 80.09, b* 67.20; this green L* 87.73, a* -86.18, b* 83.18.
+  EXPECT_NEAR(ColourDifference(kRed, kGreen), 170.6, 0.1);
+  EXPECT_NEAR(ColourDifference(kBlack, kRed), 117.3, 0.1);
 }
 
 }  // namespace

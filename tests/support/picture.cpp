@@ -1,6 +1,7 @@
 #include "tests/support/picture.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -28,6 +29,28 @@ double Linear(std::uint8_t channel) {
   return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
+struct Lab {
+  double lightness, a, b;
+};
+
+// Of a part 0 to 1 of the reference white.
+double LabCurve(double part) {
+  constexpr double kBreak = 6.0 / 29.0;
+  return part > kBreak * kBreak * kBreak ? std::cbrt(part)
+                                         : part / (3 * kBreak * kBreak) + 4.0 / 29.0;
+}
+
+Lab LabOf(Colour colour) {
+  const double red = Linear(colour.red);
+  const double green = Linear(colour.green);
+  const double blue = Linear(colour.blue);
+  // The matrix of sRGB, each row divided by its white.
+  const double x = LabCurve((0.4124 * red + 0.3576 * green + 0.1805 * blue) / 0.9505);
+  const double y = LabCurve(0.2126 * red + 0.7152 * green + 0.0722 * blue);
+  const double z = LabCurve((0.0193 * red + 0.1192 * green + 0.9505 * blue) / 1.0890);
+  return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
+}
+
 double Luminance(Colour colour) {
   return 0.2126 * Linear(colour.red) + 0.7152 * Linear(colour.green) + 0.0722 * Linear(colour.blue);
 }
@@ -35,6 +58,14 @@ double Luminance(Colour colour) {
 std::size_t RowSize(int width) { return (static_cast<std::size_t>(width) + 3) / 4 * 4; }
 
 }  // namespace
+
+std::string PictureFile(std::string_view resource) {
+  std::string file(resource);
+  std::ranges::transform(file, file.begin(), [](unsigned char letter) {
+    return static_cast<char>(std::tolower(letter));
+  });
+  return file + ".bmp";
+}
 
 std::string ReadResource(const std::string& file) {
   return ReadFile(std::string(VELNOR_RESOURCES) + '/' + file, kLimit);
@@ -85,6 +116,12 @@ Colour PaletteColour(std::string_view name) {
   const auto value = std::stoul(palette.substr(fill + kFill.size(), 6), nullptr, 16);
   return {static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8 & 0xFF),
           static_cast<std::uint8_t>(value & 0xFF)};
+}
+
+double ColourDifference(Colour one, Colour other) {
+  const Lab here = LabOf(one);
+  const Lab there = LabOf(other);
+  return std::hypot(here.lightness - there.lightness, here.a - there.a, here.b - there.b);
 }
 
 double Contrast(Colour one, Colour other) {

@@ -33,6 +33,9 @@ class Picture {
   std::string rows_;  // from the lowest up, each padded to four bytes
 };
 
+// The file of a background, by its resource name.
+std::string PictureFile(std::string_view resource);
+
 // The text of a file of the resource folder; a missing one gives nothing.
 std::string ReadResource(const std::string& file);
 
@@ -41,6 +44,10 @@ Colour PaletteColour(std::string_view name);
 
 // How far two colours stand apart, 1 to 21: the contrast ratio of WCAG 2, from relative luminances.
 double Contrast(Colour one, Colour other);
+
+// How far two colours are apart to the eye, hue and all: the distance in CIE L*a*b* (1976, daylight
+// D65). Black and white are 100 apart; from 2 or 3 on neighbours can be told.
+double ColourDifference(Colour one, Colour other);
 
 }  // namespace velnor
 
