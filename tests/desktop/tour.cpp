@@ -46,7 +46,11 @@ class Tour {
     WalkUserDialogs();
     WalkDay();
     WalkBodyScreens();
+    WalkReports();
     WalkActivities();
+    WalkEnergy();
+    WalkOtherSex();
+    WalkLimits();
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -223,7 +227,6 @@ class Tour {
     const Window dialog = app_.WaitForPopup();
     TakeWindow(dialog, name);
     dialog.Command(IDCANCEL);
-    WalkReports();
   }
 
   void WalkReports() const {
@@ -263,6 +266,43 @@ class Tour {
     const MessageBoxSeen cleared = app_.WaitForMessageBox();
     TakeWindow(Window(cleared.handle), "balance-cleared");
     Answer(cleared, IDOK);
+  }
+
+  void WalkEnergy() const {
+    folder_.Write("Zoe\\bilans.ASC", Today() + "\r\n2150\r\n70\r\n75\r\n320");
+    for (const auto& [bmr, name] :
+         {std::pair{"1439", "energy-balance-counted"}, {"9000", "energy-balance-out-of-scale"}}) {
+      app_.main().Command(239);
+      app_.main().SetText(181, bmr);
+      app_.main().Command(182);
+      Take(name);
+    }
+  }
+
+  // Only a man's scale is shown beyond its end.
+  void WalkOtherSex() const {
+    app_.main().Command(204);
+    const Window profile = app_.WaitForPopup();
+    profile.Choose(706, "men");
+    profile.Choose(708, "none");
+    profile.Command(IDOK);
+    app_.main().Command(221);
+    app_.main().SetText(101, "180");
+    app_.main().Command(102);
+    Take("bmi-out-of-scale");
+    app_.main().Command(224);
+    app_.main().Command(106);
+    Take("whr-norm");
+  }
+
+  void WalkLimits() const {
+    folder_.Write("Zoe\\zapot.ASC", "1\r\n2000\r\n2500\r\n60\r\n80\r\n50\r\n70\r\n200\r\n300\r\n");
+    app_.main().Command(200);
+    const Window login = app_.WaitForPopup();
+    login.Choose(700, "Zoe");
+    login.Command(IDOK);
+    app_.main().Command(232);
+    Take("requirement-limits");
   }
 
   struct ScreenName {
