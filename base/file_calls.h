@@ -4,7 +4,6 @@
 #ifndef VELNOR_BASE_FILE_CALLS_H_
 #define VELNOR_BASE_FILE_CALLS_H_
 
-#include <cstdint>
 #include <cstdio>
 #include <string>
 
@@ -16,9 +15,6 @@ bool FlushToDisk(std::FILE* file);
 // Gives the file `from` the name `to`; a file that had that name is replaced in one step. False,
 // with both as they were, when the system could not.
 bool ReplaceByRename(const std::string& from, const std::string& to);
-
-// Cuts the open `file` back to `size` bytes. False when the system could not.
-bool CutBack(std::FILE* file, std::int64_t size);
 
 // Makes or removes one folder; only an empty one is removed. False when the system could not.
 bool MakeFolder(const std::string& path);

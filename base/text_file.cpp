@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "base/file_calls.h"
 
 namespace velnor {
 namespace {
+
+constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 struct Closer {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -26,6 +30,14 @@ bool Write(std::FILE* file, std::string_view bytes) {
 
 // Closing reports what the system could not write until then.
 bool Close(File file) { return std::fclose(file.release()) == 0; }
+
+bool WriteTemporary(const std::string& path, std::string_view bytes) {
+  File file = Open(TemporaryPath(path), "wb");
+  if (!file) return false;
+  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
+  const bool closed = Close(std::move(file));
+  return written && closed;
+}
 
 }  // namespace
 
@@ -52,29 +64,43 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
 }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
-  const std::string bytes = WithCrLf(text);
-  File file = Open(path, "ab");
-  if (!file) return false;
-  if (bytes.empty()) return true;
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);  // the text goes to the system whole
-  if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
-  const std::int64_t size = std::ftell(file.get());
-  if (size < 0) return false;
-  if (Write(file.get(), bytes) && FlushToDisk(file.get())) return Close(std::move(file));
-  CutBack(file.get(), size);
-  return false;
+  if (text.empty()) return Open(path, "ab") != nullptr;
+  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  return old && ReplaceFile(path, *old + WithCrLf(text));
 }
 
 std::string TemporaryPath(const std::string& path) { return path + ".new"; }
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
-  const std::string temporary = TemporaryPath(path);
-  File file = Open(temporary, "wb");
-  if (!file) return false;
-  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
-  const bool closed = Close(std::move(file));
-  if (written && closed && ReplaceByRename(temporary, path)) return true;
-  std::remove(temporary.c_str());
+  if (WriteTemporary(path, bytes) && ReplaceByRename(TemporaryPath(path), path)) return true;
+  std::remove(TemporaryPath(path).c_str());
+  return false;
+}
+
+bool ReplaceFiles(std::span<const FileBytes> files) {
+  std::vector<FileBytes> old;
+  for (const auto& [path, bytes] : files) {
+    const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+    if (!text) return false;
+    old.push_back({path, *text});
+  }
+  // What needs space comes first, while nothing has been replaced.
+  bool written = std::ranges::all_of(
+      files, [](const FileBytes& file) { return WriteTemporary(file.path, file.bytes); });
+  std::size_t replaced = 0;
+  while (written && replaced < files.size()) {
+    const std::string& path = files[replaced].path;
+    written = ReplaceByRename(TemporaryPath(path), path);
+    if (written) ++replaced;
+  }
+  if (written) return true;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (i < replaced) {
+      ReplaceFile(old[i].path, old[i].bytes);
+    } else {
+      std::remove(TemporaryPath(files[i].path).c_str());
+    }
+  }
   return false;
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,15 +19,25 @@ std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_
 // The same for who only reads: what cannot be read gives empty text too.
 std::string ReadFile(const std::string& path, std::size_t limit);
 
-// Adds `text` to the end of the file, which is made when it is missing, for an empty text too. Every line end of the text
-// goes to disk as CR LF. The text is written in one call; when that fails, the file is cut back to
-// what it was. False when the file is not longer by all of the text.
+// Adds `text` to the end of the file, which is made when it is missing, for an empty text too.
+// Every line end of the text goes to disk as CR LF. The file is replaced by a longer one, so that
+// no crash leaves half a record. False when the file is not longer by all of the text.
 bool AppendToFile(const std::string& path, std::string_view text);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. False when
 // the old ones remain.
 bool ReplaceFile(const std::string& path, std::string_view bytes);
+
+struct FileBytes {
+  std::string path;
+  std::string bytes;
+};
+
+// Does the same with several files that belong together: when one of them cannot be written, all
+// keep their old bytes, though a missing file may have become an empty one. A crash may still come
+// between two files. False when the old bytes remain.
+bool ReplaceFiles(std::span<const FileBytes> files);
 
 // What ReplaceFile calls the file that it writes beside `path`.
 std::string TemporaryPath(const std::string& path);

@@ -11,8 +11,6 @@ bool ReplaceByRename(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-bool CutBack(std::FILE* file, std::int64_t size) { return ftruncate(fileno(file), size) == 0; }
-
 bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0; }
 
 bool RemoveFolder(const std::string& path) { return rmdir(path.c_str()) == 0; }

@@ -13,8 +13,6 @@ bool ReplaceByRename(const std::string& from, const std::string& to) {
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-bool CutBack(std::FILE* file, std::int64_t size) { return _chsize_s(_fileno(file), size) == 0; }
-
 bool MakeFolder(const std::string& path) { return CreateDirectoryA(path.c_str(), nullptr) != 0; }
 
 bool RemoveFolder(const std::string& path) { return RemoveDirectoryA(path.c_str()) != 0; }
