@@ -1,6 +1,7 @@
 #include "food/day_balance.h"
 
 #include <array>
+#include <vector>
 
 #include "base/number_text.h"
 #include "base/text_file.h"
@@ -48,11 +49,6 @@ std::optional<double> ReadExchange(const std::string& path) {
   return ParseNumber(LineReader(*text, kExchangeLimit).Next().value_or(""));
 }
 
-bool ChangeExchange(const std::string& path, double change) {
-  const std::optional<double> before = ReadExchange(path);
-  return before && ReplaceFile(path, Stored(Total(*before, change)));
-}
-
 bool EmptyFile(const std::string& path) {
   const std::optional<std::string> text = ReadFileToRewrite(path, 1);
   return text && (text->empty() || ReplaceFile(path, ""));
@@ -92,27 +88,31 @@ DayExchanges DayBalance::ReadExchanges() const {
           ReadExchange(session_.UserFile(kProteinFatExchangeFile)).value_or(0)};
 }
 
-bool DayBalance::ChangeTotals(const DayTotals& change) const {
+bool DayBalance::Change(const DayTotals& totals,
+                        const std::optional<DayExchanges>& exchanges) const {
   const std::optional<DayTotals> before = ReadTotals();
   if (!before) return false;
-  const DayTotals totals = {Total(before->kcal, change.kcal),
-                            Total(before->protein, change.protein), Total(before->fat, change.fat),
-                            Total(before->carbohydrate, change.carbohydrate)};
-  const std::string text = session_.date_text + '\n' + Stored(totals.kcal) + '\n' +
-                           Stored(totals.protein) + '\n' + Stored(totals.fat) + '\n' +
-                           Stored(totals.carbohydrate);
-  if (!ReplaceFile(BalancePath(), WithCrLf(text))) return false;
-  UpdateSeries(totals);
+  const DayTotals after = {Total(before->kcal, totals.kcal), Total(before->protein, totals.protein),
+                           Total(before->fat, totals.fat),
+                           Total(before->carbohydrate, totals.carbohydrate)};
+  const std::string text = session_.date_text + '\n' + Stored(after.kcal) + '\n' +
+                           Stored(after.protein) + '\n' + Stored(after.fat) + '\n' +
+                           Stored(after.carbohydrate);
+  // One after the other and not together, a failure would leave the day half changed, and a person
+  // who tries again would count the other half twice.
+  std::vector<FileBytes> files = {{BalancePath(), WithCrLf(text)}};
+  if (exchanges) {
+    const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
+    for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
+      const std::string path = session_.UserFile(kExchangeFiles[i]);
+      const std::optional<double> exchange = ReadExchange(path);
+      if (!exchange) return false;
+      files.push_back({path, Stored(Total(*exchange, changes[i]))});
+    }
+  }
+  if (!ReplaceFiles(files)) return false;
+  UpdateSeries(after);
   return true;
-}
-
-bool DayBalance::ChangeExchanges(const DayExchanges& change) const {
-  if (!StartDayIfNew()) return false;
-  const bool carbohydrate =
-      ChangeExchange(session_.UserFile(kCarbohydrateExchangeFile), change.carbohydrate);
-  const bool protein_fat =
-      ChangeExchange(session_.UserFile(kProteinFatExchangeFile), change.protein_fat);
-  return carbohydrate && protein_fat;
 }
 
 bool DayBalance::Clear() const {
