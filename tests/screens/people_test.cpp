@@ -449,6 +449,30 @@ TEST_F(PeopleTest, AContradictionIsPointedOutAndSavedWithoutIt) {
   }
 }
 
+// A link to itself can be replaced but not read, as a file that somebody has locked for a moment.
+TEST_F(PeopleTest, AProfileThatCannotBeReadIsNotOverwritten) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  const std::string path = folder_.path() + "Ann/info.ASC";
+  std::filesystem::remove(path);
+  std::filesystem::create_symlink(path, path);
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), "");
+  std::filesystem::remove(path);
+  folder_.Write("Ann/info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  boxes_.TakeTexts();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(),
+            (Texts{"Your profile could not be read.\nClose this window and open it again."}));
+  EXPECT_EQ(profile_.Log(), Texts{});
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), "35");
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
+}
+
 TEST_F(PeopleTest, OnlyAPressOfOkSavesAndCancelDoesNot) {
   Start();
   Register("Ann");
