@@ -32,6 +32,8 @@ bool Write(std::FILE* file, std::string_view bytes) {
 bool Close(File file) { return std::fclose(file.release()) == 0; }
 
 bool WriteTemporary(const std::string& path, std::string_view bytes) {
+  // To take the place of a file, a system asks the folder's leave and not always the file's.
+  if (IsWriteProtected(path)) return false;
   File file = Open(TemporaryPath(path), "wb");
   if (!file) return false;
   const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
@@ -62,6 +64,8 @@ std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_
 std::string ReadFile(const std::string& path, std::size_t limit) {
   return ReadFileToRewrite(path, limit).value_or("");
 }
+
+bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
   if (text.empty()) return Open(path, "ab") != nullptr;

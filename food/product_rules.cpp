@@ -4,7 +4,7 @@
 #include <iterator>
 #include <span>
 
-#include "food/loose_match.h"
+#include "base/loose_match.h"
 
 namespace velnor {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "base/text_file.h"
-#include "food/loose_match.h"
+#include "base/loose_match.h"
 
 namespace velnor {
 namespace {

@@ -1,11 +1,12 @@
 #include "shell/program.h"
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <utility>
 
+#include "activity/burned_record.h"
+#include "activity/burned_record_dialog.h"
 #include "body/weight_record_dialog.h"
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
@@ -24,9 +25,6 @@
 
 namespace velnor {
 namespace {
-
-constexpr int kReportEdit = 119;
-constexpr ScreenId kReportScreens[] = {4, 5, 8, 9, 11};
 
 struct ControlEvent {
   int id;
@@ -48,12 +46,25 @@ constexpr ControlEvent kControlEvents[] = {
     {126, kSelectionChanged, [](Program& p) { p.counter().OnProductChosen(); }},
     {149, kButtonClicked, [](Program& p) { p.OpenSearch(); }},
     {128, kEditUpdated, [](Program& p) { p.counter().OnWeightChanged(); }},
+    {161, kButtonClicked, [](Program& p) { p.burned().Count(); }},
+    {162, kButtonClicked, [](Program& p) { p.OpenBurnedRecord(); }},
+    {177, kButtonClicked, [](Program& p) { p.burned().Add(); }},
+    {179, kButtonClicked, [](Program& p) { p.burned().Clear(); }},
+    {182, kButtonClicked, [](Program& p) { p.energy().Count(); }},
     {127, kButtonClicked, [](Program& p) { p.food_list().Add(p.counter().chosen_name()); }},
     {136, kButtonClicked, [](Program& p) { p.food_list().Remove(); }},
     {146, kButtonClicked, [](Program& p) { p.food_list().ClearList(); }},
     {145, kButtonClicked, [](Program& p) { p.OpenCalorieRecord(); }},
     {147, kButtonClicked, [](Program& p) { p.OpenRecipeRecord(); }},
     {165, kButtonClicked, [](Program& p) { p.ClearDay(); }},
+    {151, kButtonClicked, [](Program& p) { p.reports().Clear(); }},
+    {152, kButtonClicked, [](Program& p) { p.reports().Save(); }},
+    {153, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 5); }},
+    {154, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 5); }},
+    {155, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 12); }},
+    {156, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 12); }},
+    {157, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageDown, 1); }},
+    {158, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageUp, 1); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
     {176, kButtonClicked, [](Program& p) { p.bmr().Count(); }},
@@ -75,7 +86,11 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       charts_(session_),
       bmi_(profile_, weight_, form, window),
       whr_(profile_, form, window),
-      bmr_(profile_, weight_, form, window) {}
+      bmr_(profile_, weight_, form, window),
+      reports_(session_, form, window, message_boxes),
+      burned_total_(session_),
+      burned_(burned_total_, form, window, message_boxes),
+      energy_(day_, burned_total_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -89,10 +104,7 @@ void Program::OnCommand(int id, int notification) {
   }
 }
 
-void Program::OnMouseWheel(std::int32_t movement) {
-  if (std::ranges::find(kReportScreens, session_.screen) == std::end(kReportScreens)) return;
-  form_.ScrollLine(kReportEdit, movement < 0);
-}
+bool Program::OnMouseWheel(std::int32_t movement) { return reports_.OnMouseWheel(movement < 0); }
 
 void Program::HideControls() { form_.HideAll(); }
 
@@ -188,6 +200,13 @@ void Program::OpenWeightRecord() {
 void Program::OpenWhrRecord() {
   window_.OpenDialog(kWhrRecordResource,
                      std::make_unique<WhrRecordDialog>(session_, whr_.result()));
+}
+
+void Program::OpenBurnedRecord() {
+  window_.OpenDialog(kBurnedRecordResource,
+                     std::make_unique<BurnedRecordDialog>(session_.UserFile(kBurnedReportFile),
+                                                          burned_.RecordOf(session_.date_text),
+                                                          burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {

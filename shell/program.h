@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <string>
 
+#include "activity/burned_calories.h"
+#include "activity/burned_screen.h"
+#include "activity/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -24,6 +27,7 @@
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
+#include "reports/report_screen.h"
 #include "users/profile.h"
 
 namespace velnor {
@@ -43,8 +47,8 @@ class Program {
   void OnCommand(int id, int notification);
 
   // The wheel was turned; `movement` is negative when it was turned towards the user. Report
-  // screens scroll one line, whatever the distance; other screens do nothing.
-  void OnMouseWheel(std::int32_t movement);
+  // screens scroll one line, whatever the distance; other screens do nothing and give false.
+  bool OnMouseWheel(std::int32_t movement);
 
   // The two steps of every repaint: all controls are hidden, then the current screen is painted and
   // shows its own. An unknown screen number paints and shows nothing.
@@ -68,6 +72,7 @@ class Program {
   void ClearDay();
   void OpenWeightRecord();
   void OpenWhrRecord();
+  void OpenBurnedRecord();
   CounterScreen& counter() { return counter_; }
   FoodListPanel& food_list() { return food_list_; }
   OverviewScreen& overview() { return overview_; }
@@ -76,6 +81,9 @@ class Program {
   BmiScreen& bmi() { return bmi_; }
   WhrScreen& whr() { return whr_; }
   BmrScreen& bmr() { return bmr_; }
+  ReportScreen& reports() { return reports_; }
+  BurnedScreen& burned() { return burned_; }
+  EnergyScreen& energy() { return energy_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const DayBalance& day() const { return day_; }
@@ -103,6 +111,10 @@ class Program {
   BmiScreen bmi_;
   WhrScreen whr_;
   BmrScreen bmr_;
+  ReportScreen reports_;
+  BurnedTotal burned_total_;
+  BurnedScreen burned_;
+  EnergyScreen energy_;
 };
 
 }  // namespace velnor

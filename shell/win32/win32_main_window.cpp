@@ -67,6 +67,10 @@ int Win32MainWindow::RunMessageLoop() {
   MSG message;
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
     if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) continue;
+    // The wheel is the screen's before it is that of the control which has the focus: an edit would
+    // scroll as many lines as it likes.
+    const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
+    if (wheel && OnMouseWheel(message.wParam)) continue;
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
@@ -114,7 +118,7 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       SetBkColor(reinterpret_cast<HDC>(wparam), kSurfaceColour);
       return reinterpret_cast<LRESULT>(surface_);
     case WM_MOUSEWHEEL:
-      program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
+      OnMouseWheel(wparam);
       return 0;
     case WM_CLOSE:
       DestroyWindow(window_);
@@ -140,6 +144,10 @@ bool Win32MainWindow::OnCreate() {
   if (!form_->CreateControls(instance_, resources_)) return false;
   program_->Start();
   return true;
+}
+
+bool Win32MainWindow::OnMouseWheel(WPARAM wparam) {
+  return program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
 }
 
 // Everything is drawn in memory and copied to the window once, around the controls that stay.

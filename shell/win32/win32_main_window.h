@@ -41,6 +41,7 @@ class Win32MainWindow final : public MainWindow {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   bool OnCreate();
+  bool OnMouseWheel(WPARAM wparam);
   void OnPaint();
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;

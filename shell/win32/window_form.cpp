@@ -29,6 +29,9 @@ const char* ClassName(ControlClass control_class) {
   return kClassNames[static_cast<std::size_t>(control_class)];
 }
 
+// By ScrollStep.
+constexpr std::array<WPARAM, 4> kScrollCodes = {SB_LINEUP, SB_LINEDOWN, SB_PAGEUP, SB_PAGEDOWN};
+
 // List boxes and combo boxes do the same things under different message numbers.
 struct ListMessages {
   UINT count, add, reset, selection, select, text_length, text;
@@ -81,8 +84,10 @@ LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 HWND WindowForm::Control(int key) const { return GetDlgItem(window_, key); }
 
 std::string WindowForm::ReadText(int id, std::size_t limit) const {
-  std::string text(limit + 1, '\0');
-  const int length = GetWindowTextA(Control(id), text.data(), static_cast<int>(text.size()));
+  const HWND control = Control(id);
+  const auto all = static_cast<std::size_t>(GetWindowTextLengthA(control));
+  std::string text(std::min(limit, all) + 1, '\0');
+  const int length = GetWindowTextA(control, text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
   return text;
 }
@@ -142,8 +147,8 @@ void WindowForm::RemoveSelectedItem(int id) {
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
 
-void WindowForm::ScrollLine(int id, bool down) {
-  SendMessageA(Control(id), EM_SCROLL, static_cast<WPARAM>(down ? SB_LINEDOWN : SB_LINEUP), 0);
+void WindowForm::Scroll(int id, ScrollStep step) {
+  SendMessageA(Control(id), EM_SCROLL, kScrollCodes[static_cast<std::size_t>(step)], 0);
 }
 
 void WindowForm::Show(int key) { ShowWindow(Control(key), SW_SHOWNORMAL); }

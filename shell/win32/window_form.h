@@ -29,7 +29,7 @@ class WindowForm : public Form {
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void Focus(int id) override;
-  void ScrollLine(int id, bool down) override;
+  void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;
   void Close() override;

@@ -436,6 +436,15 @@ bool WaitUntilGone(HWND window) {
   return WaitUntil([=] { return IsWindow(window) == 0; });
 }
 
+COLORREF PixelAt(const Window& window, int x, int y) {
+  POINT point = {x, y};
+  ClientToScreen(window.handle(), &point);
+  const HDC screen = GetDC(nullptr);
+  const COLORREF colour = GetPixel(screen, point.x, point.y);
+  ReleaseDC(nullptr, screen);
+  return colour;
+}
+
 std::string ProgramPath() { return FolderOfThisProgram() + "velnor.exe"; }
 
 std::string Today() {
@@ -460,6 +469,14 @@ void ClickOn(HWND control) {
   INPUT release = press;
   release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
   SendInputs({press, release});
+}
+
+void TurnWheel(int distance) {
+  INPUT turn = {};
+  turn.type = INPUT_MOUSE;
+  turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+  turn.mi.mouseData = static_cast<DWORD>(distance);
+  SendInputs({turn});
 }
 
 void TypeKeys(std::string_view keys) {

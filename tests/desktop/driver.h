@@ -123,6 +123,9 @@ std::string ProgramPath();
 // The date as the program writes it, without leading zeros.
 std::string Today();
 
+// What the display shows at a point of the window's client area.
+COLORREF PixelAt(const Window& window, int x, int y);
+
 // Presses a button of an open box and waits until the box is gone.
 void Answer(const MessageBoxSeen& box, int button);
 
@@ -135,6 +138,7 @@ bool WaitUntilGone(HWND window);
 
 // Real input events, which go to whatever window is in front, as from mouse and keyboard.
 void ClickOn(HWND control);
+void TurnWheel(int distance);          // negative: towards the person; goes where the focus is
 void TypeKeys(std::string_view keys);  // letters, digits and points
 void PressKey(WORD virtual_key, bool with_alt = false);
 

@@ -187,6 +187,24 @@ void SaveRecipe(Scene& scene) {
   dialog.Press(1);
 }
 
+void OpenReport(Scene& scene) {
+  LogAnnIn(scene);
+  scene.Open(210);
+}
+
+void SaveReport(Scene& scene) {
+  scene.form().SetText(119, "corrected by hand");
+  scene.form().Press(152);
+}
+
+void ClearReport(Scene& scene) { scene.form().Press(151); }
+
+// More than is shown: what is behind it is kept in a file of its own.
+void LengthenReport(Scene& scene) {
+  scene.WriteFile("Ann/waga.ASC", std::string(29'000, '=') + std::string(1'000, '-'));
+  scene.WriteFile("Ann/waga.ASC.rest.txt", "kept before");
+}
+
 }  // namespace
 
 std::span<const Action> Actions() {
@@ -233,6 +251,10 @@ std::span<const Action> Actions() {
       {.name = "save a waist-hip ratio", .enter = CountWhr, .act = SaveWhr},
       {.name = "save the eaten calories", .enter = EatTwice, .act = SaveCalories},
       {.name = "save a recipe", .enter = EatTwice, .act = SaveRecipe},
+      {.name = "save a changed report", .enter = OpenReport, .act = SaveReport},
+      {.name = "save a report longer than shown", .arrange = LengthenReport, .enter = OpenReport,
+       .act = SaveReport},
+      {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
   };
   // clang-format on
   return kActions;

@@ -23,6 +23,7 @@ int __real_rename(const char* from, const char* to);
 int __real_remove(const char* path);
 int __real_mkdir(const char* path, mode_t mode);
 int __real_rmdir(const char* path);
+int __real_stat(const char* path, struct stat* status);
 }
 
 namespace velnor {
@@ -105,6 +106,7 @@ const CallRow& RowOf(FileCall call) {
        "remove a folder",
        false,
        {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore, kCrashAfter, kPowerCut}},
+      {kLookAt, "look at", false, {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore}},
   };
   return *std::ranges::find(kRows, call, &CallRow::call);
 }
@@ -344,6 +346,9 @@ int __wrap_remove(const char* path) {
 int __wrap_mkdir(const char* path, mode_t mode) {
   return velnor::OnPath(velnor::FileCall::kMakeFolder, path,
                         [=] { return __real_mkdir(path, mode); });
+}
+int __wrap_stat(const char* path, struct stat* status) {
+  return velnor::OnPath(velnor::FileCall::kLookAt, path, [=] { return __real_stat(path, status); });
 }
 int __wrap_rmdir(const char* path) {
   return velnor::OnPath(velnor::FileCall::kRemoveFolder, path, [=] { return __real_rmdir(path); });

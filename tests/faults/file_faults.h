@@ -24,6 +24,7 @@ enum class FileCall {
   kRemove,
   kMakeFolder,
   kRemoveFolder,
+  kLookAt,
 };
 
 const char* NameOf(FileCall call);

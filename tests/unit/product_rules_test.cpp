@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "food/loose_match.h"
+#include "base/loose_match.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {

@@ -13,7 +13,7 @@
 
 #include "base/number_text.h"
 #include "food/food_table.h"
-#include "food/loose_match.h"
+#include "base/loose_match.h"
 #include "food/product_rules.h"
 
 namespace velnor {

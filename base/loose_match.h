@@ -1,8 +1,8 @@
-// The fast text comparison of the food tables: two texts are held for the same when they agree at a
-// few chosen positions. Which positions, each rule says for itself.
+// The fast text comparison of the food tables and the activities: two texts are held for the same
+// when they agree at a few chosen positions. Which positions, each rule says for itself.
 
-#ifndef VELNOR_FOOD_LOOSE_MATCH_H_
-#define VELNOR_FOOD_LOOSE_MATCH_H_
+#ifndef VELNOR_BASE_LOOSE_MATCH_H_
+#define VELNOR_BASE_LOOSE_MATCH_H_
 
 #include <algorithm>
 #include <initializer_list>
@@ -32,4 +32,4 @@ constexpr bool EndsBy(std::string_view text, int position) {
 
 }  // namespace velnor
 
-#endif  // VELNOR_FOOD_LOOSE_MATCH_H_
+#endif  // VELNOR_BASE_LOOSE_MATCH_H_

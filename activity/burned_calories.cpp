@@ -1,0 +1,102 @@
+#include "activity/burned_calories.h"
+
+#include <cmath>
+#include <cstddef>
+#include <optional>
+
+#include "activity/activity_table.h"
+#include "base/number_text.h"
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr std::size_t kLineLimit = 49;
+constexpr std::size_t kFieldLimit = 14;
+constexpr std::size_t kDayCharacters = 6;
+constexpr char kFieldEnd = ';';
+
+constexpr int kShownDigits = 9;
+constexpr int kTotalDigits = 15;
+
+// kcal. What taking an entry back with a negative one leaves, because fewer digits are read than
+// written. As -8e-11 it would lose its exponent when it is read again, and be -8.
+constexpr double kRoundingRest = 1e-4;
+
+constexpr double kBodyFatGrams = 1000.0;  // hold
+constexpr double kBodyFatKcal = 7000.0;
+constexpr double kShareFromFat = 0.6;
+
+// Takes the next field off the line.
+std::string NextField(std::string_view& line) {
+  const std::string_view field = line.substr(0, line.find(kFieldEnd));
+  line.remove_prefix(field.size() == line.size() ? line.size() : field.size() + 1);
+  return std::string(field.substr(0, kFieldLimit));
+}
+
+bool IsSameDay(std::string_view a, std::string_view b) {
+  return a.substr(0, kDayCharacters) == b.substr(0, kDayCharacters);
+}
+
+}  // namespace
+
+std::string Burned::KcalText() const { return FormatNumber(kcal, kShownDigits); }
+
+std::string Burned::FatText() const { return FormatNumber(fat, kShownDigits); }
+
+Burned CountBurned(std::string_view activity, std::string_view minutes) {
+  const auto duration = static_cast<float>(ParseNumber(minutes));
+  Burned burned;
+  burned.kcal = static_cast<float>(ParseNumber(BurnFactor(activity)) * double{duration});
+  burned.fat =
+      static_cast<float>(double{burned.kcal} * kBodyFatGrams / kBodyFatKcal * kShareFromFat);
+  return burned;
+}
+
+BurnedTotal::DayLine BurnedTotal::Read() const {
+  // On disk a line ends with CR LF, which counts as one character.
+  const std::optional<std::string> text = ReadFileToRewrite(Path(), kLineLimit + 1);
+  DayLine result;
+  if (!text) return result;
+  std::string_view line = LineReader(*text, kLineLimit).Next().value_or("");
+  result.date = NextField(line);
+  result.kcal = NextField(line);
+  result.is_readable = true;
+  result.is_empty = text->empty();
+  return result;
+}
+
+BurnedTotal::DayLine BurnedTotal::Take() {
+  DayLine line = Read();
+  // Nobody has no folder: a repaint behind the login dialog must not leave a file elsewhere.
+  if (line.is_empty && !session_.user_name.empty()) AppendToFile(Path(), "");
+  kcal_ = static_cast<float>(ParseNumber(line.kcal));
+  return line;
+}
+
+std::string BurnedTotal::Refresh() { return Take().kcal; }
+
+std::string BurnedTotal::RefreshForToday() {
+  const DayLine line = Take();
+  const bool may_be_emptied = line.is_readable && !line.is_empty;
+  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) ReplaceFile(Path(), "");
+  return line.kcal;
+}
+
+std::string BurnedTotal::Add(std::string_view burned) {
+  const DayLine line = Read();
+  kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
+  if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
+  std::string total = FormatNumber(kcal_, kTotalDigits);
+  if (line.is_readable) {
+    ReplaceFile(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);
+  }
+  return total;
+}
+
+void BurnedTotal::Clear() {
+  ReplaceFile(Path(), "");
+  kcal_ = 0;
+}
+
+}  // namespace velnor

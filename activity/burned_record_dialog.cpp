@@ -1,0 +1,47 @@
+#include "activity/burned_record_dialog.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace velnor {
+namespace {
+
+constexpr int kDate = 709;
+constexpr int kActivity = 741;
+constexpr int kMinutes = 742;
+constexpr int kCalories = 743;
+constexpr int kFat = 744;
+constexpr int kOther = 745;
+
+constexpr std::size_t kTextLimit = 26;
+
+}  // namespace
+
+BurnedRecordDialog::BurnedRecordDialog(std::string path, BurnedRecord shown,
+                                       const std::string& counted_activity)
+    : path_(std::move(path)), shown_(std::move(shown)), counted_activity_(counted_activity) {}
+
+void BurnedRecordDialog::OnOpen(Form& form) {
+  form.SetText(kDate, shown_.date);
+  form.SetText(kMinutes, shown_.minutes);
+  form.SetText(kCalories, shown_.kcal);
+  form.SetText(kFat, shown_.fat);
+  form.SetText(kActivity, shown_.activity);
+}
+
+void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
+  if (id == kOkButton && notification == kButtonClicked) Save(form);
+  if (id == kCancelButton) form.Close();
+}
+
+void BurnedRecordDialog::Save(Form& form) {
+  AppendBurnedRecord(path_, {.date = form.ReadText(kDate, kTextLimit),
+                             .activity = counted_activity_,
+                             .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                             .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                             .fat = form.ReadText(kFat, kRecordFigureLimit),
+                             .other = form.ReadText(kOther, kTextLimit)});
+  form.Close();
+}
+
+}  // namespace velnor

@@ -1,0 +1,34 @@
+// The dialog that saves what an activity burned as a record of the burned calories report.
+
+#ifndef VELNOR_ACTIVITY_BURNED_RECORD_DIALOG_H_
+#define VELNOR_ACTIVITY_BURNED_RECORD_DIALOG_H_
+
+#include <string>
+
+#include "activity/burned_record.h"
+#include "base/dialog.h"
+
+namespace velnor {
+
+inline constexpr int kBurnedRecordResource = 10012;
+
+class BurnedRecordDialog final : public Dialog {
+ public:
+  // Opens with the texts of `shown` and adds to the report `path`. `counted_activity` outlives the
+  // dialog: the record names the activity that was counted last when it is saved.
+  BurnedRecordDialog(std::string path, BurnedRecord shown, const std::string& counted_activity);
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void Save(Form& form);
+
+  std::string path_;
+  BurnedRecord shown_;
+  const std::string& counted_activity_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_ACTIVITY_BURNED_RECORD_DIALOG_H_
