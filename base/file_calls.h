@@ -17,6 +17,9 @@ bool FlushToDisk(std::FILE* file);
 // with both as they were, when the system could not.
 bool ReplaceByRename(const std::string& from, const std::string& to);
 
+// Whether the file is marked as one that nobody is to write. A missing file is not.
+bool IsWriteProtected(const std::string& path);
+
 // Cuts the open `file` back to `size` bytes. False when the system could not.
 bool CutBack(std::FILE* file, std::int64_t size);
 

@@ -17,6 +17,11 @@ inline constexpr int kButtonClicked = 0;     // also what a menu command carries
 inline constexpr int kSelectionChanged = 1;  // list boxes and combo boxes, by the user only
 inline constexpr int kEditUpdated = 0x0400;  // single-line edits, also when the program sets them
 
+// As much of a text as there is.
+inline constexpr std::size_t kWholeText = static_cast<std::size_t>(-1);
+
+enum class ScrollStep { kLineUp, kLineDown, kPageUp, kPageDown };
+
 // The key of the second of two controls that share `id` (the main window has two "Find" buttons).
 // Showing takes keys; everything else means the first control of that id.
 constexpr int SecondControl(int id) { return id | 0x10000; }
@@ -29,7 +34,8 @@ class Form {
 
   // At most `limit` characters of the control's text.
   virtual std::string ReadText(int id, std::size_t limit) const = 0;
-  // Replaces the text. A single-line edit announces kEditUpdated before this returns.
+  // Replaces the text, with which an edit's caret and first visible line go back to the start. It
+  // ends at a NUL. A single-line edit announces kEditUpdated before this returns.
   virtual void SetText(int id, std::string_view text) = 0;
 
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
@@ -48,8 +54,8 @@ class Form {
 
   virtual void Focus(int id) = 0;
 
-  // Scrolls an edit by one line.
-  virtual void ScrollLine(int id, bool down) = 0;
+  // Scrolls a multi-line edit; at its first and its last line it stops.
+  virtual void Scroll(int id, ScrollStep step) = 0;
 
   virtual void Show(int key) = 0;
   // Hides every control of the window, in the order in which they were made.

@@ -51,6 +51,8 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
   return ReadFileToRewrite(path, limit).value_or("");
 }
 
+bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
+
 bool AppendToFile(const std::string& path, std::string_view text) {
   const std::string bytes = WithCrLf(text);
   File file = Open(path, "ab");
@@ -68,6 +70,8 @@ bool AppendToFile(const std::string& path, std::string_view text) {
 std::string TemporaryPath(const std::string& path) { return path + ".new"; }
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
+  // To take the place of a file, a system asks the folder's leave and not always the file's.
+  if (IsWriteProtected(path)) return false;
   const std::string temporary = TemporaryPath(path);
   File file = Open(temporary, "wb");
   if (!file) return false;

@@ -18,14 +18,17 @@ std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_
 // The same for who only reads: what cannot be read gives empty text too.
 std::string ReadFile(const std::string& path, std::size_t limit);
 
-// Adds `text` to the end of the file, which is made when it is missing, for an empty text too. Every line end of the text
-// goes to disk as CR LF. The text is written in one call; when that fails, the file is cut back to
-// what it was. False when the file is not longer by all of the text.
+// Whether there is a file that can be opened for reading.
+bool FileExists(const std::string& path);
+
+// Adds `text` to the end of the file, which is made when it is missing, for an empty text too.
+// Every line end of the text goes to disk as CR LF. The text is written in one call; when that
+// fails, the file is cut back to what it was. False when the file is not longer by all of the text.
 bool AppendToFile(const std::string& path, std::string_view text);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
-// anything between: they are written to a file beside it, which then takes its place. False when
-// the old ones remain.
+// anything between: they are written to a file beside it, which then takes its place. A
+// write-protected file is not replaced. False when the old ones remain.
 bool ReplaceFile(const std::string& path, std::string_view bytes);
 
 // What ReplaceFile calls the file that it writes beside `path`.

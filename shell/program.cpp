@@ -1,7 +1,6 @@
 #include "shell/program.h"
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -24,9 +23,6 @@
 
 namespace velnor {
 namespace {
-
-constexpr int kReportEdit = 119;
-constexpr ScreenId kReportScreens[] = {4, 5, 8, 9, 11};
 
 struct ControlEvent {
   int id;
@@ -54,6 +50,14 @@ constexpr ControlEvent kControlEvents[] = {
     {145, kButtonClicked, [](Program& p) { p.OpenCalorieRecord(); }},
     {147, kButtonClicked, [](Program& p) { p.OpenRecipeRecord(); }},
     {165, kButtonClicked, [](Program& p) { p.ClearDay(); }},
+    {151, kButtonClicked, [](Program& p) { p.reports().Clear(); }},
+    {152, kButtonClicked, [](Program& p) { p.reports().Save(); }},
+    {153, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 5); }},
+    {154, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 5); }},
+    {155, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineDown, 12); }},
+    {156, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kLineUp, 12); }},
+    {157, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageDown, 1); }},
+    {158, kButtonClicked, [](Program& p) { p.reports().Scroll(ScrollStep::kPageUp, 1); }},
     {174, kButtonClicked, [](Program& p) { p.requirement().Activate(); }},
     {175, kButtonClicked, [](Program& p) { p.requirement().Clear(); }},
     {176, kButtonClicked, [](Program& p) { p.bmr().Count(); }},
@@ -75,7 +79,8 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       charts_(session_),
       bmi_(profile_, weight_, form, window),
       whr_(profile_, form, window),
-      bmr_(profile_, weight_, form, window) {}
+      bmr_(profile_, weight_, form, window),
+      reports_(session_, form, window, message_boxes) {}
 
 void Program::Start() {
   ApplyMenuState(MenuState::kLoggedOut, window_);
@@ -89,10 +94,7 @@ void Program::OnCommand(int id, int notification) {
   }
 }
 
-void Program::OnMouseWheel(std::int32_t movement) {
-  if (std::ranges::find(kReportScreens, session_.screen) == std::end(kReportScreens)) return;
-  form_.ScrollLine(kReportEdit, movement < 0);
-}
+bool Program::OnMouseWheel(std::int32_t movement) { return reports_.OnMouseWheel(movement < 0); }
 
 void Program::HideControls() { form_.HideAll(); }
 

@@ -24,6 +24,7 @@
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
+#include "reports/report_screen.h"
 #include "users/profile.h"
 
 namespace velnor {
@@ -43,8 +44,8 @@ class Program {
   void OnCommand(int id, int notification);
 
   // The wheel was turned; `movement` is negative when it was turned towards the user. Report
-  // screens scroll one line, whatever the distance; other screens do nothing.
-  void OnMouseWheel(std::int32_t movement);
+  // screens scroll one line, whatever the distance; other screens do nothing and give false.
+  bool OnMouseWheel(std::int32_t movement);
 
   // The two steps of every repaint: all controls are hidden, then the current screen is painted and
   // shows its own. An unknown screen number paints and shows nothing.
@@ -76,6 +77,7 @@ class Program {
   BmiScreen& bmi() { return bmi_; }
   WhrScreen& whr() { return whr_; }
   BmrScreen& bmr() { return bmr_; }
+  ReportScreen& reports() { return reports_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
   const DayBalance& day() const { return day_; }
@@ -103,6 +105,7 @@ class Program {
   BmiScreen bmi_;
   WhrScreen whr_;
   BmrScreen bmr_;
+  ReportScreen reports_;
 };
 
 }  // namespace velnor

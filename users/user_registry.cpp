@@ -7,6 +7,7 @@
 
 #include "base/file_calls.h"
 #include "base/text_file.h"
+#include "reports/report_file.h"
 
 namespace velnor {
 namespace {
@@ -19,6 +20,12 @@ constexpr const char* kFirstFiles[] = {"waga.ASC", "mirvo.ASC",     "info.ASC", 
 constexpr const char* kAllFiles[] = {"waga.ASC",   "mirvo.ASC",     "info.ASC",  "zestaw.ASC",
                                      "whr.ASC",    "cwiczenia.ASC", "zapot.ASC", "bilans.ASC",
                                      "wykwag.txt", "wykoda.txt",    "erg.txt"};
+
+// A file and what an interrupted write of it has left.
+void DeleteWithTemporary(const std::string& path) {
+  std::remove(path.c_str());
+  std::remove(TemporaryPath(path).c_str());
+}
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 
@@ -84,9 +91,10 @@ void CreateUserFiles(const SessionState& session, const std::string& user) {
 
 void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const char* const file : kAllFiles) {
-    const std::string path = session.FileOf(user, file);
-    std::remove(path.c_str());
-    std::remove(TemporaryPath(path).c_str());
+    DeleteWithTemporary(session.FileOf(user, file));
+  }
+  for (const Report& report : Reports()) {
+    DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
   }
   if (!user.empty()) RemoveFolder(session.base_folder + user);
 }

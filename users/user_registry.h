@@ -47,8 +47,9 @@ bool IsFolderName(std::string_view name);
 // are there already become empty. What the system refuses is not reported.
 void CreateUserFiles(const SessionState& session, const std::string& user);
 
-// Deletes the eleven files that a user can have, whatever an interrupted write has left of them,
-// and the folder when nothing else is in it. What the system refuses is not reported.
+// Deletes the eleven files that a user can have, what saving the reports among them has kept beside
+// them, whatever an interrupted write has left of any of them, and the folder when nothing else is
+// in it. What the system refuses is not reported.
 void DeleteUserFiles(const SessionState& session, const std::string& user);
 
 }  // namespace velnor

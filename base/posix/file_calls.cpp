@@ -11,6 +11,12 @@ bool ReplaceByRename(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
+bool IsWriteProtected(const std::string& path) {
+  constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && (status.st_mode & kAnyWriter) == 0;
+}
+
 bool CutBack(std::FILE* file, std::int64_t size) { return ftruncate(fileno(file), size) == 0; }
 
 bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0; }

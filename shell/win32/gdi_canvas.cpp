@@ -50,6 +50,35 @@ HFONT GdiResources::FontFor(const Font& font) {
   return fonts_.back().handle;
 }
 
+HDC BackBuffer::Begin(HWND window, int width, int height, HBRUSH surface) {
+  if (context_ == nullptr || width != width_ || height != height_) {
+    Discard();
+    const HDC screen = GetDC(window);
+    context_ = CreateCompatibleDC(screen);
+    bitmap_ = CreateCompatibleBitmap(screen, width, height);
+    ReleaseDC(window, screen);
+    if (context_ == nullptr || bitmap_ == nullptr) {
+      Discard();
+      return nullptr;
+    }
+    previous_ = SelectObject(context_, bitmap_);
+    width_ = width;
+    height_ = height;
+  }
+  const RECT all = {0, 0, width, height};
+  FillRect(context_, &all, surface);
+  return context_;
+}
+
+void BackBuffer::Discard() {
+  if (previous_ != nullptr) SelectObject(context_, previous_);
+  if (bitmap_ != nullptr) DeleteObject(bitmap_);
+  if (context_ != nullptr) DeleteDC(context_);
+  context_ = nullptr;
+  bitmap_ = nullptr;
+  previous_ = nullptr;
+}
+
 GdiCanvas::GdiCanvas(HDC context, GdiResources& resources)
     : context_(context), saved_state_(SaveDC(context)), resources_(resources) {
   SetBkMode(context_, TRANSPARENT);

@@ -45,6 +45,28 @@ class GdiResources {
   std::vector<CachedFont> fonts_;
 };
 
+// A picture in memory that a whole repaint is drawn into before any of it can be seen.
+class BackBuffer {
+ public:
+  BackBuffer() = default;
+  BackBuffer(const BackBuffer&) = delete;
+  BackBuffer& operator=(const BackBuffer&) = delete;
+  ~BackBuffer() { Discard(); }
+
+  // A device context over a picture of that size, every pixel of it in the colour of `surface`. It
+  // serves until the next call. Null when the system refuses one.
+  HDC Begin(HWND window, int width, int height, HBRUSH surface);
+
+ private:
+  void Discard();
+
+  HDC context_ = nullptr;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ previous_ = nullptr;
+  int width_ = 0;
+  int height_ = 0;
+};
+
 // One painting. The device context is put back as it was when the canvas goes.
 class GdiCanvas final : public Canvas {
  public:

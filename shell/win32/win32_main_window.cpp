@@ -13,7 +13,6 @@ constexpr int kIconResource = 900;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;
-constexpr int kPictureHeight = 550;
 constexpr COLORREF kSurfaceColour = RGB(179, 179, 179);
 
 constexpr UINT kHelpPartialKey = 0x105;
@@ -68,6 +67,10 @@ int Win32MainWindow::RunMessageLoop() {
   MSG message;
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
     if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) continue;
+    // The wheel is the screen's before it is that of the control which has the focus: an edit would
+    // scroll as many lines as it likes.
+    const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
+    if (wheel && OnMouseWheel(message.wParam)) continue;
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
@@ -115,7 +118,7 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       SetBkColor(reinterpret_cast<HDC>(wparam), kSurfaceColour);
       return reinterpret_cast<LRESULT>(surface_);
     case WM_MOUSEWHEEL:
-      program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
+      OnMouseWheel(wparam);
       return 0;
     case WM_CLOSE:
       DestroyWindow(window_);
@@ -143,21 +146,29 @@ bool Win32MainWindow::OnCreate() {
   return true;
 }
 
+bool Win32MainWindow::OnMouseWheel(WPARAM wparam) {
+  return program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
+}
+
+// Everything is drawn in memory and copied to the window once, around the controls that stay.
 void Win32MainWindow::OnPaint() {
-  // Hiding the control that has the focus takes the focus away; it gets it back when the screen
-  // shows it again, so that a repaint does not interrupt typing.
+  // Hiding the control that has the focus takes the focus away; a screen that shows it again gets
+  // it back.
   const HWND focused = GetFocus();
-  InvalidateRect(window_, nullptr, TRUE);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->HideControls();
-  PAINTSTRUCT paint;
-  const HDC context = BeginPaint(window_, &paint);
-  const RECT below_picture = {0, kPictureHeight, client_width_, client_height_};
-  FillRect(context, &below_picture, surface_);
-  {
-    GdiCanvas canvas(context, resources_);
+  const HDC picture = back_buffer_.Begin(window_, client_width_, client_height_, surface_);
+  if (picture != nullptr) {
+    GdiCanvas canvas(picture, resources_);
     program_->Paint(canvas);
   }
+  form_->HideTheRest();
+  PAINTSTRUCT paint;
+  const HDC context = BeginPaint(window_, &paint);
+  form_->ClipTo(context);
+  BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
   EndPaint(window_, &paint);
+  form_->ShowChosen();
   FocusIfShown(focused);
   program_->FinishPaint();
 }
@@ -176,9 +187,14 @@ void Win32MainWindow::FocusIfShown(HWND control) const {
   }
 }
 
-void Win32MainWindow::Invalidate() { InvalidateRect(window_, nullptr, TRUE); }
+// The controls draw themselves; a new picture around them is no reason to.
+void Win32MainWindow::Invalidate() {
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+}
 
-void Win32MainWindow::InvalidateWithoutErasing() { InvalidateRect(window_, nullptr, FALSE); }
+void Win32MainWindow::InvalidateWithoutErasing() {
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+}
 
 void Win32MainWindow::PaintNow() { SendMessageA(window_, WM_PAINT, 0, 0); }
 

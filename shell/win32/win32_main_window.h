@@ -41,6 +41,7 @@ class Win32MainWindow final : public MainWindow {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   bool OnCreate();
+  bool OnMouseWheel(WPARAM wparam);
   void OnPaint();
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;
@@ -54,6 +55,7 @@ class Win32MainWindow final : public MainWindow {
   HMENU menu_ = nullptr;
   HWND modeless_dialog_ = nullptr;
   GdiResources resources_;
+  BackBuffer back_buffer_;
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;

@@ -29,6 +29,9 @@ const char* ClassName(ControlClass control_class) {
   return kClassNames[static_cast<std::size_t>(control_class)];
 }
 
+// By ScrollStep.
+constexpr std::array<WPARAM, 4> kScrollCodes = {SB_LINEUP, SB_LINEDOWN, SB_PAGEUP, SB_PAGEDOWN};
+
 // List boxes and combo boxes do the same things under different message numbers.
 struct ListMessages {
   UINT count, add, reset, selection, select, text_length, text;
@@ -63,6 +66,17 @@ void WidenTo(HWND list, std::string_view item) {
   }
 }
 
+// Whether it is shown when the main window is.
+bool IsShown(HWND control) { return (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+// A frame has nothing inside: the picture is to be seen through it.
+bool IsFrame(HWND control) {
+  char name[16] = {};
+  GetClassNameA(control, name, sizeof name);
+  return lstrcmpiA(name, ClassName(ControlClass::kButton)) == 0 &&
+         (GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
 }  // namespace
@@ -70,8 +84,10 @@ LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 HWND WindowForm::Control(int key) const { return GetDlgItem(window_, key); }
 
 std::string WindowForm::ReadText(int id, std::size_t limit) const {
-  std::string text(limit + 1, '\0');
-  const int length = GetWindowTextA(Control(id), text.data(), static_cast<int>(text.size()));
+  const HWND control = Control(id);
+  const auto all = static_cast<std::size_t>(GetWindowTextLengthA(control));
+  std::string text(std::min(limit, all) + 1, '\0');
+  const int length = GetWindowTextA(control, text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
   return text;
 }
@@ -131,8 +147,8 @@ void WindowForm::RemoveSelectedItem(int id) {
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
 
-void WindowForm::ScrollLine(int id, bool down) {
-  SendMessageA(Control(id), EM_SCROLL, static_cast<WPARAM>(down ? SB_LINEDOWN : SB_LINEUP), 0);
+void WindowForm::Scroll(int id, ScrollStep step) {
+  SendMessageA(Control(id), EM_SCROLL, kScrollCodes[static_cast<std::size_t>(step)], 0);
 }
 
 void WindowForm::Show(int key) { ShowWindow(Control(key), SW_SHOWNORMAL); }
@@ -162,6 +178,38 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }
   return true;
+}
+
+void MainForm::HideAll() { chosen_.clear(); }
+
+void MainForm::Show(int key) { chosen_.insert(Control(key)); }
+
+void MainForm::HideTheRest() {
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && !chosen_.contains(control)) {
+      ShowWindow(control, SW_HIDE);
+    }
+  }
+}
+
+void MainForm::ClipTo(HDC context) const {
+  for (const HWND control : chosen_) {
+    if (!IsShown(control) || IsFrame(control)) continue;
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+    ExcludeClipRect(context, place.left, place.top, place.right, place.bottom);
+  }
+}
+
+void MainForm::ShowChosen() {
+  for (const HWND control : chosen_) {
+    if (!IsShown(control)) {
+      ShowWindow(control, SW_SHOWNORMAL);
+    } else if (IsFrame(control)) {
+      InvalidateRect(control, nullptr, FALSE);
+    }
+  }
 }
 
 HWND MainForm::Control(int key) const {

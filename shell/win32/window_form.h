@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <map>
+#include <set>
 
 #include "base/form.h"
 #include "shell/controls.h"
@@ -28,7 +29,7 @@ class WindowForm : public Form {
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void Focus(int id) override;
-  void ScrollLine(int id, bool down) override;
+  void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;
   void Close() override;
@@ -41,7 +42,10 @@ class WindowForm : public Form {
   HWND window_;
 };
 
-// The main window's controls, which it creates from the table.
+// The main window's controls, which it creates from the table. Every repaint hides all of them and
+// shows those of its screen. Here both are noted only, and carried out around the copying of the
+// picture: a control that was there and stays is never hidden, so it does not flicker and keeps
+// focus, caret, selection and an open drop-down list.
 class MainForm final : public WindowForm {
  public:
   explicit MainForm(HWND main_window) : WindowForm(main_window) {}
@@ -49,11 +53,22 @@ class MainForm final : public WindowForm {
   // Creates all controls of the table, hidden. False when the system refuses one.
   bool CreateControls(HINSTANCE instance, GdiResources& resources);
 
+  void Show(int key) override;
+  void HideAll() override;
+
+  // Before the picture is copied: hides what the repaint did not show.
+  void HideTheRest();
+  // While it is copied: keeps it off the controls that stay.
+  void ClipTo(HDC context) const;
+  // After that: shows what the repaint showed, and draws the frames that the picture went over.
+  void ShowChosen();
+
  protected:
   HWND Control(int key) const override;
 
  private:
   std::map<int, HWND> controls_by_key_;
+  std::set<HWND> chosen_;  // what the repaint in progress shows
 };
 
 }  // namespace velnor

@@ -293,7 +293,7 @@ void Window::SavePicture(const std::string& path) const {
   std::fclose(file);
 }
 
-App::App(const WorkFolder& folder) : App(FolderOfThisProgram() + "velnor.exe", folder) {}
+App::App(const WorkFolder& folder) : App(ProgramPath(), folder) {}
 
 App::App(const std::string& program, const Folder& folder) {
   std::string command_line = '"' + program + '"';
@@ -440,6 +440,8 @@ bool WaitUntilGone(HWND window) {
   return WaitUntil([=] { return IsWindow(window) == 0; });
 }
 
+std::string ProgramPath() { return FolderOfThisProgram() + "velnor.exe"; }
+
 std::string Today() {
   SYSTEMTIME now = {};
   GetLocalTime(&now);
@@ -462,6 +464,14 @@ void ClickOn(HWND control) {
   INPUT release = press;
   release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
   SendInputs({press, release});
+}
+
+void TurnWheel(int distance) {
+  INPUT turn = {};
+  turn.type = INPUT_MOUSE;
+  turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+  turn.mi.mouseData = static_cast<DWORD>(distance);
+  SendInputs({turn});
 }
 
 void TypeKeys(std::string_view keys) {

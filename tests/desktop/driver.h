@@ -126,6 +126,9 @@ class App {
   Window main_{nullptr};
 };
 
+// The velnor.exe that is driven.
+std::string ProgramPath();
+
 // The date as the program writes it, without leading zeros.
 std::string Today();
 
@@ -141,6 +144,7 @@ bool WaitUntilGone(HWND window);
 
 // Real input events, which go to whatever window is in front, as from mouse and keyboard.
 void ClickOn(HWND control);
+void TurnWheel(int distance);          // negative: towards the person; goes where the focus is
 void TypeKeys(std::string_view keys);  // letters, digits and points
 void PressKey(WORD virtual_key, bool with_alt = false);
 

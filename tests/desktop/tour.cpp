@@ -222,6 +222,26 @@ class Tour {
     const Window dialog = app_.WaitForPopup();
     TakeWindow(dialog, name);
     dialog.Command(IDCANCEL);
+    WalkReports();
+  }
+
+  void WalkReports() const {
+    for (const ReportPicture& report : kReports) {
+      std::string records;
+      for (int i = 0; i < report.records; ++i) records += report.record;
+      folder_.Write(std::string("Zoe\\") + report.file_name, records);
+      app_.main().Command(report.command);
+      Take(report.name);
+    }
+    app_.main().PostCommand(152);
+    const MessageBoxSeen save = app_.WaitForMessageBox();
+    TakeWindow(app_.main(), "report-save-changes");
+    Answer(save, IDYES);
+    Take("report-cut");
+    app_.main().PostCommand(151);
+    const MessageBoxSeen clear = app_.WaitForMessageBox();
+    TakeWindow(app_.main(), "report-clear");
+    Answer(clear, IDNO);
   }
 
   struct ScreenName {
@@ -236,6 +256,29 @@ class Tour {
   static constexpr ScreenName kCharts[] = {
       {270, "chart-weight"}, {271, "chart-calories"},      {272, "chart-proteins"},
       {273, "chart-fat"},    {274, "chart-carbohydrates"},
+  };
+
+  struct ReportPicture {
+    int command;
+    const char* name;
+    const char* file_name;
+    int records;
+    const char* record;
+  };
+  static constexpr ReportPicture kReports[] = {
+      {210, "report-weight", "waga.ASC", 4,
+       "date: 16.11.2026\tbody weight[kg]: 70\tBMI: 22.85\tother: after the holidays\t\r\n"},
+      {214, "report-whr", "whr.ASC", 4,
+       "date: 16.11.2026\twaist[cm]: 70\thip[cm]: 95\tWHR: 0.73\tother: \r\n"},
+      {212, "report-calorie", "mirvo.ASC", 25,
+       "16.11.2026  food weight[g]: 250.  K[kcal]: 70.  P[g]: 1.75  F[g]: 1.  C[g]: 13.5  ||\r\n"
+       "--------------------------------------------------------------------------------\r\n"},
+      {213, "report-recipes", "zestaw.ASC", 4,
+       "\t****************************************************************\r\n"
+       "DATE: 16.11.2026\r\nNAME:  dessert\r\nCOMPOSITION:\r\nfrozen strawberries  250.0g\r\n"
+       "RECIPE:  \r\nthaw and serve\r\n\r\n"},
+      {215, "report-burned", "cwiczenia.ASC", 800,
+       "16.11.2026  swimming  60 min  burned: 412.5 kcal\r\n"},
   };
 
   void Take(const std::string& name) const { TakeWindow(app_.main(), name); }

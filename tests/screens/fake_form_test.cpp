@@ -3,6 +3,7 @@
 #include "tests/support/fake_form.h"
 
 #include <gtest/gtest.h>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -82,6 +83,42 @@ TEST_F(FakeFormTest, ReadsNoMoreThanTheLimit) {
   EXPECT_EQ(form_.ReadText(111, 4), "1234");
   EXPECT_EQ(form_.ReadText(111, 30), "12345");
   EXPECT_EQ(form_.ReadText(9999, 30), "");
+}
+
+std::string Lines(int count) {
+  std::string text = "line 0";
+  for (int i = 1; i < count; ++i) text += "\r\nline " + std::to_string(i);
+  return text;
+}
+
+TEST_F(FakeFormTest, AMultiLineEditScrollsByLinesAndPages) {
+  form_.SetText(119, Lines(100));
+  std::vector<int> first_lines;
+  for (const ScrollStep step :
+       {ScrollStep::kLineDown, ScrollStep::kPageDown, ScrollStep::kLineUp, ScrollStep::kPageUp}) {
+    form_.Scroll(119, step);
+    first_lines.push_back(form_.FirstVisibleLine(119));
+  }
+  EXPECT_EQ(first_lines, (std::vector<int>{1, 31, 30, 0}));
+}
+
+TEST_F(FakeFormTest, AMultiLineEditStopsAtItsFirstAndLastLine) {
+  form_.SetText(119, Lines(40));
+  form_.Scroll(119, ScrollStep::kLineUp);
+  EXPECT_EQ(form_.FirstVisibleLine(119), 0);
+  form_.Scroll(119, ScrollStep::kPageDown);
+  EXPECT_EQ(form_.FirstVisibleLine(119), 10);
+  form_.Scroll(119, ScrollStep::kLineDown);
+  EXPECT_EQ(form_.FirstVisibleLine(119), 10);
+  form_.SetText(119, Lines(30));
+  EXPECT_EQ(form_.FirstVisibleLine(119), 0);
+  form_.Scroll(119, ScrollStep::kLineDown);
+  EXPECT_EQ(form_.FirstVisibleLine(119), 0);
+}
+
+TEST_F(FakeFormTest, ATextEndsAtANul) {
+  form_.SetText(119, std::string_view("one\0two", 7));
+  EXPECT_EQ(form_.ReadText(119, kWholeText), "one");
 }
 
 }  // namespace

@@ -13,6 +13,14 @@ bool ComesBefore(const std::string& a, const std::string& b) {
   return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
 }
 
+int CountLines(std::string_view text) {
+  int lines = 1;
+  for (std::size_t end = 0; (end = text.find("\r\n", end)) != std::string_view::npos; end += 2) {
+    ++lines;
+  }
+  return lines;
+}
+
 }  // namespace
 
 bool FakeForm::Control::IsSorted() const {
@@ -75,7 +83,8 @@ std::string FakeForm::ReadText(int id, std::size_t limit) const {
 void FakeForm::SetText(int id, std::string_view text) {
   Control* const control = Find(id);
   if (control == nullptr) return;
-  control->text = text;
+  control->text = text.substr(0, text.find('\0'));
+  control->first_line = 0;
   const bool is_edit = control->control_class == ControlClass::kEdit;
   if (is_edit && (control->style & control_style::kMultiLine) == 0) {
     Notify(id, kEditUpdated);
@@ -131,9 +140,17 @@ void FakeForm::RemoveSelectedItem(int id) {
 
 void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }
 
-void FakeForm::ScrollLine(int id, bool down) {
-  log_.push_back("scroll " + std::to_string(id) + (down ? " down" : " up"));
+void FakeForm::Scroll(int id, ScrollStep step) {
+  Control* const control = Find(id);
+  if (control == nullptr) return;
+  const bool pages = step == ScrollStep::kPageUp || step == ScrollStep::kPageDown;
+  const bool down = step == ScrollStep::kLineDown || step == ScrollStep::kPageDown;
+  const int lines = pages ? kVisibleLines : 1;
+  const int last = std::max(CountLines(control->text) - kVisibleLines, 0);
+  control->first_line = std::clamp(control->first_line + (down ? lines : -lines), 0, last);
 }
+
+int FakeForm::FirstVisibleLine(int id) const { return Find(id)->first_line; }
 
 void FakeForm::Show(int key) {
   Control* const control = Find(key);

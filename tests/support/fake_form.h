@@ -1,6 +1,7 @@
 // Controls that behave as the platform's do, without a window: sorted lists compare letters without
 // regard to case, a refill loses the selection, and notifications come where the platform sends
-// them: from the user's own choices, and from every new text of a single-line edit.
+// them: from the user's own choices, and from every new text of a single-line edit. Lines of
+// multi-line edits are never too wide, so they break at CR LF only.
 
 #ifndef VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
 #define VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
@@ -39,7 +40,10 @@ class FakeForm final : public Form {
   std::string Text(int id) const { return ReadText(id, std::string::npos); }
   const std::vector<std::string>& Items(int id) const;
   std::set<int> ShownKeys() const;
-  // Scrolls, moves of the focus and closings, in order.
+  // Of a multi-line edit, counted from 0. It shows kVisibleLines of them.
+  int FirstVisibleLine(int id) const;
+  static constexpr int kVisibleLines = 30;
+  // Moves of the focus and closings, in order.
   const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
@@ -52,7 +56,7 @@ class FakeForm final : public Form {
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void Focus(int id) override;
-  void ScrollLine(int id, bool down) override;
+  void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;
   void Close() override;
@@ -64,6 +68,7 @@ class FakeForm final : public Form {
     std::string text;
     std::vector<std::string> items;
     int selection = -1;
+    int first_line = 0;
     bool shown = false;
 
     bool IsSorted() const;

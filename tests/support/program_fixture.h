@@ -24,7 +24,10 @@ class FakeMainWindow final : public MainWindow {
  public:
   void Invalidate() override { log.emplace_back("invalidate"); }
   void InvalidateWithoutErasing() override { log.emplace_back("invalidate without erasing"); }
-  void PaintNow() override { log.emplace_back("paint now"); }
+  void PaintNow() override {
+    log.emplace_back("paint now");
+    if (on_paint_now) on_paint_now();
+  }
   void Close() override { log.emplace_back("close"); }
   void EnableMenuItem(int command, bool enabled) override { menu[command] = enabled; }
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override {
@@ -37,6 +40,7 @@ class FakeMainWindow final : public MainWindow {
   }
 
   std::vector<std::string> log;
+  std::function<void()> on_paint_now;
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::unique_ptr<Dialog> opened;  // the last one
 };

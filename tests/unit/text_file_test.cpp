@@ -99,6 +99,13 @@ TEST(ReadFileTest, TellsWhatCannotBeReadFromWhatIsNotThere) {
   EXPECT_EQ(ReadFileToRewrite(folder.path(), 100), std::nullopt);  // a folder
 }
 
+TEST(FileExistsTest, TellsWhatCanBeOpened) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(FileExists(folder.Write("file", "")));
+  EXPECT_FALSE(FileExists(folder.path() + "missing"));
+  EXPECT_FALSE(FileExists(folder.path() + "missing/file"));
+}
+
 TEST(LineReaderTest, KeepsTheBytesBehindANulWhenAskedForTheWholePiece) {
   const std::string text = "ab\0cd\r\nef\nrest"s;
   LineReader reader(text, 149);
@@ -159,6 +166,17 @@ TEST(ReplaceFileTest, AFullDiskLeavesTheFileAsItWas) {
   EXPECT_FALSE(ReplaceFile(path, std::string(2000, 'n')));
   EXPECT_EQ(folder.Read("file"), old);
   EXPECT_EQ(folder.Names(), (Texts{"file"}));
+}
+
+TEST(ReplaceFileTest, AWriteProtectedFileStays) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Write("file", "old");
+  std::filesystem::permissions(path, std::filesystem::perms(0444));
+  EXPECT_FALSE(ReplaceFile(path, "new"));
+  EXPECT_EQ(folder.Read("file"), "old");
+  EXPECT_EQ(folder.Names(), Texts{"file"});
+  std::filesystem::permissions(path, std::filesystem::perms(0464));  // somebody may write it
+  EXPECT_TRUE(ReplaceFile(path, "new"));
 }
 
 TEST(ReplaceFileTest, WhatCannotBeReplacedStays) {

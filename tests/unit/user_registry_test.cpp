@@ -316,6 +316,17 @@ TEST_F(UserFilesTest, DeletingAUserTakesWhatInterruptedWritesLeft) {
   EXPECT_FALSE(Exists("Ann"));
 }
 
+TEST_F(UserFilesTest, DeletingAUserTakesWhatWasKeptBesideTheReports) {
+  MakeUser("Ann");
+  for (const char* const file :
+       {"waga.ASC", "whr.ASC", "mirvo.ASC", "zestaw.ASC", "cwiczenia.ASC"}) {
+    folder_.Write("Ann/"s + file + ".rest.txt", "rest");
+    folder_.Write("Ann/"s + file + ".rest.txt.new", "half");
+  }
+  DeleteUserFiles(session_, "Ann");
+  EXPECT_FALSE(Exists("Ann"));
+}
+
 TEST_F(UserFilesTest, WithoutANameTheElevenInTheBaseFolderAreDeleted) {
   MakeUser("Ann");
   MakeUser("");

@@ -1,0 +1,68 @@
+#include "reports/report_file.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <optional>
+
+#include "base/file_calls.h"
+#include "base/text_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr Report kReports[] = {
+    {4, "Reports overview - WEIGHT", "waga.ASC"},
+    {5, "Reports overview - WHR", "whr.ASC"},
+    {8, "Reports overview - CALORIE", "mirvo.ASC"},
+    {9, "Reports overview - RECIPES", "zestaw.ASC"},
+    {11, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
+};
+
+constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+
+// Adds to what earlier saves have kept; what stands there is never lost.
+bool KeepRest(const std::string& path, std::string_view rest) {
+  if (rest.empty()) return true;
+  std::optional<std::string> kept = ReadFileToRewrite(path, kNoLimit);
+  if (!kept) return false;
+  if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
+  return ReplaceFile(path, kept->append(rest));
+}
+
+}  // namespace
+
+std::span<const Report> Reports() { return kReports; }
+
+const Report* FindReport(ScreenId screen) {
+  const auto* const found = std::ranges::find(kReports, screen, &Report::screen);
+  return found == std::end(kReports) ? nullptr : found;
+}
+
+std::string LoadReport(const std::string& path) {
+  std::string bytes = ReadFile(path, kReportLimit);
+  bytes.resize(std::min(bytes.find('\0'), bytes.size()));
+  return bytes;
+}
+
+bool ClearReport(const std::string& path) {
+  // One byte tells a file from what only looks like one.
+  return ReadFileToRewrite(path, 1).has_value() && ReplaceFile(path, "");
+}
+
+bool SaveReport(const std::string& path, std::string_view shown, std::string_view text) {
+  if (!FileExists(path) || IsWriteProtected(path)) return false;
+  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  if (!old) return false;
+  // A record may have been appended since it was shown. A file that has changed altogether was
+  // never shown as it is now.
+  const std::size_t seen = old->starts_with(shown) ? shown.size() : 0;
+  const std::string_view rest = std::string_view(*old).substr(seen);
+  return KeepRest(RestPath(path), rest) && ReplaceFile(path, text);
+}
+
+std::string RestPath(const std::string& path) { return path + ".rest.txt"; }
+
+bool HasRest(const std::string& path) { return !ReadFile(RestPath(path), 1).empty(); }
+
+}  // namespace velnor

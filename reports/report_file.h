@@ -1,0 +1,52 @@
+// The report files of a user: which screen shows which, and reading, saving and clearing them. They
+// are plain text here, whatever records were appended to them. Used by the report viewer.
+
+#ifndef VELNOR_REPORTS_REPORT_FILE_H_
+#define VELNOR_REPORTS_REPORT_FILE_H_
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/session.h"
+
+namespace velnor {
+
+struct Report {
+  ScreenId screen;  // of the viewer that shows it
+  std::string_view title;
+  std::string_view file_name;  // in the user's folder
+};
+
+std::span<const Report> Reports();
+
+// The report of a screen; null when the screen shows none.
+const Report* FindReport(ScreenId screen);
+
+// So many bytes of a report file are shown at most.
+inline constexpr std::size_t kReportLimit = 29'999;
+
+// The bytes of the file that are shown: the first kReportLimit ones, up to the first NUL. A file
+// that is missing or cannot be read shows nothing.
+std::string LoadReport(const std::string& path);
+
+// Makes the file empty, and makes an empty one when it is missing. False when it stays as it was,
+// which is what a file does that cannot be read.
+bool ClearReport(const std::string& path);
+
+// Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person
+// began to work on the text; bytes of the file that are not in it were never seen by anybody, and
+// are added to the file at RestPath first. A missing file is not made. False when the file stays as
+// it was.
+bool SaveReport(const std::string& path, std::string_view shown, std::string_view text);
+
+// Where saving the report at `path` keeps what was never shown.
+std::string RestPath(const std::string& path);
+
+// Whether anything is kept there.
+bool HasRest(const std::string& path);
+
+}  // namespace velnor
+
+#endif  // VELNOR_REPORTS_REPORT_FILE_H_

@@ -1,0 +1,84 @@
+#include "reports/report_screen.h"
+
+#include <string_view>
+
+#include "base/text_file.h"
+#include "reports/report_file.h"
+
+namespace velnor {
+namespace {
+
+constexpr int kTextEdit = 119;
+
+constexpr std::string_view kSureToClear =
+    "Are You sure You want erase report?\nAll data will be LOST!\n"
+    "ADVICE: You can select and copy whole text to another file.";
+constexpr std::string_view kSureToSave =
+    "Do You want save changes?\nThere`ll be no chance to cancel!";
+constexpr std::string_view kRestNote = "What was not shown when changes were saved is kept in ";
+
+bool IsYes(MessageBoxes& message_boxes, std::string_view question) {
+  return message_boxes.Show({.text = question, .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+}
+
+}  // namespace
+
+ReportScreen::ReportScreen(const SessionState& session, Form& form, MainWindow& window,
+                           MessageBoxes& message_boxes)
+    : session_(session), form_(form), window_(window), message_boxes_(message_boxes) {}
+
+std::string ReportScreen::Path() const {
+  const Report* const report = FindReport(session_.screen);
+  return report == nullptr ? "" : session_.UserFile(report->file_name);
+}
+
+void ReportScreen::Paint(Canvas& canvas) {
+  const Report* const report = FindReport(session_.screen);
+  if (report == nullptr) return;
+  canvas.SetFont(kTitleFont);
+  canvas.DrawText({10, 30}, report->title);
+  canvas.SetFont(kBodyFont);
+  canvas.DrawLine({5, 55}, {695, 55});
+  shown_.path = Path();
+  shown_.bytes = LoadReport(shown_.path);
+  if (HasRest(shown_.path)) {
+    canvas.DrawText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
+  }
+  // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
+  // so it gets none when it has the right one.
+  const std::string text = WithCrLf(shown_.bytes);
+  if (form_.ReadText(kTextEdit, kWholeText) != text) form_.SetText(kTextEdit, text);
+}
+
+void ReportScreen::Clear() {
+  const std::string path = Path();
+  if (path.empty() || !IsYes(message_boxes_, kSureToClear)) return;
+  ClearReport(path);
+  window_.Invalidate();
+}
+
+void ReportScreen::Save() {
+  const std::string path = Path();
+  if (path.empty()) return;
+  // Until the screen is painted, the edit holds the report of the screen before.
+  if (shown_.path != path) window_.PaintNow();
+  // The box lets repaints through, and every repaint reloads the file: what the person has written
+  // is taken before.
+  const std::string text = form_.ReadText(kTextEdit, kWholeText);
+  const std::string shown = shown_.bytes;
+  if (!IsYes(message_boxes_, kSureToSave)) return;
+  SaveReport(path, shown, text);
+  window_.Invalidate();
+}
+
+void ReportScreen::Scroll(ScrollStep step, int times) {
+  for (int i = 0; i < times; ++i) form_.Scroll(kTextEdit, step);
+}
+
+bool ReportScreen::OnMouseWheel(bool down) {
+  if (FindReport(session_.screen) == nullptr) return false;
+  form_.Scroll(kTextEdit, down ? ScrollStep::kLineDown : ScrollStep::kLineUp);
+  return true;
+}
+
+}  // namespace velnor
