@@ -139,6 +139,6 @@ Section un.
   Delete "$INSTDIR\uninstall.exe"
   SetOutPath "$TEMP" ; a folder that somebody stands in cannot be removed
   RMDir "$INSTDIR"
-  DeleteRegKey HKCU "${UNINSTALL_KEY}"
   DeleteRegKey HKCU "${OWN_KEY}"
+  DeleteRegKey HKCU "${UNINSTALL_KEY}" ; last: its entry is there until everything is done
 SectionEnd

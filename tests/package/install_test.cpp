@@ -34,11 +34,10 @@ class Install : public testing::Test {
   static std::optional<std::string> DisplayedVersion() {
     return RegistryText(kUninstallKey, "DisplayVersion");
   }
-  std::optional<std::string> InstalledProgram() const {
-    return Folder(kPrograms + "Velnor\\").Read("velnor.exe");
-  }
-  static std::optional<std::string> BuiltProgram() {
-    return Folder(Environment("VELNOR_BUILD") + '\\').Read("velnor.exe");
+  // Byte by byte. What differs is not shown: it would be megabytes.
+  bool BuiltProgramIsInstalled() const {
+    return Folder(kPrograms + "Velnor\\").Read("velnor.exe") ==
+           Folder(Environment("VELNOR_BUILD") + '\\').Read("velnor.exe");
   }
   // Through the entry that the list of installed programs uses.
   static void Uninstall() {
@@ -105,7 +104,7 @@ class Install : public testing::Test {
 TEST_F(Install, PutsTheProgramItsShortcutAndItsEntryInPlace) {
   ASSERT_EQ(RunCommand(kSetup), 0U);
   EXPECT_EQ(Folder(kPrograms + "Velnor\\").Names(), kInstalled);
-  EXPECT_EQ(InstalledProgram(), BuiltProgram());
+  EXPECT_TRUE(BuiltProgramIsInstalled());
   const Shortcut shortcut = ReadShortcut(kStartMenu + "Velnor calorie counter.lnk");
   EXPECT_EQ(shortcut.target, kPrograms + "Velnor\\velnor.exe");
   EXPECT_EQ(shortcut.start_in, kDocuments + "Velnor");
@@ -130,7 +129,7 @@ TEST_F(Install, TheProgramSaysTheVersionOfItsPackage) {
 TEST_F(Install, DataOutlivesTheUpgradeAndTheRemoval) {
   ASSERT_EQ(RunCommand(kOldSetup), 0U);
   ASSERT_EQ(DisplayedVersion(), Environment("VELNOR_OLD_VERSION"));
-  EXPECT_NE(InstalledProgram(), BuiltProgram());
+  EXPECT_FALSE(BuiltProgramIsInstalled());
   SpendADay();
   const Tree data = ReadTree(kDocuments + "Velnor\\");
   EXPECT_EQ(data.at("users.ASC"), "Ann");
@@ -139,7 +138,7 @@ TEST_F(Install, DataOutlivesTheUpgradeAndTheRemoval) {
   ASSERT_EQ(RunCommand(kSetup), 0U);
   EXPECT_EQ(DisplayedVersion(), Environment("VELNOR_VERSION"));
   EXPECT_EQ(Folder(kPrograms + "Velnor\\").Names(), kInstalled);
-  EXPECT_EQ(InstalledProgram(), BuiltProgram());
+  EXPECT_TRUE(BuiltProgramIsInstalled());
   EXPECT_EQ(ReadTree(kDocuments + "Velnor\\"), data);
 
   {
@@ -194,11 +193,11 @@ TEST_F(Install, ARunningProgramIsNeitherReplacedNorRemoved) {
   const Tree before = ReadTree(program);
   const App app = StartFromMenu();
   EXPECT_EQ(RunCommand(kSetup), 2U);
-  EXPECT_EQ(ReadTree(program), before);
+  EXPECT_TRUE(ReadTree(program) == before);
   EXPECT_EQ(DisplayedVersion(), Environment("VELNOR_OLD_VERSION"));
   // In its own place it ends with its own code, not with that of the copy's start.
   EXPECT_EQ(RunCommand('"' + program + "uninstall.exe\" /S _?=" + kPrograms + "Velnor"), 2U);
-  EXPECT_EQ(ReadTree(program), before);
+  EXPECT_TRUE(ReadTree(program) == before);
   EXPECT_EQ(ReadTree(kStartMenu).count("Velnor calorie counter.lnk"), 1U);
   EXPECT_TRUE(app.IsRunning());
   Exit(app);
