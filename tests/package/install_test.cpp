@@ -73,7 +73,9 @@ class Install : public testing::Test {
   }
   static void AddStrawberries(const App& app) {
     app.main().Command(231);
-    ASSERT_TRUE(app.main().Choose(124, "fruits"));
+    app.Settle();
+    // The repaint fills the list, and on a busy machine it comes late.
+    ASSERT_TRUE(WaitUntil([&app] { return app.main().Choose(124, "fruits"); }));
     ASSERT_TRUE(app.main().Choose(125, "frozen"));
     ASSERT_TRUE(app.main().Choose(126, "frozen strawberries"));
     app.main().SetText(128, "250");
