@@ -313,15 +313,17 @@ App::App(const std::string& program, const Folder& folder) {
 }
 
 App::~App() {
-  if (IsRunning()) {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, kPatience);
-  }
+  if (IsRunning()) Kill();
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
 }
 
 bool App::IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+void App::Kill() const {
+  TerminateProcess(process_.hProcess, 1);
+  WaitForSingleObject(process_.hProcess, kPatience);
+}
 
 std::optional<DWORD> App::WaitForExit() const {
   if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) return std::nullopt;

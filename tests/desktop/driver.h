@@ -93,7 +93,10 @@ class App {
   ~App();
 
   const Window& main() const { return main_; }
+  HANDLE process() const { return process_.hProcess; }
   bool IsRunning() const;
+  // Ends the program at once, as a power failure would, and waits until it is gone.
+  void Kill() const;
   // The exit code, once the program has ended by itself; nothing when it goes on running.
   std::optional<DWORD> WaitForExit() const;
 
