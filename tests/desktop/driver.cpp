@@ -38,6 +38,18 @@ std::vector<std::string> NamesIn(const std::string& folder) {
   return names;
 }
 
+// A new one under a name that nobody has; its path, with a separator at the end.
+std::string MakeFolder() {
+  std::string temporary(MAX_PATH, '\0');
+  temporary.resize(GetTempPathA(MAX_PATH, temporary.data()));
+  for (int attempt = 0; attempt <= 100; ++attempt) {
+    const std::string path = temporary + "velnor-" + std::to_string(GetCurrentProcessId()) + "-" +
+                             std::to_string(GetTickCount()) + "-" + std::to_string(attempt);
+    if (CreateDirectoryA(path.c_str(), nullptr) != 0) return path + '\\';
+  }
+  throw std::runtime_error("no folder can be made for the program to run in");
+}
+
 // With everything in it; `path` ends with a separator.
 void RemoveFolder(const std::string& path) {
   for (const std::string& name : NamesIn(path)) {
@@ -133,21 +145,11 @@ INPUT KeyInput(WORD virtual_key, bool up) {
 
 }  // namespace
 
-WorkFolder::WorkFolder() {
-  std::string temporary(MAX_PATH, '\0');
-  temporary.resize(GetTempPathA(MAX_PATH, temporary.data()));
-  for (int attempt = 0;; ++attempt) {
-    path_ = temporary + "velnor-" + std::to_string(GetCurrentProcessId()) + "-" +
-            std::to_string(GetTickCount()) + "-" + std::to_string(attempt);
-    if (CreateDirectoryA(path_.c_str(), nullptr) != 0) break;
-    if (attempt > 100) throw std::runtime_error("no folder can be made for the program to run in");
-  }
-  path_ += '\\';
-}
+WorkFolder::WorkFolder() : Folder(MakeFolder()) {}
 
-WorkFolder::~WorkFolder() { RemoveFolder(path_); }
+WorkFolder::~WorkFolder() { RemoveFolder(path()); }
 
-void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
+void Folder::Write(const std::string& name, std::string_view bytes) const {
   std::FILE* const file = std::fopen((path_ + name).c_str(), "wb");
   if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() ||
       std::fclose(file) != 0) {
@@ -155,7 +157,7 @@ void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
   }
 }
 
-std::optional<std::string> WorkFolder::Read(const std::string& name) const {
+std::optional<std::string> Folder::Read(const std::string& name) const {
   std::FILE* const file = std::fopen((path_ + name).c_str(), "rb");
   if (file == nullptr) return std::nullopt;
   std::string bytes;
@@ -167,7 +169,7 @@ std::optional<std::string> WorkFolder::Read(const std::string& name) const {
   return bytes;
 }
 
-std::vector<std::string> WorkFolder::Names(const std::string& folder) const {
+std::vector<std::string> Folder::Names(const std::string& folder) const {
   return NamesIn(path_ + folder + (folder.empty() ? "" : "\\"));
 }
 
@@ -291,8 +293,10 @@ void Window::SavePicture(const std::string& path) const {
   std::fclose(file);
 }
 
-App::App(const WorkFolder& folder) {
-  std::string command_line = '"' + ProgramPath() + '"';
+App::App(const WorkFolder& folder) : App(ProgramPath(), folder) {}
+
+App::App(const std::string& program, const Folder& folder) {
+  std::string command_line = '"' + program + '"';
   STARTUPINFOA start = {};
   start.cb = sizeof start;
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
@@ -309,15 +313,17 @@ App::App(const WorkFolder& folder) {
 }
 
 App::~App() {
-  if (IsRunning()) {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, kPatience);
-  }
+  if (IsRunning()) Kill();
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
 }
 
 bool App::IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+void App::Kill() const {
+  TerminateProcess(process_.hProcess, 1);
+  WaitForSingleObject(process_.hProcess, kPatience);
+}
 
 std::optional<DWORD> App::WaitForExit() const {
   if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) return std::nullopt;
