@@ -38,7 +38,31 @@ bool WriteTemporary(const std::string& path, std::string_view bytes) {
   if (!file) return false;
   const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
   const bool closed = Close(std::move(file));
-  return written && closed;
+  if (written && closed) return true;
+  std::remove(TemporaryPath(path).c_str());
+  return false;
+}
+
+// False, and no temporary file any more, when the file stays.
+bool TakePlace(const std::string& path) {
+  const std::string temporary = TemporaryPath(path);
+  if (ReplaceByRename(temporary, path)) return true;
+  std::remove(temporary.c_str());
+  return false;
+}
+
+struct OldFile {
+  std::string path;
+  std::string bytes;
+  bool existed;
+};
+
+void Restore(const OldFile& old) {
+  if (old.existed) {
+    ReplaceFile(old.path, old.bytes);
+  } else {
+    std::remove(old.path.c_str());
+  }
 }
 
 }  // namespace
@@ -76,34 +100,29 @@ bool AppendToFile(const std::string& path, std::string_view text) {
 std::string TemporaryPath(const std::string& path) { return path + ".new"; }
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
-  if (WriteTemporary(path, bytes) && ReplaceByRename(TemporaryPath(path), path)) return true;
-  std::remove(TemporaryPath(path).c_str());
-  return false;
+  return WriteTemporary(path, bytes) && TakePlace(path);
 }
 
 bool ReplaceFiles(std::span<const FileBytes> files) {
-  std::vector<FileBytes> old;
-  for (const auto& [path, bytes] : files) {
-    const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
-    if (!text) return false;
-    old.push_back({path, *text});
+  std::vector<OldFile> old;
+  for (const FileBytes& file : files) {
+    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kNoLimit);
+    if (!bytes) return false;
+    old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
   }
   // What needs space comes first, while nothing has been replaced.
-  bool written = std::ranges::all_of(
-      files, [](const FileBytes& file) { return WriteTemporary(file.path, file.bytes); });
-  std::size_t replaced = 0;
-  while (written && replaced < files.size()) {
-    const std::string& path = files[replaced].path;
-    written = ReplaceByRename(TemporaryPath(path), path);
-    if (written) ++replaced;
+  std::size_t written = 0;
+  while (written < files.size() && WriteTemporary(files[written].path, files[written].bytes)) {
+    ++written;
   }
-  if (written) return true;
-  for (std::size_t i = 0; i < files.size(); ++i) {
-    if (i < replaced) {
-      ReplaceFile(old[i].path, old[i].bytes);
-    } else {
-      std::remove(TemporaryPath(files[i].path).c_str());
-    }
+  std::size_t replaced = 0;
+  if (written == files.size()) {
+    while (replaced < files.size() && TakePlace(files[replaced].path)) ++replaced;
+    if (replaced == files.size()) return true;
+  }
+  for (std::size_t i = 0; i < replaced; ++i) Restore(old[i]);
+  for (std::size_t i = replaced; i < written; ++i) {
+    std::remove(TemporaryPath(files[i].path).c_str());
   }
   return false;
 }

@@ -38,8 +38,8 @@ struct FileBytes {
 };
 
 // Does the same with several files that belong together: when one of them cannot be written, all
-// keep their old bytes, though a missing file may have become an empty one. A crash may still come
-// between two files. False when the old bytes remain.
+// stay as they were. Only a crash can come between two of them, or a disk that also refuses what
+// was there before. False when the old bytes remain.
 bool ReplaceFiles(std::span<const FileBytes> files);
 
 // What ReplaceFile calls the file that it writes beside `path`.

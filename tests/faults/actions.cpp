@@ -111,7 +111,7 @@ void ClearList(Scene& scene) { scene.form().Press(Scene::kClearList); }
 
 void OpenBalance(Scene& scene) { scene.Open(233); }
 
-void ClearDay(Scene& scene) { scene.form().Press(165); }
+void ClearDay(Scene& scene) { scene.form().Press(Scene::kClearDay); }
 
 void EnterBalance(Scene& scene) {
   LogAnnIn(scene);
@@ -205,6 +205,31 @@ void LengthenReport(Scene& scene) {
   scene.WriteFile("Ann/waga.ASC.rest.txt", "kept before");
 }
 
+// --- what was burned
+
+void CountBurned(Scene& scene) {
+  LogAnnIn(scene);
+  scene.Open(238);
+  scene.form().Choose(159, "sitting");
+  scene.form().Type(160, "30");
+  scene.form().Press(161);
+}
+
+void AddBurned(Scene& scene) { scene.form().Press(177); }
+
+void ClearBurned(Scene& scene) { scene.form().Press(179); }
+
+void SaveBurned(Scene& scene) {
+  FakeForm& dialog = scene.Dialog(162, {.edits = {709, 741, 742, 743, 744, 745}});
+  dialog.Press(1);
+}
+
+void BurnYesterday(Scene& scene) { scene.WriteFile("Ann/erg.txt", "15.11.2026;250.;"); }
+
+void ForgetTheBurned(Scene& scene) { scene.RemoveFile("Ann/erg.txt"); }
+
+void OpenActivities(Scene& scene) { scene.Open(238); }
+
 }  // namespace
 
 std::span<const Action> Actions() {
@@ -253,7 +278,14 @@ std::span<const Action> Actions() {
       {.name = "save a recipe", .enter = EatTwice, .act = SaveRecipe},
       {.name = "save a changed report", .enter = OpenReport, .act = SaveReport},
       {.name = "save a report longer than shown", .arrange = LengthenReport, .enter = OpenReport,
-       .act = SaveReport},
+       .act = SaveReport, .again = {{"Ann/waga.ASC.rest.txt", "kept before\r\n-\r\n-"}}},
+      {.name = "open the activities on a new day", .arrange = BurnYesterday, .enter = LogAnnIn,
+       .act = OpenActivities},
+      {.name = "open the activities for the first time", .arrange = ForgetTheBurned,
+       .enter = LogAnnIn, .act = OpenActivities},
+      {.name = "add burned calories", .enter = CountBurned, .act = AddBurned},
+      {.name = "clear the burned calories", .enter = CountBurned, .act = ClearBurned},
+      {.name = "save the burned calories", .enter = CountBurned, .act = SaveBurned},
       {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
   };
   // clang-format on

@@ -37,7 +37,10 @@ struct Action {
   // The action itself. Must be possible a second time, whatever the first one came to.
   void (*act)(Scene& scene);
   std::vector<Between> between = {};
-  // Files that are changed together: after an error that does not last, all of them or none.
+  // What a file may hold besides when the action is done again after it was interrupted.
+  std::vector<Between> again = {};
+  // Files that are changed together: after an error that does not last, all of them or none. After
+  // one that lasts, clearing the day heals them.
   std::vector<std::string_view> together = {};
   std::vector<Saying> says_on_success = {};
   std::vector<Saying> says_on_failure = {};

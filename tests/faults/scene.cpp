@@ -98,9 +98,8 @@ void Scene::CountBmi(const std::string& weight) {
 
 Snapshot Scene::Look() const {
   Snapshot snapshot;
-  const std::filesystem::path root(folder_.path());
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-    const std::string name = std::filesystem::relative(entry.path(), root).string();
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_.path())) {
+    const std::string name = entry.path().string().substr(folder_.path().size());
     auto& kind = name.ends_with(TemporaryPath("")) ? snapshot.temporaries : snapshot.files;
     kind[name] = entry.is_directory() ? "folder" : folder_.Read(name);
   }

@@ -64,6 +64,8 @@ class Scene : public DayTest {
   }
   void RemoveFile(const std::string& name) const;
 
+  static constexpr int kClearDay = 165;
+
   using DayTest::AddStrawberries;
   using DayTest::kClearList;
   using DayTest::Remove;
