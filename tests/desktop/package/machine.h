@@ -13,7 +13,7 @@
 
 namespace velnor::desktop {
 
-// A variable that tests/package/run sets; throws without it.
+// A variable that tests/desktop/package/run sets; throws without it.
 std::string Environment(const char* name);
 
 // A folder of the person who runs the test, by its CSIDL; with a separator at its end.

@@ -1,5 +1,6 @@
 // Installs, upgrades and removes the program as a person would, on a machine that has never seen it
-// (a new Wine prefix; see tests/package/run), and looks at every byte of the data in between.
+// (a new Wine prefix; see tests/desktop/package/run), and looks at every byte of the data in
+// between.
 
 #include <windows.h>
 
@@ -9,7 +10,7 @@
 #include <vector>
 
 #include "tests/desktop/driver.h"
-#include "tests/package/machine.h"
+#include "tests/desktop/package/machine.h"
 
 namespace velnor::desktop {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/package/machine.h"
+#include "tests/desktop/package/machine.h"
 
 #include <cstdlib>
 #include <stdexcept>
