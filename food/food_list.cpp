@@ -11,8 +11,8 @@ constexpr std::string_view kGap = "  ";
 constexpr char kUnit = 'g';
 constexpr double kLeastWeight = 1.0;
 
-float Total(float figure, double change) {
-  const auto total = static_cast<float>(figure + change);
+float Total(std::string_view shown, double change) {
+  const auto total = static_cast<float>(ParseNumber(shown) + change);
   return total >= kTrace ? total : 0;
 }
 
@@ -51,12 +51,10 @@ DayTotals ListedAmounts(const FoodTable& food, const ListedFood& listed, FigureK
           shown(amounts.carbohydrate)};
 }
 
-void ListTotals::Change(double weight_change, const DayTotals& change) {
-  weight = Total(weight, weight_change);
-  kcal = Total(kcal, change.kcal);
-  protein = Total(protein, change.protein);
-  fat = Total(fat, change.fat);
-  carbohydrate = Total(carbohydrate, change.carbohydrate);
+ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayTotals& change) {
+  return {Total(shown.weight, weight_change), Total(shown.kcal, change.kcal),
+          Total(shown.protein, change.protein), Total(shown.fat, change.fat),
+          Total(shown.carbohydrate, change.carbohydrate)};
 }
 
 }  // namespace velnor

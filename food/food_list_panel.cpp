@@ -73,8 +73,7 @@ void FoodListPanel::Add(const std::string& product) {
     message_boxes_.Show({.text = kTooLight});
     return;
   }
-  ListTotals totals = ReadTotals();
-  totals.Change(ParseNumber(listed.weight), amounts);
+  const ListTotals totals = TotalsAfter(Totals(kNumberLimit), ParseNumber(listed.weight), amounts);
   const bool written = day_.ChangeExchanges(ExchangesOf(amounts));
   ShowTotals(totals);
   if (!written) ReportFailedWrite();
@@ -97,8 +96,8 @@ void FoodListPanel::Remove() {
   if (is_own) lines_with_own_figures_.erase(own);
   // A food that was refused for its weight is in the day's totals alone.
   if (!CountsInTotals(listed.weight)) return;
-  ListTotals totals = ReadTotals();
-  totals.Change(-ParseNumber(listed.weight), -amounts);
+  const ListTotals totals =
+      TotalsAfter(Totals(kNumberLimit), -ParseNumber(listed.weight), -amounts);
   const bool written = day_.ChangeExchanges(-ExchangesOf(amounts));
   ShowTotals(totals);
   if (!written) ReportFailedWrite();
@@ -143,13 +142,6 @@ std::vector<std::string> FoodListPanel::Lines() const {
   std::vector<std::string> lines;
   for (int i = 0; i < form_.ItemCount(kList); ++i) lines.push_back(form_.ItemText(kList, i));
   return lines;
-}
-
-ListTotals FoodListPanel::ReadTotals() const {
-  const TotalTexts texts = Totals(kNumberLimit);
-  const auto number = [](const std::string& text) { return static_cast<float>(ParseNumber(text)); };
-  return {number(texts.weight), number(texts.kcal), number(texts.protein), number(texts.fat),
-          number(texts.carbohydrate)};
 }
 
 void FoodListPanel::ShowTotals(const ListTotals& totals) {

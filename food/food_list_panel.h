@@ -45,7 +45,6 @@ class FoodListPanel {
   std::vector<std::string> Lines() const;
 
  private:
-  ListTotals ReadTotals() const;
   void ShowTotals(const ListTotals& totals);
   void ReportFailedWrite();
 
