@@ -72,8 +72,7 @@ void FoodListPanel::Add(const std::string& product) {
     message_boxes_.Show({.text = kTooLight});
     return;
   }
-  ListTotals totals = ReadTotals();
-  totals.Change(ParseNumber(listed.weight), amounts);
+  const ListTotals totals = TotalsAfter(Totals(kNumberLimit), ParseNumber(listed.weight), amounts);
   ShowTotals(totals);
 }
 
@@ -92,8 +91,8 @@ void FoodListPanel::Remove() {
   form_.RemoveSelectedItem(kList);
   if (is_own) lines_with_own_figures_.erase(own);
   if (!counts) return;
-  ListTotals totals = ReadTotals();
-  totals.Change(-ParseNumber(listed.weight), -amounts);
+  const ListTotals totals =
+      TotalsAfter(Totals(kNumberLimit), -ParseNumber(listed.weight), -amounts);
   ShowTotals(totals);
 }
 
@@ -128,15 +127,10 @@ TotalTexts FoodListPanel::Totals(std::size_t limit) const {
 
 std::vector<std::string> FoodListPanel::Lines() const {
   std::vector<std::string> lines;
-  for (int i = 0; i < form_.ItemCount(kList); ++i) lines.push_back(form_.ItemText(kList, i));
+  const int count = form_.ItemCount(kList);
+  lines.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) lines.push_back(form_.ItemText(kList, i));
   return lines;
-}
-
-ListTotals FoodListPanel::ReadTotals() const {
-  const TotalTexts texts = Totals(kNumberLimit);
-  const auto number = [](const std::string& text) { return static_cast<float>(ParseNumber(text)); };
-  return {number(texts.weight), number(texts.kcal), number(texts.protein), number(texts.fat),
-          number(texts.carbohydrate)};
 }
 
 void FoodListPanel::ShowTotals(const ListTotals& totals) {

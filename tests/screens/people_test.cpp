@@ -342,6 +342,21 @@ TEST_F(PeopleTest, APregnantManIsPointedOutButNotASucklingOne) {
   EXPECT_EQ(LogIn("Bob"), Texts{});
 }
 
+// The screens take him for a man like any other; his profile stays for him to mend.
+TEST_F(PeopleTest, APregnantManIsNotTakenForOne) {
+  const auto note = [this](const std::string& profile) {
+    folder_.Write("Bob/info.ASC", profile);
+    LogIn("Bob");
+    return Open(221).texts.back().text;
+  };
+  Start();
+  Register("Bob");
+  EXPECT_EQ(note("35\r\n170\r\nwomen\r\nlow\r\npregnant"),
+            "During pregnancy BMI coefficient is useless!");
+  EXPECT_EQ(note("35\r\n170\r\nmen\r\nlow\r\npregnant"), "BMI =  ");
+  EXPECT_EQ(folder_.Read("Bob/info.ASC"), "35\r\n170\r\nmen\r\nlow\r\npregnant");
+}
+
 TEST_F(PeopleTest, ANewDayStartsTheBalanceAfresh) {
   Start();
   Register("Ann");
