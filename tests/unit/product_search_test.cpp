@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ TEST(SearchProductsTest, FindsPiecesOfSubcategoryAndName) {
       ++expected;
   }
   EXPECT_EQ(results.size(), expected);
+  EXPECT_EQ(std::set<std::string>(results.begin(), results.end()).size(), expected) << "each once";
   EXPECT_EQ(results.front(), "fruits --> frozen --> frozen strawberries");
   EXPECT_TRUE(Contains(results, "fruits --> frozen --> frozen plums"));
 }
