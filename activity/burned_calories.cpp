@@ -1,5 +1,6 @@
 #include "activity/burned_calories.h"
 
+#include <cmath>
 #include <cstddef>
 #include <optional>
 
@@ -17,6 +18,10 @@ constexpr char kFieldEnd = ';';
 
 constexpr int kShownDigits = 9;
 constexpr int kTotalDigits = 15;
+
+// kcal. What taking an entry back with a negative one leaves, because fewer digits are read than
+// written. As -8e-11 it would lose its exponent when it is read again, and be -8.
+constexpr double kRoundingRest = 1e-4;
 
 constexpr double kBodyFatGrams = 1000.0;  // hold
 constexpr double kBodyFatKcal = 7000.0;
@@ -81,6 +86,7 @@ std::string BurnedTotal::RefreshForToday() {
 std::string BurnedTotal::Add(std::string_view burned) {
   const DayLine line = Read();
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
+  if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
   if (line.is_readable) {
     ReplaceFile(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);

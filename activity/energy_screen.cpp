@@ -15,6 +15,10 @@ constexpr std::size_t kBmrLimit = 10;
 constexpr std::string_view kNoBmr =
     "Put the value of Your BMR factor!\nIf You don`t know it use our built-in calculator.";
 
+// Small enough for a label to end before its figure, and a remark before the edge of the window.
+constexpr Font kLabelFont{12, 0, false};
+constexpr Font kRemarkFont{11, 0, false};
+
 constexpr Colour kWhite{255, 255, 255};
 
 constexpr PlacedText kIntroduction[] = {
@@ -72,7 +76,9 @@ void PaintArrow(Canvas& canvas, const Scale& scale, double kcal) {
 }
 
 void PaintFigure(Canvas& canvas, const Scale& scale, double kcal) {
+  canvas.SetFont(kLabelFont);
   canvas.DrawText({10, scale.label_y}, scale.label);
+  canvas.SetFont(kBodyFont);
   canvas.DrawText({220, scale.label_y}, Rounded(kcal, kScaleDigits));
 }
 
@@ -88,6 +94,7 @@ void PaintScales(Canvas& canvas, double out, double eaten) {
     PaintArrow(canvas, kOut, out);
     PaintArrow(canvas, kEaten, eaten);
   }
+  canvas.SetFont(kRemarkFont);
   if (!out_fits) canvas.DrawText({720, kOut.out_of_scale_y}, "OUT OF SCALE");
   if (!eaten_fits) canvas.DrawText({720, kEaten.out_of_scale_y}, "OUT OF SCALE");
 }

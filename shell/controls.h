@@ -45,7 +45,7 @@ struct ControlRow {
   bool has_sunken_edge() const { return style != control_style::kGroupBox; }
 };
 
-// The font of a control: the body font, or a small one where a figure of six digits would not fit
+// The font of a control: the body font, or a smaller one where the figures of a field would not fit
 // otherwise.
 Font ControlFont(const ControlRow& row);
 

@@ -37,13 +37,6 @@ constexpr ExpectedActivity kExpected[] = {
 #include "tests/support/burned_activities.inc"
 };
 
-std::string Today() {
-  SYSTEMTIME now = {};
-  GetLocalTime(&now);
-  return std::to_string(now.wDay) + '.' + std::to_string(now.wMonth) + '.' +
-         std::to_string(now.wYear);
-}
-
 class Activity : public testing::Test {
  protected:
   Activity() {

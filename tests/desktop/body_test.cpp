@@ -17,13 +17,6 @@ constexpr int kOpenWhr = 224;
 constexpr int kOpenBmr = 225;
 constexpr int kWeight = 101;
 
-std::string Today() {
-  SYSTEMTIME now = {};
-  GetLocalTime(&now);
-  return std::to_string(now.wDay) + '.' + std::to_string(now.wMonth) + '.' +
-         std::to_string(now.wYear);
-}
-
 class Body : public testing::Test {
  protected:
   Body() {

@@ -24,16 +24,6 @@ constexpr COLORREF kBand = RGB(0, 255, 0);
 constexpr const char* kTooFew =
     "Not enought data to draw graph.\nNeed at least 3 savings (from 3 different days).";
 
-// What the display shows at a point of the window's client area.
-COLORREF PixelAt(const Window& window, int x, int y) {
-  POINT point = {x, y};
-  ClientToScreen(window.handle(), &point);
-  const HDC screen = GetDC(nullptr);
-  const COLORREF colour = GetPixel(screen, point.x, point.y);
-  ReleaseDC(nullptr, screen);
-  return colour;
-}
-
 // Dialogs and message boxes of the program that can be seen.
 int CountPopups(const App& app) {
   DWORD process = 0;

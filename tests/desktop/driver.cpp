@@ -436,6 +436,15 @@ bool WaitUntilGone(HWND window) {
   return WaitUntil([=] { return IsWindow(window) == 0; });
 }
 
+COLORREF PixelAt(const Window& window, int x, int y) {
+  POINT point = {x, y};
+  ClientToScreen(window.handle(), &point);
+  const HDC screen = GetDC(nullptr);
+  const COLORREF colour = GetPixel(screen, point.x, point.y);
+  ReleaseDC(nullptr, screen);
+  return colour;
+}
+
 std::string ProgramPath() { return FolderOfThisProgram() + "velnor.exe"; }
 
 std::string Today() {

@@ -123,6 +123,9 @@ std::string ProgramPath();
 // The date as the program writes it, without leading zeros.
 std::string Today();
 
+// What the display shows at a point of the window's client area.
+COLORREF PixelAt(const Window& window, int x, int y);
+
 // Presses a button of an open box and waits until the box is gone.
 void Answer(const MessageBoxSeen& box, int button);
 

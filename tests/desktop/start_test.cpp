@@ -66,17 +66,9 @@ TEST_F(Start, TheAboutBoxShowsTheVersionAndGoesOnOkAndOnEscape) {
   }
 }
 
-// The colour of a client pixel of the main window, as the screen shows it.
-COLORREF PixelAt(const Window& window, int x, int y) {
-  POINT point = {x, y};
-  ClientToScreen(window.handle(), &point);
-  const HDC screen = GetDC(nullptr);
-  const COLORREF colour = GetPixel(screen, point.x, point.y);
-  ReleaseDC(nullptr, screen);
-  return colour;
-}
-
 TEST_F(Start, TheHeaderIsDrawnOverTheBackground) {
+  // The display is black until the window is drawn.
+  EXPECT_TRUE(WaitUntil([this] { return PixelAt(app_.main(), 400, 300) != RGB(0, 0, 0); }));
   EXPECT_TRUE(WaitUntil([this] { return PixelAt(app_.main(), 4, 20) == RGB(0, 0, 0); }));
   EXPECT_EQ(PixelAt(app_.main(), 789, 20), RGB(0, 0, 0));  // its last point is not drawn
   EXPECT_NE(PixelAt(app_.main(), 790, 20), RGB(0, 0, 0));

@@ -18,6 +18,8 @@ constexpr int kCount = 182;
 
 constexpr Font kTitle{18, 700, true};
 constexpr Font kBody{14, 0, false};
+constexpr Font kLabel{12, 0, false};
+constexpr Font kRemark{11, 0, false};
 constexpr Pen kWhitePen{{255, 255, 255}, 1};
 
 const Texts kNoBmr = {
@@ -75,9 +77,9 @@ TEST_F(EnergyScreenTest, PaintsItsTexts) {
        {10, 530},
        kBody,
        kBlack},
-      {"burned energy + BMR + digestion [kcal]", {10, 250}, kBody, kBlack},
+      {"burned energy + BMR + digestion [kcal]", {10, 250}, kLabel, kBlack},
       {"1950.", {220, 250}, kBody, kBlack},
-      {"eaten energy [kcal]", {10, 350}, kBody, kBlack},
+      {"eaten energy [kcal]", {10, 350}, kLabel, kBlack},
       {"2000.", {220, 350}, kBody, kBlack},
   };
   for (const int y : {306, 406}) {
@@ -125,6 +127,7 @@ TEST_F(EnergyScreenTest, EitherAmountBeyondItsScaleTakesBothArrows) {
   EXPECT_EQ(Arrows(canvas), std::vector<Points>{});
   canvas = Count("7000", "", "16.11.2026\r\n8000.");
   EXPECT_EQ(At(canvas, {720, 270}) + At(canvas, {720, 370}), "OUT OF SCALE|OUT OF SCALE|");
+  EXPECT_EQ(canvas.texts.back(), (DrawnText{"OUT OF SCALE", {720, 370}, kRemark, kBlack}));
   canvas = Count("6000", "16.11.2026;399;", "16.11.2026\r\n6999.");
   EXPECT_EQ(At(canvas, {720, 270}) + At(canvas, {720, 370}), "");
   EXPECT_EQ(Arrows(canvas).front().front(), (Point{749, 298}));

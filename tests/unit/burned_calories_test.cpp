@@ -208,6 +208,17 @@ TEST_F(BurnedTotalTest, CarriesTheNoiseOfSinglePrecision) {
 
 // Both numbers are added in double precision: in single precision the first is 16777216, to which
 // 0.02 adds nothing.
+TEST_F(BurnedTotalTest, TakingAnEntryBackLeavesNothing) {
+  for (const char* const burned : {"0.300000012", "123.400002", "9", "0.0123456789"}) {
+    total_.Clear();
+    total_.Add(burned);
+    EXPECT_EQ(total_.Add('-' + std::string(burned)), "0.") << burned;
+    EXPECT_EQ(total_.kcal(), 0) << burned;
+  }
+  EXPECT_EQ(total_.Add("0.0001"), "0.") << "9.99999974737875e-05 could not be read again";
+  EXPECT_EQ(total_.Add("0.00011"), "0.000110000000859145");
+}
+
 TEST_F(BurnedTotalTest, IsRoundedOnceOnly) {
   Write("7.3.2008;16777216.99;");
   EXPECT_EQ(total_.Add("0.02"), "16777218.");
