@@ -49,7 +49,8 @@ void Confirm(ProgramRun& run, const UserRegistry& registry) {
   Require(run.dialog() == nullptr, "a list that can be written is written");
   const std::string bytes = run.Read("users.ASC");
   Require(bytes.ends_with(registry.rest), "what is not shown stays");
-  if (!registry.rest.empty()) return;
+  // Line ends that were shorter before can make it longer than what is shown.
+  if (!registry.rest.empty() || bytes.size() > kRegistryLimit) return;
   const UserRegistry again = ReadRegistry(run);
   Require(Sorted(again.names) == Sorted(registry.names), "the names written are read back");
   Require(RegistryBytes(again) == bytes, "a list written is one that would be written");
