@@ -1,6 +1,7 @@
 #include "food/day_balance.h"
 
 #include <array>
+#include <cmath>
 #include <vector>
 
 #include "base/number_text.h"
@@ -36,9 +37,10 @@ std::optional<BalanceLines> ReadLines(const std::string& path) {
   return lines;
 }
 
+// A total beyond the range of its type is written as what it would be read as.
 double Total(double figure, double change) {
   const double total = figure + change;
-  return total > kRoundingRest ? total : 0;
+  return std::isfinite(total) && total > kRoundingRest ? total : 0;
 }
 
 std::string Stored(double figure) { return FormatNumber(figure, kStoredDigits); }

@@ -15,8 +15,8 @@ constexpr int kSex = 706;
 constexpr int kLifeStyle = 707;
 constexpr int kOther = 708;
 
-// What a line of the profile file can hold.
-constexpr std::size_t kTypedLimit = 99;
+// What a line of the profile file can hold beside its end.
+constexpr std::size_t kTypedLimit = 98;
 
 constexpr std::string_view kSexes[] = {"women", "men"};
 constexpr std::string_view kLifeStyles[] = {"low", "medium", "high", "very high"};

@@ -445,6 +445,20 @@ TEST_F(PeopleTest, SavingWritesTheProfileAndGoesHome) {
   EXPECT_EQ(profile_.Log(), (Texts{"close"}));
 }
 
+// A line that were longer would be read back as two, and every one behind it as the next one's.
+TEST_F(PeopleTest, TheLongestTextsThatAreSavedAreReadBack) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  OpenProfile();
+  profile_.SetText(704, std::string(120, '7'));
+  profile_.SetText(705, "170");
+  profile_.Press(1);
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), std::string(98, '7'));
+  EXPECT_EQ(profile_.Text(705), "170");
+}
+
 TEST_F(PeopleTest, AContradictionIsPointedOutAndSavedWithoutIt) {
   Start();
   Register("Bob");

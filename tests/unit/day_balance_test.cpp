@@ -199,6 +199,16 @@ TEST_F(DayBalanceTest, NoFigureFallsBelowNothing) {
 
 // Eight digits are written: taking off again what was added can leave a rest in the last of them.
 // Written as 1.2e-05 it would be read back as 1.2 by who reads eight characters.
+// It would be read as nothing, too.
+TEST_F(DayBalanceTest, ATotalBeyondEveryRangeIsWrittenAsNothing) {
+  Write("bilans.ASC", "5.3.2026\r\n1e999\r\n1e308\r\n3\r\n4");
+  Write("z1.ASC", "1e999");
+  EXPECT_TRUE(day_.ChangeTotals({1, 1e308, 1, 1}));
+  EXPECT_TRUE(day_.ChangeExchanges({1, 1}));
+  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.\r\n4.\r\n5.");
+  EXPECT_EQ(Read("z1.ASC"), "0.");
+}
+
 TEST_F(DayBalanceTest, ARestOfRoundingIsNothing) {
   Write("bilans.ASC", "5.3.2026\r\n0.00004\r\n0.00011\r\n0.\r\n0.");
   Write("z1.ASC", "0.00004");
