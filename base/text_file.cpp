@@ -141,24 +141,22 @@ std::string WithCrLf(std::string_view text) {
 
 std::optional<std::string_view> LineReader::Next() {
   const std::optional<std::string_view> piece = NextWhole();
-  if (!piece) return piece;
+  if (!piece || !has_nul_) return piece;
   return piece->substr(0, piece->find('\0'));
 }
 
 std::optional<std::string_view> LineReader::NextWhole() {
   if (rest_.empty()) return std::nullopt;
-  std::size_t end = 0;       // of the piece's own characters
-  std::size_t consumed = 0;  // the piece and its line end
-  for (std::size_t count = 0; count < limit_ && consumed < rest_.size(); ++count) {
-    if (rest_[consumed] == '\n') {
-      ++consumed;
-      break;
+  // A line end may begin with the last character of the piece and have its second one behind it.
+  const std::size_t line_feed = rest_.substr(0, limit_ + 1).find('\n');
+  std::size_t end = std::min(limit_, rest_.size());  // of the piece's own characters
+  std::size_t consumed = end;                        // the piece and its line end
+  if (line_feed != std::string_view::npos) {
+    const bool after_return = line_feed > 0 && rest_[line_feed - 1] == '\r';
+    if (after_return || line_feed < limit_) {
+      end = after_return ? line_feed - 1 : line_feed;
+      consumed = line_feed + 1;
     }
-    if (rest_.substr(consumed, 2) == "\r\n") {
-      consumed += 2;
-      break;
-    }
-    end = ++consumed;
   }
   const std::string_view piece = rest_.substr(0, end);
   rest_.remove_prefix(consumed);

@@ -54,7 +54,8 @@ std::string WithCrLf(std::string_view text);
 // first NUL on is dropped. The pieces are views into the text.
 class LineReader {
  public:
-  LineReader(std::string_view text, std::size_t limit) : rest_(text), limit_(limit) {}
+  LineReader(std::string_view text, std::size_t limit)
+      : rest_(text), limit_(limit), has_nul_(text.find('\0') != std::string_view::npos) {}
 
   // The next piece without its line end; nothing at the end of the text.
   std::optional<std::string_view> Next();
@@ -66,6 +67,8 @@ class LineReader {
  private:
   std::string_view rest_;
   std::size_t limit_;
+  bool has_nul_;  // hardly any text has one, and looking in every piece would cost as much as
+                  // finding the pieces
 };
 
 }  // namespace velnor

@@ -56,26 +56,29 @@ bool EmptyFile(const std::string& path) {
   return text && (text->empty() || ReplaceFile(path, ""));
 }
 
-}  // namespace
-
-bool DayBalance::StartDayIfNew() const {
-  const std::optional<BalanceLines> lines = ReadLines(BalancePath());
-  if (!lines) return false;
-  if (lines->front().starts_with(session_.date_text)) return true;
+// The balance of today: a new day is started when it is not.
+std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
+  const std::string path = session.UserFile(kBalanceFile);
+  std::optional<BalanceLines> lines = ReadLines(path);
+  if (!lines || lines->front().starts_with(session.date_text)) return lines;
   // The date comes last: when it stands, the day has been started whole.
   for (const std::string_view file : kExchangeFiles) {
-    if (!EmptyFile(session_.UserFile(file))) return false;
+    if (!EmptyFile(session.UserFile(file))) return std::nullopt;
   }
-  return ReplaceFile(BalancePath(), session_.date_text);
+  if (!ReplaceFile(path, session.date_text)) return std::nullopt;
+  return BalanceLines{session.date_text};
 }
+
+}  // namespace
+
+bool DayBalance::StartDayIfNew() const { return LinesOfToday(session_).has_value(); }
 
 void DayBalance::MakeExchangeFiles() const {
   for (const std::string_view file : kExchangeFiles) AppendToFile(session_.UserFile(file), "");
 }
 
 std::optional<DayTotals> DayBalance::ReadTotals() const {
-  if (!StartDayIfNew()) return std::nullopt;
-  const std::optional<BalanceLines> lines = ReadLines(BalancePath());
+  const std::optional<BalanceLines> lines = LinesOfToday(session_);
   if (!lines) return std::nullopt;
   const auto number = [&](std::size_t line) { return ParseNumber((*lines)[line]); };
   return DayTotals{number(1), number(2), number(3), number(4)};

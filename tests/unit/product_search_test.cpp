@@ -84,5 +84,16 @@ TEST(SearchProductsTest, MarksTheUsersProducts) {
   EXPECT_EQ(SearchProducts(food, "fresh zz"), (Results{"[B] fruits --> fresh --> zz apple pie"}));
 }
 
+TEST(SearchProductsTest, FindsWhatTheLastLoadBroughtAndNothingElse) {
+  const TemporaryFolder folder;
+  FoodTable food;
+  food.user_products.Load(folder.Write("data.txt", "fruits;fresh;zzz apple;100;1;1;1;1;\r\n"));
+  food.user_products.Load(folder.Write(
+      "data.txt",
+      "abc\r\nfruits;fresh;zzz pear;100;1;1;1;1;\r\nmeat;pork;zzz ham;100;1;1;1;1;\r\n"));
+  EXPECT_EQ(SearchProducts(food, "zzz"),
+            (Results{"[B] fruits --> fresh --> zzz pear", "[B] meat --> pork --> zzz ham"}));
+}
+
 }  // namespace
 }  // namespace velnor

@@ -63,6 +63,9 @@ TEST(LineReaderTest, CountsTheLineEndAsACharacterOfThePiece) {
   EXPECT_EQ(Lines("abc\nd", 3), (Texts{"abc", "", "d"}));
   EXPECT_EQ(Lines("abc\r\nd", 3), (Texts{"abc", "", "d"}));
   EXPECT_EQ(Lines("ab\r\nd", 3), (Texts{"ab", "d"}));
+  EXPECT_EQ(Lines("ab\nd", 3), (Texts{"ab", "d"}));
+  EXPECT_EQ(Lines("ab\r\rd\n", 3), (Texts{"ab\r", "\rd"}));
+  EXPECT_EQ(Lines("abcd\r\n", 3), (Texts{"abc", "d"}));
 }
 
 TEST(LineReaderTest, DropsWhatFollowsANul) {
