@@ -203,8 +203,7 @@ TEST_F(DayBalanceTest, NoFigureFallsBelowNothing) {
 TEST_F(DayBalanceTest, ATotalBeyondEveryRangeIsWrittenAsNothing) {
   Write("bilans.ASC", "5.3.2026\r\n1e999\r\n1e308\r\n3\r\n4");
   Write("z1.ASC", "1e999");
-  EXPECT_TRUE(day_.ChangeTotals({1, 1e308, 1, 1}));
-  EXPECT_TRUE(day_.ChangeExchanges({1, 1}));
+  EXPECT_TRUE(day_.Change({1, 1e308, 1, 1}, DayExchanges{1, 1}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.\r\n4.\r\n5.");
   EXPECT_EQ(Read("z1.ASC"), "0.");
 }
