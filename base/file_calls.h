@@ -4,7 +4,6 @@
 #ifndef VELNOR_BASE_FILE_CALLS_H_
 #define VELNOR_BASE_FILE_CALLS_H_
 
-#include <cstdint>
 #include <cstdio>
 #include <string>
 
@@ -20,9 +19,6 @@ bool ReplaceByRename(const std::string& from, const std::string& to);
 
 // Whether the file is marked as one that nobody is to write. A missing file is not.
 bool IsWriteProtected(const std::string& path);
-
-// Cuts the open `file` back to `size` bytes. False when the system could not.
-bool CutBack(std::FILE* file, std::int64_t size);
 
 // Makes or removes one folder; only an empty one is removed. False when the system could not.
 bool MakeFolder(const std::string& path);

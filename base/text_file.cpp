@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "base/file_calls.h"
 
 namespace velnor {
 namespace {
+
+constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 struct Closer {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -26,6 +30,40 @@ bool Write(std::FILE* file, std::string_view bytes) {
 
 // Closing reports what the system could not write until then.
 bool Close(File file) { return std::fclose(file.release()) == 0; }
+
+bool WriteTemporary(const std::string& path, std::string_view bytes) {
+  // To take the place of a file, a system asks the folder's leave and not always the file's.
+  if (IsWriteProtected(path)) return false;
+  File file = Open(TemporaryPath(path), "wb");
+  if (!file) return false;
+  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
+  const bool closed = Close(std::move(file));
+  if (written && closed) return true;
+  std::remove(TemporaryPath(path).c_str());
+  return false;
+}
+
+// False, and no temporary file any more, when the file stays.
+bool TakePlace(const std::string& path) {
+  const std::string temporary = TemporaryPath(path);
+  if (ReplaceByRename(temporary, path)) return true;
+  std::remove(temporary.c_str());
+  return false;
+}
+
+struct OldFile {
+  std::string path;
+  std::string bytes;
+  bool existed;
+};
+
+void Restore(const OldFile& old) {
+  if (old.existed) {
+    ReplaceFile(old.path, old.bytes);
+  } else {
+    std::remove(old.path.c_str());
+  }
+}
 
 }  // namespace
 
@@ -54,31 +92,38 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
 bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
-  const std::string bytes = WithCrLf(text);
-  File file = Open(path, "ab");
-  if (!file) return false;
-  if (bytes.empty()) return true;
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);  // the text goes to the system whole
-  if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
-  const std::int64_t size = std::ftell(file.get());
-  if (size < 0) return false;
-  if (Write(file.get(), bytes) && FlushToDisk(file.get())) return Close(std::move(file));
-  CutBack(file.get(), size);
-  return false;
+  if (text.empty()) return Open(path, "ab") != nullptr;
+  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  return old && ReplaceFile(path, *old + WithCrLf(text));
 }
 
 std::string TemporaryPath(const std::string& path) { return path + ".new"; }
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
-  // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (IsWriteProtected(path)) return false;
-  const std::string temporary = TemporaryPath(path);
-  File file = Open(temporary, "wb");
-  if (!file) return false;
-  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
-  const bool closed = Close(std::move(file));
-  if (written && closed && ReplaceByRename(temporary, path)) return true;
-  std::remove(temporary.c_str());
+  return WriteTemporary(path, bytes) && TakePlace(path);
+}
+
+bool ReplaceFiles(std::span<const FileBytes> files) {
+  std::vector<OldFile> old;
+  for (const FileBytes& file : files) {
+    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kNoLimit);
+    if (!bytes) return false;
+    old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
+  }
+  // What needs space comes first, while nothing has been replaced.
+  std::size_t written = 0;
+  while (written < files.size() && WriteTemporary(files[written].path, files[written].bytes)) {
+    ++written;
+  }
+  std::size_t replaced = 0;
+  if (written == files.size()) {
+    while (replaced < files.size() && TakePlace(files[replaced].path)) ++replaced;
+    if (replaced == files.size()) return true;
+  }
+  for (std::size_t i = 0; i < replaced; ++i) Restore(old[i]);
+  for (std::size_t i = replaced; i < written; ++i) {
+    std::remove(TemporaryPath(files[i].path).c_str());
+  }
   return false;
 }
 
@@ -96,24 +141,22 @@ std::string WithCrLf(std::string_view text) {
 
 std::optional<std::string_view> LineReader::Next() {
   const std::optional<std::string_view> piece = NextWhole();
-  if (!piece) return piece;
+  if (!piece || !has_nul_) return piece;
   return piece->substr(0, piece->find('\0'));
 }
 
 std::optional<std::string_view> LineReader::NextWhole() {
   if (rest_.empty()) return std::nullopt;
-  std::size_t end = 0;       // of the piece's own characters
-  std::size_t consumed = 0;  // the piece and its line end
-  for (std::size_t count = 0; count < limit_ && consumed < rest_.size(); ++count) {
-    if (rest_[consumed] == '\n') {
-      ++consumed;
-      break;
+  // A line end may begin with the last character of the piece and have its second one behind it.
+  const std::size_t line_feed = rest_.substr(0, limit_ + 1).find('\n');
+  std::size_t end = std::min(limit_, rest_.size());  // of the piece's own characters
+  std::size_t consumed = end;                        // the piece and its line end
+  if (line_feed != std::string_view::npos) {
+    const bool after_return = line_feed > 0 && rest_[line_feed - 1] == '\r';
+    if (after_return || line_feed < limit_) {
+      end = after_return ? line_feed - 1 : line_feed;
+      consumed = line_feed + 1;
     }
-    if (rest_.substr(consumed, 2) == "\r\n") {
-      consumed += 2;
-      break;
-    }
-    end = ++consumed;
   }
   const std::string_view piece = rest_.substr(0, end);
   rest_.remove_prefix(consumed);

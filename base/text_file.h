@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -22,14 +23,24 @@ std::string ReadFile(const std::string& path, std::size_t limit);
 bool FileExists(const std::string& path);
 
 // Adds `text` to the end of the file, which is made when it is missing, for an empty text too.
-// Every line end of the text goes to disk as CR LF. The text is written in one call; when that
-// fails, the file is cut back to what it was. False when the file is not longer by all of the text.
+// Every line end of the text goes to disk as CR LF. The file is replaced by a longer one, so that
+// no crash leaves half a record. False when the file is not longer by all of the text.
 bool AppendToFile(const std::string& path, std::string_view text);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. A
 // write-protected file is not replaced. False when the old ones remain.
 bool ReplaceFile(const std::string& path, std::string_view bytes);
+
+struct FileBytes {
+  std::string path;
+  std::string bytes;
+};
+
+// Does the same with several files that belong together: when one of them cannot be written, all
+// stay as they were. Only a crash can come between two of them, or a disk that also refuses what
+// was there before. False when the old bytes remain.
+bool ReplaceFiles(std::span<const FileBytes> files);
 
 // What ReplaceFile calls the file that it writes beside `path`.
 std::string TemporaryPath(const std::string& path);
@@ -43,7 +54,8 @@ std::string WithCrLf(std::string_view text);
 // first NUL on is dropped. The pieces are views into the text.
 class LineReader {
  public:
-  LineReader(std::string_view text, std::size_t limit) : rest_(text), limit_(limit) {}
+  LineReader(std::string_view text, std::size_t limit)
+      : rest_(text), limit_(limit), has_nul_(text.find('\0') != std::string_view::npos) {}
 
   // The next piece without its line end; nothing at the end of the text.
   std::optional<std::string_view> Next();
@@ -55,6 +67,8 @@ class LineReader {
  private:
   std::string_view rest_;
   std::size_t limit_;
+  bool has_nul_;  // hardly any text has one, and looking in every piece would cost as much as
+                  // finding the pieces
 };
 
 }  // namespace velnor

@@ -58,7 +58,8 @@ bool UpdateChartFile(const std::string& path, std::string_view date,
     std::string lines;
     for (std::size_t i = 0; i < series.last; ++i) {
       lines += series.slots[i];
-      lines += '\n';
+      // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
+      if (series.slots[i].size() < kLineLimit) lines += '\n';
     }
     return ReplaceFile(path, WithCrLf(lines + day));
   }

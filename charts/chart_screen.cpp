@@ -87,6 +87,7 @@ void PaintBand(Canvas& canvas, const Chart& chart, Limit lower, const Requiremen
 void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
   const std::vector<ChartPoint> points = ChartPoints(chart, series);
   std::vector<Point> line;
+  line.reserve(points.size());
   for (const ChartPoint& point : points) line.push_back(point.at);
   canvas.SetPen({chart.colour, kDataWidth});
   canvas.DrawPolyline(line);

@@ -1,6 +1,8 @@
 #include "food/day_balance.h"
 
 #include <array>
+#include <cmath>
+#include <vector>
 
 #include "base/number_text.h"
 #include "base/text_file.h"
@@ -35,9 +37,10 @@ std::optional<BalanceLines> ReadLines(const std::string& path) {
   return lines;
 }
 
+// A total beyond the range of its type is written as what it would be read as.
 double Total(double figure, double change) {
   const double total = figure + change;
-  return total > kRoundingRest ? total : 0;
+  return std::isfinite(total) && total > kRoundingRest ? total : 0;
 }
 
 std::string Stored(double figure) { return FormatNumber(figure, kStoredDigits); }
@@ -48,36 +51,34 @@ std::optional<double> ReadExchange(const std::string& path) {
   return ParseNumber(LineReader(*text, kExchangeLimit).Next().value_or(""));
 }
 
-bool ChangeExchange(const std::string& path, double change) {
-  const std::optional<double> before = ReadExchange(path);
-  return before && ReplaceFile(path, Stored(Total(*before, change)));
-}
-
 bool EmptyFile(const std::string& path) {
   const std::optional<std::string> text = ReadFileToRewrite(path, 1);
   return text && (text->empty() || ReplaceFile(path, ""));
 }
 
-}  // namespace
-
-bool DayBalance::StartDayIfNew() const {
-  const std::optional<BalanceLines> lines = ReadLines(BalancePath());
-  if (!lines) return false;
-  if (lines->front().starts_with(session_.date_text)) return true;
+// The balance of today: a new day is started when it is not.
+std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
+  const std::string path = session.UserFile(kBalanceFile);
+  std::optional<BalanceLines> lines = ReadLines(path);
+  if (!lines || lines->front().starts_with(session.date_text)) return lines;
   // The date comes last: when it stands, the day has been started whole.
   for (const std::string_view file : kExchangeFiles) {
-    if (!EmptyFile(session_.UserFile(file))) return false;
+    if (!EmptyFile(session.UserFile(file))) return std::nullopt;
   }
-  return ReplaceFile(BalancePath(), session_.date_text);
+  if (!ReplaceFile(path, session.date_text)) return std::nullopt;
+  return BalanceLines{session.date_text};
 }
+
+}  // namespace
+
+bool DayBalance::StartDayIfNew() const { return LinesOfToday(session_).has_value(); }
 
 void DayBalance::MakeExchangeFiles() const {
   for (const std::string_view file : kExchangeFiles) AppendToFile(session_.UserFile(file), "");
 }
 
 std::optional<DayTotals> DayBalance::ReadTotals() const {
-  if (!StartDayIfNew()) return std::nullopt;
-  const std::optional<BalanceLines> lines = ReadLines(BalancePath());
+  const std::optional<BalanceLines> lines = LinesOfToday(session_);
   if (!lines) return std::nullopt;
   const auto number = [&](std::size_t line) { return ParseNumber((*lines)[line]); };
   return DayTotals{number(1), number(2), number(3), number(4)};
@@ -92,27 +93,31 @@ DayExchanges DayBalance::ReadExchanges() const {
           ReadExchange(session_.UserFile(kProteinFatExchangeFile)).value_or(0)};
 }
 
-bool DayBalance::ChangeTotals(const DayTotals& change) const {
+bool DayBalance::Change(const DayTotals& totals,
+                        const std::optional<DayExchanges>& exchanges) const {
   const std::optional<DayTotals> before = ReadTotals();
   if (!before) return false;
-  const DayTotals totals = {Total(before->kcal, change.kcal),
-                            Total(before->protein, change.protein), Total(before->fat, change.fat),
-                            Total(before->carbohydrate, change.carbohydrate)};
-  const std::string text = session_.date_text + '\n' + Stored(totals.kcal) + '\n' +
-                           Stored(totals.protein) + '\n' + Stored(totals.fat) + '\n' +
-                           Stored(totals.carbohydrate);
-  if (!ReplaceFile(BalancePath(), WithCrLf(text))) return false;
-  UpdateSeries(totals);
+  const DayTotals after = {Total(before->kcal, totals.kcal), Total(before->protein, totals.protein),
+                           Total(before->fat, totals.fat),
+                           Total(before->carbohydrate, totals.carbohydrate)};
+  const std::string text = session_.date_text + '\n' + Stored(after.kcal) + '\n' +
+                           Stored(after.protein) + '\n' + Stored(after.fat) + '\n' +
+                           Stored(after.carbohydrate);
+  // One after the other and not together, a failure would leave the day half changed, and a person
+  // who tries again would count the other half twice.
+  std::vector<FileBytes> files = {{BalancePath(), WithCrLf(text)}};
+  if (exchanges) {
+    const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
+    for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
+      const std::string path = session_.UserFile(kExchangeFiles[i]);
+      const std::optional<double> exchange = ReadExchange(path);
+      if (!exchange) return false;
+      files.push_back({path, Stored(Total(*exchange, changes[i]))});
+    }
+  }
+  if (!ReplaceFiles(files)) return false;
+  UpdateSeries(after);
   return true;
-}
-
-bool DayBalance::ChangeExchanges(const DayExchanges& change) const {
-  if (!StartDayIfNew()) return false;
-  const bool carbohydrate =
-      ChangeExchange(session_.UserFile(kCarbohydrateExchangeFile), change.carbohydrate);
-  const bool protein_fat =
-      ChangeExchange(session_.UserFile(kProteinFatExchangeFile), change.protein_fat);
-  return carbohydrate && protein_fat;
 }
 
 bool DayBalance::Clear() const {

@@ -62,13 +62,10 @@ class DayBalance {
   // The day's exchanges, of each file the first eight characters. Missing files count as 0.
   DayExchanges ReadExchanges() const;
 
-  // Adds to the totals and brings the day's line of the chart series up to date. Figures may be
-  // negative; a total that would fall below 0, or that is a mere rest of rounding, becomes 0. False
-  // when the balance keeps what it held.
-  bool ChangeTotals(const DayTotals& change) const;
-
-  // The same for the exchanges.
-  bool ChangeExchanges(const DayExchanges& change) const;
+  // Adds to the totals and, where they are given, to the exchanges, and brings the day's line of
+  // the chart series up to date. Figures may be negative; a total that would fall below 0, or that
+  // is a mere rest of rounding, becomes 0. False when all files keep what they held.
+  bool Change(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
 
   // Nothing has been eaten today: the balance holds the date alone, the exchange files "0", the
   // day's line of the chart series zeros. False when one of the three files keeps what it held.

@@ -11,8 +11,8 @@ constexpr std::string_view kGap = "  ";
 constexpr char kUnit = 'g';
 constexpr double kLeastWeight = 1.0;
 
-float Total(float figure, double change) {
-  const auto total = static_cast<float>(figure + change);
+float Total(std::string_view shown, double change) {
+  const auto total = static_cast<float>(ParseNumber(shown) + change);
   return total >= kTrace ? total : 0;
 }
 
@@ -44,19 +44,17 @@ DayTotals ListedAmounts(const FoodTable& food, const ListedFood& listed, FigureK
     return {ParseNumber(product->kcal), ParseNumber(product->protein), ParseNumber(product->fat),
             ParseNumber(product->carbohydrate)};
   }
-  const double weight = ParseNumber(std::string_view(listed.weight).substr(0, kCounterWeightLimit));
+  const double weight = ParseNumber(listed.weight.substr(0, kCounterWeightLimit));
   const NutrientAmounts amounts = ScaleToWeight(SelectedProduct::CopyOf(*product), weight);
   const auto shown = [](float amount) { return ParseNumber(CounterText(amount)); };
   return {shown(amounts.kcal), shown(amounts.protein), shown(amounts.fat),
           shown(amounts.carbohydrate)};
 }
 
-void ListTotals::Change(double weight_change, const DayTotals& change) {
-  weight = Total(weight, weight_change);
-  kcal = Total(kcal, change.kcal);
-  protein = Total(protein, change.protein);
-  fat = Total(fat, change.fat);
-  carbohydrate = Total(carbohydrate, change.carbohydrate);
+ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayTotals& change) {
+  return {Total(shown.weight, weight_change), Total(shown.kcal, change.kcal),
+          Total(shown.protein, change.protein), Total(shown.fat, change.fat),
+          Total(shown.carbohydrate, change.carbohydrate)};
 }
 
 }  // namespace velnor

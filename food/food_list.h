@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "food/calorie_record.h"
 #include "food/day_balance.h"
 #include "food/food_table.h"
 
@@ -48,10 +49,12 @@ struct ListTotals {
   float protein = 0;       // g
   float fat = 0;           // g
   float carbohydrate = 0;  // g
-
-  // Adds a food, or takes it off with negative figures. A total below 0.1 becomes 0.
-  void Change(double weight_change, const DayTotals& change);
 };
+
+// The totals when a food is added to the ones that are shown, or taken off them with negative
+// figures. A total below 0.1 becomes 0. Single precision begins with the result: a shown figure
+// that went through it first would keep a rest of what was added when that is taken off again.
+ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayTotals& change);
 
 }  // namespace velnor
 

@@ -41,6 +41,7 @@ constexpr std::string_view kTooLight = "Choose some product from the list or cha
 constexpr std::string_view kNotWritten =
     "The daily balance could not be saved.\nCheck the folder of Your data and try again.";
 
+// Linear: what is taken off has the exchanges of what was added with the other sign.
 DayExchanges ExchangesOf(const DayTotals& food) {
   return {CarbohydrateExchanges(food.carbohydrate), ProteinFatExchanges(food.protein, food.fat)};
 }
@@ -59,25 +60,20 @@ void FoodListPanel::Add(const std::string& product) {
   const auto number = [this](int id) { return ParseNumber(form_.ReadText(id, kNumberLimit)); };
   const ListedFood listed = {product, ListedWeight(form_.ReadText(kWeight, kNumberLimit))};
   const DayTotals amounts = {number(kKcal), number(kProtein), number(kFat), number(kCarbohydrate)};
+  const bool counts = CountsInTotals(listed.weight);
   day_.MakeExchangeFiles();
-  if (!day_.ChangeTotals(amounts)) {
-    ReportFailedWrite();
-    return;
-  }
+  if (!ChangeDay(amounts, counts)) return;
   const std::string line = ListLine(listed);
   if (amounts == ListedAmounts(food_, listed, FigureKind::kOwn)) {
     lines_with_own_figures_.push_back(line);
   }
   form_.AddItem(kList, line);
-  if (!CountsInTotals(listed.weight)) {
+  if (!counts) {
     message_boxes_.Show({.text = kTooLight});
     return;
   }
-  ListTotals totals = ReadTotals();
-  totals.Change(ParseNumber(listed.weight), amounts);
-  const bool written = day_.ChangeExchanges(ExchangesOf(amounts));
+  const ListTotals totals = TotalsAfter(Totals(kNumberLimit), ParseNumber(listed.weight), amounts);
   ShowTotals(totals);
-  if (!written) ReportFailedWrite();
 }
 
 void FoodListPanel::Remove() {
@@ -89,32 +85,22 @@ void FoodListPanel::Remove() {
   const bool is_own = own != lines_with_own_figures_.end();
   const DayTotals amounts =
       ListedAmounts(food_, listed, is_own ? FigureKind::kOwn : FigureKind::kScaled);
-  if (!day_.ChangeTotals(-amounts)) {
-    ReportFailedWrite();
-    return;
-  }
+  // A food that was refused for its weight is in the day's totals alone.
+  const bool counts = CountsInTotals(listed.weight);
+  if (!ChangeDay(-amounts, counts)) return;
   form_.RemoveSelectedItem(kList);
   if (is_own) lines_with_own_figures_.erase(own);
-  // A food that was refused for its weight is in the day's totals alone.
-  if (!CountsInTotals(listed.weight)) return;
-  ListTotals totals = ReadTotals();
-  totals.Change(-ParseNumber(listed.weight), -amounts);
-  const bool written = day_.ChangeExchanges(-ExchangesOf(amounts));
+  if (!counts) return;
+  const ListTotals totals =
+      TotalsAfter(Totals(kNumberLimit), -ParseNumber(listed.weight), -amounts);
   ShowTotals(totals);
-  if (!written) ReportFailedWrite();
 }
 
 void FoodListPanel::ClearList() {
   const TotalTexts totals = Totals(kNumberLimit);
   const DayTotals amounts = {ParseNumber(totals.kcal), ParseNumber(totals.protein),
                              ParseNumber(totals.fat), ParseNumber(totals.carbohydrate)};
-  if (!day_.ChangeTotals(-amounts)) {
-    ReportFailedWrite();
-    return;
-  }
-  const bool written = day_.ChangeExchanges(-ExchangesOf(amounts));
-  Empty(kNothing);
-  if (!written) ReportFailedWrite();
+  if (ChangeDay(-amounts, true)) Empty(kNothing);
 }
 
 void FoodListPanel::ClearDay() {
@@ -141,15 +127,10 @@ TotalTexts FoodListPanel::Totals(std::size_t limit) const {
 
 std::vector<std::string> FoodListPanel::Lines() const {
   std::vector<std::string> lines;
-  for (int i = 0; i < form_.ItemCount(kList); ++i) lines.push_back(form_.ItemText(kList, i));
+  const int count = form_.ItemCount(kList);
+  lines.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) lines.push_back(form_.ItemText(kList, i));
   return lines;
-}
-
-ListTotals FoodListPanel::ReadTotals() const {
-  const TotalTexts texts = Totals(kNumberLimit);
-  const auto number = [](const std::string& text) { return static_cast<float>(ParseNumber(text)); };
-  return {number(texts.weight), number(texts.kcal), number(texts.protein), number(texts.fat),
-          number(texts.carbohydrate)};
 }
 
 void FoodListPanel::ShowTotals(const ListTotals& totals) {
@@ -169,6 +150,14 @@ void FoodListPanel::ShowTotals(const ListTotals& totals) {
                 ExchangeText(exchanges_.CountCarbohydrate(totals.carbohydrate)));
   form_.SetText(kProteinFatExchange,
                 ExchangeText(exchanges_.CountProteinFat(totals.protein, totals.fat)));
+}
+
+bool FoodListPanel::ChangeDay(const DayTotals& amounts, bool with_exchanges) {
+  std::optional<DayExchanges> exchanges;
+  if (with_exchanges) exchanges = ExchangesOf(amounts);
+  const bool changed = day_.Change(amounts, exchanges);
+  if (!changed) ReportFailedWrite();
+  return changed;
 }
 
 void FoodListPanel::ReportFailedWrite() { message_boxes_.Show({.text = kNotWritten}); }

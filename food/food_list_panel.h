@@ -45,8 +45,9 @@ class FoodListPanel {
   std::vector<std::string> Lines() const;
 
  private:
-  ListTotals ReadTotals() const;
   void ShowTotals(const ListTotals& totals);
+  // Says so when the day keeps what it held.
+  bool ChangeDay(const DayTotals& amounts, bool with_exchanges);
   void ReportFailedWrite();
 
   const FoodTable& food_;

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "food/search_text.h"
+
 namespace velnor {
 
 // Fills the places of a category row that hold no subcategory. A slot is recognised as unused by
@@ -64,18 +66,26 @@ class UserProductTable {
   // The products in use, in the order of the file.
   std::span<const ProductRecord> products() const { return products_; }
 
+  // What they are found by, in the same order.
+  const SearchText& search_text() const { return search_text_; }
+
  private:
   std::string text_;
   std::vector<ProductRecord> products_;
+  SearchText search_text_;
 };
 
 // Splits a line of the user products file at ";" into the eight fields, in the order of
 // ProductRecord. Missing fields are empty, text behind the eighth ";" is ignored.
 ProductRecord SplitProductLine(std::string_view line);
 
+// What products are found by: subcategory, a blank, name of each.
+SearchText SearchTextOf(std::span<const ProductRecord> products);
+
 struct FoodTable {
   std::span<const CategoryRecord> categories = BuiltInCategories();
   std::span<const ProductRecord> products = BuiltInProducts();
+  SearchText product_text = SearchTextOf(products);
   UserProductTable user_products;
 };
 

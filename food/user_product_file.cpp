@@ -25,17 +25,14 @@ std::optional<std::string_view> NameField(std::string_view line) {
   return line.substr(second + 1, third - second - 1);
 }
 
-bool EndsWithLineEnd(const std::string& path) {
-  const std::string text = ReadFile(path, kNoLimit);
-  return text.empty() || text.back() == '\n';
-}
-
 }  // namespace
 
 bool AppendUserProduct(const std::string& path, const ProductRecord& product) {
+  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  if (!text) return false;
   std::string line;
   // Someone who edited the file by hand may have left its last line open.
-  if (!EndsWithLineEnd(path)) line += '\n';
+  if (!text->empty() && text->back() != '\n') line += '\n';
   for (const std::string_view field :
        {product.main_category, product.subcategory, product.name, product.mass, product.kcal,
         product.protein, product.fat, product.carbohydrate}) {

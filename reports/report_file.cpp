@@ -21,15 +21,6 @@ constexpr Report kReports[] = {
 
 constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
-// Adds to what earlier saves have kept; what stands there is never lost.
-bool KeepRest(const std::string& path, std::string_view rest) {
-  if (rest.empty()) return true;
-  std::optional<std::string> kept = ReadFileToRewrite(path, kNoLimit);
-  if (!kept) return false;
-  if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
-  return ReplaceFile(path, kept->append(rest));
-}
-
 }  // namespace
 
 std::span<const Report> Reports() { return kReports; }
@@ -58,7 +49,13 @@ bool SaveReport(const std::string& path, std::string_view shown, std::string_vie
   // never shown as it is now.
   const std::size_t seen = old->starts_with(shown) ? shown.size() : 0;
   const std::string_view rest = std::string_view(*old).substr(seen);
-  return KeepRest(RestPath(path), rest) && ReplaceFile(path, text);
+  if (rest.empty()) return ReplaceFile(path, text);
+  // Added to what earlier saves have kept; what stands there is never lost.
+  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kNoLimit);
+  if (!kept) return false;
+  if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
+  const FileBytes files[] = {{RestPath(path), kept->append(rest)}, {path, std::string(text)}};
+  return ReplaceFiles(files);
 }
 
 std::string RestPath(const std::string& path) { return path + ".rest.txt"; }

@@ -14,9 +14,14 @@ constexpr std::size_t kShortestWord = 3;
 }  // namespace
 
 ProfileLines ReadProfileLines(const std::string& path) {
+  return ReadProfileLinesToRewrite(path).value_or(ProfileLines());
+}
+
+std::optional<ProfileLines> ReadProfileLinesToRewrite(const std::string& path) {
   ProfileLines lines;
-  const std::string text = ReadFile(path, lines.size() * (kLineLimit + 1));
-  LineReader reader(text, kLineLimit);
+  const std::optional<std::string> text = ReadFileToRewrite(path, lines.size() * (kLineLimit + 1));
+  if (!text) return std::nullopt;
+  LineReader reader(*text, kLineLimit);
   for (std::string& line : lines) {
     const std::optional<std::string_view> read = reader.Next();
     if (!read) break;

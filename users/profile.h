@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,9 @@ using ProfileLines = std::array<std::string, 5>;
 
 // At most 99 characters of each line; missing lines, and those of a missing file, are empty.
 ProfileLines ReadProfileLines(const std::string& path);
+
+// The same for who goes on to rewrite them. Nothing when there is a file that cannot be read.
+std::optional<ProfileLines> ReadProfileLinesToRewrite(const std::string& path);
 
 // The profile that a login takes from the lines: age and height only when they read as a whole
 // number other than 0, the others when they are not empty.

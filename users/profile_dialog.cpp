@@ -1,6 +1,7 @@
 #include "users/profile_dialog.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,8 +15,8 @@ constexpr int kSex = 706;
 constexpr int kLifeStyle = 707;
 constexpr int kOther = 708;
 
-// What a line of the profile file can hold.
-constexpr std::size_t kTypedLimit = 99;
+// What a line of the profile file can hold beside its end.
+constexpr std::size_t kTypedLimit = 98;
 
 constexpr std::string_view kSexes[] = {"women", "men"};
 constexpr std::string_view kLifeStyles[] = {"low", "medium", "high", "very high"};
@@ -23,6 +24,9 @@ constexpr std::string_view kOthers[] = {"pregnant", "suckling mother", "athlete"
 
 constexpr std::string_view kContradiction =
     "ATTENTION!!\nIt seems something is wrong\nCheck Your profile!";
+
+constexpr std::string_view kNotRead =
+    "Your profile could not be read.\nClose this window and open it again.";
 
 void Fill(Form& form, int id, std::span<const std::string_view> words) {
   for (const std::string_view word : words) form.AddItem(id, word);
@@ -48,8 +52,10 @@ void ProfileDialog::OnOpen(Form& form) {
   Fill(form, kSex, kSexes);
   Fill(form, kLifeStyle, kLifeStyles);
   Fill(form, kOther, kOthers);
-  const auto [age, height, sex, life_style, other] =
-      ReadProfileLines(session_.UserFile(kProfileFile));
+  const std::optional<ProfileLines> lines =
+      ReadProfileLinesToRewrite(session_.UserFile(kProfileFile));
+  was_read_ = lines.has_value();
+  const auto [age, height, sex, life_style, other] = lines.value_or(ProfileLines());
   form.SetText(kAge, age);
   form.SetText(kHeight, height);
   // Women are told by the length of the word; everything else counts as men.
@@ -64,6 +70,11 @@ void ProfileDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void ProfileDialog::Save(Form& form) {
+  // Empty fields would take the place of what is still in the file.
+  if (!was_read_) {
+    message_boxes_.Show({.text = kNotRead, .owner = MessageOwner::kDialog});
+    return;
+  }
   ProfileLines lines = {form.ReadText(kAge, kTypedLimit), form.ReadText(kHeight, kTypedLimit),
                         form.SelectedText(kSex).value_or(""),
                         form.SelectedText(kLifeStyle).value_or(""),

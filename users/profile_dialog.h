@@ -25,6 +25,7 @@ class ProfileDialog final : public Dialog {
  private:
   void Save(Form& form);
 
+  bool was_read_ = false;  // what the file held
   SessionState& session_;
   UserProfile& profile_;
   MainWindow& window_;

@@ -7,6 +7,7 @@
 
 #include "base/file_calls.h"
 #include "base/text_file.h"
+#include "food/day_balance.h"
 #include "reports/report_file.h"
 
 namespace velnor {
@@ -92,6 +93,11 @@ void CreateUserFiles(const SessionState& session, const std::string& user) {
 void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const char* const file : kAllFiles) {
     DeleteWithTemporary(session.FileOf(user, file));
+  }
+  // The day's exchanges are not among the files that go, but what an interrupted write has left of
+  // them is nobody's.
+  for (const std::string_view file : {kCarbohydrateExchangeFile, kProteinFatExchangeFile}) {
+    std::remove(TemporaryPath(session.FileOf(user, file)).c_str());
   }
   for (const Report& report : Reports()) {
     DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));

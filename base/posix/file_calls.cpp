@@ -17,8 +17,6 @@ bool IsWriteProtected(const std::string& path) {
   return stat(path.c_str(), &status) == 0 && (status.st_mode & kAnyWriter) == 0;
 }
 
-bool CutBack(std::FILE* file, std::int64_t size) { return ftruncate(fileno(file), size) == 0; }
-
 bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0; }
 
 bool RemoveFolder(const std::string& path) { return rmdir(path.c_str()) == 0; }

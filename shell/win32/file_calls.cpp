@@ -38,8 +38,6 @@ bool IsWriteProtected(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
-bool CutBack(std::FILE* file, std::int64_t size) { return _chsize_s(_fileno(file), size) == 0; }
-
 bool MakeFolder(const std::string& path) { return CreateDirectoryA(path.c_str(), nullptr) != 0; }
 
 bool RemoveFolder(const std::string& path) { return RemoveDirectoryA(path.c_str()) != 0; }

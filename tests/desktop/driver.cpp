@@ -38,6 +38,18 @@ std::vector<std::string> NamesIn(const std::string& folder) {
   return names;
 }
 
+// A new one under a name that nobody has; its path, with a separator at the end.
+std::string MakeFolder() {
+  std::string temporary(MAX_PATH, '\0');
+  temporary.resize(GetTempPathA(MAX_PATH, temporary.data()));
+  for (int attempt = 0; attempt <= 100; ++attempt) {
+    const std::string path = temporary + "velnor-" + std::to_string(GetCurrentProcessId()) + "-" +
+                             std::to_string(GetTickCount()) + "-" + std::to_string(attempt);
+    if (CreateDirectoryA(path.c_str(), nullptr) != 0) return path + '\\';
+  }
+  throw std::runtime_error("no folder can be made for the program to run in");
+}
+
 // With everything in it; `path` ends with a separator.
 void RemoveFolder(const std::string& path) {
   for (const std::string& name : NamesIn(path)) {
@@ -92,13 +104,6 @@ std::string ItemText(HWND control, LRESULT index) {
   return ToNarrow(text);
 }
 
-void SendInputs(std::vector<INPUT> inputs) {
-  for (INPUT& input : inputs) {
-    SendInput(1, &input, sizeof input);
-    Sleep(1);
-  }
-}
-
 // Memory inside the program, for as long as the object lives.
 class RemoteMemory {
  public:
@@ -122,32 +127,13 @@ class RemoteMemory {
   void* address_;
 };
 
-INPUT KeyInput(WORD virtual_key, bool up) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = virtual_key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(virtual_key, 0));
-  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-  return input;
-}
-
 }  // namespace
 
-WorkFolder::WorkFolder() {
-  std::string temporary(MAX_PATH, '\0');
-  temporary.resize(GetTempPathA(MAX_PATH, temporary.data()));
-  for (int attempt = 0;; ++attempt) {
-    path_ = temporary + "velnor-" + std::to_string(GetCurrentProcessId()) + "-" +
-            std::to_string(GetTickCount()) + "-" + std::to_string(attempt);
-    if (CreateDirectoryA(path_.c_str(), nullptr) != 0) break;
-    if (attempt > 100) throw std::runtime_error("no folder can be made for the program to run in");
-  }
-  path_ += '\\';
-}
+WorkFolder::WorkFolder() : Folder(MakeFolder()) {}
 
-WorkFolder::~WorkFolder() { RemoveFolder(path_); }
+WorkFolder::~WorkFolder() { RemoveFolder(path()); }
 
-void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
+void Folder::Write(const std::string& name, std::string_view bytes) const {
   std::FILE* const file = std::fopen((path_ + name).c_str(), "wb");
   if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() ||
       std::fclose(file) != 0) {
@@ -155,7 +141,7 @@ void WorkFolder::Write(const std::string& name, std::string_view bytes) const {
   }
 }
 
-std::optional<std::string> WorkFolder::Read(const std::string& name) const {
+std::optional<std::string> Folder::Read(const std::string& name) const {
   std::FILE* const file = std::fopen((path_ + name).c_str(), "rb");
   if (file == nullptr) return std::nullopt;
   std::string bytes;
@@ -167,7 +153,7 @@ std::optional<std::string> WorkFolder::Read(const std::string& name) const {
   return bytes;
 }
 
-std::vector<std::string> WorkFolder::Names(const std::string& folder) const {
+std::vector<std::string> Folder::Names(const std::string& folder) const {
   return NamesIn(path_ + folder + (folder.empty() ? "" : "\\"));
 }
 
@@ -291,8 +277,10 @@ void Window::SavePicture(const std::string& path) const {
   std::fclose(file);
 }
 
-App::App(const WorkFolder& folder) {
-  std::string command_line = '"' + ProgramPath() + '"';
+App::App(const WorkFolder& folder) : App(ProgramPath(), folder) {}
+
+App::App(const std::string& program, const Folder& folder) {
+  std::string command_line = '"' + program + '"';
   STARTUPINFOA start = {};
   start.cb = sizeof start;
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
@@ -309,15 +297,17 @@ App::App(const WorkFolder& folder) {
 }
 
 App::~App() {
-  if (IsRunning()) {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, kPatience);
-  }
+  if (IsRunning()) Kill();
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
 }
 
 bool App::IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+void App::Kill() const {
+  TerminateProcess(process_.hProcess, 1);
+  WaitForSingleObject(process_.hProcess, kPatience);
+}
 
 std::optional<DWORD> App::WaitForExit() const {
   if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) return std::nullopt;
@@ -457,42 +447,6 @@ std::string Today() {
 void Answer(const MessageBoxSeen& box, int button) {
   Window(box.handle).PostCommand(button);
   WaitUntilGone(box.handle);
-}
-
-void ClickOn(HWND control) {
-  RECT place = {};
-  GetWindowRect(control, &place);
-  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-  INPUT press = {};
-  press.type = INPUT_MOUSE;
-  press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  INPUT release = press;
-  release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  SendInputs({press, release});
-}
-
-void TurnWheel(int distance) {
-  INPUT turn = {};
-  turn.type = INPUT_MOUSE;
-  turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
-  turn.mi.mouseData = static_cast<DWORD>(distance);
-  SendInputs({turn});
-}
-
-void TypeKeys(std::string_view keys) {
-  for (const char key : keys) {
-    const SHORT code = VkKeyScanA(key);
-    SendInputs({KeyInput(LOBYTE(code), false), KeyInput(LOBYTE(code), true)});
-  }
-}
-
-void PressKey(WORD virtual_key, bool with_alt) {
-  std::vector<INPUT> inputs = {KeyInput(virtual_key, false), KeyInput(virtual_key, true)};
-  if (with_alt) {
-    inputs.insert(inputs.begin(), KeyInput(VK_MENU, false));
-    inputs.push_back(KeyInput(VK_MENU, true));
-  }
-  SendInputs(inputs);
 }
 
 }  // namespace velnor::desktop

@@ -11,19 +11,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velnor::desktop {
 
-// A folder of its own for one run of the program, empty at first and gone with the object.
-class WorkFolder {
+// A folder and the files in it, byte by byte.
+class Folder {
  public:
-  WorkFolder();
-  WorkFolder(const WorkFolder&) = delete;
-  WorkFolder& operator=(const WorkFolder&) = delete;
-  ~WorkFolder();
+  explicit Folder(std::string path) : path_(std::move(path)) {}  // with a separator at its end
 
-  const std::string& path() const { return path_; }  // with a separator at its end
+  const std::string& path() const { return path_; }
   void Write(const std::string& name, std::string_view bytes) const;
   // The bytes of a file; nothing when there is no such file.
   std::optional<std::string> Read(const std::string& name) const;
@@ -32,6 +30,15 @@ class WorkFolder {
 
  private:
   std::string path_;
+};
+
+// A folder of its own for one run of the program, empty at first and gone with the object.
+class WorkFolder : public Folder {
+ public:
+  WorkFolder();
+  WorkFolder(const WorkFolder&) = delete;
+  WorkFolder& operator=(const WorkFolder&) = delete;
+  ~WorkFolder();
 };
 
 // One window of the program with its controls: the main window or a dialog. Controls are addressed
@@ -79,12 +86,17 @@ class App {
  public:
   // Starts velnor.exe (it lies beside this test program) in `folder` and waits for its main window.
   explicit App(const WorkFolder& folder);
+  // The same with another copy of the program, by its path.
+  App(const std::string& program, const Folder& folder);
   App(const App&) = delete;
   App& operator=(const App&) = delete;
   ~App();
 
   const Window& main() const { return main_; }
+  HANDLE process() const { return process_.hProcess; }
   bool IsRunning() const;
+  // Ends the program at once, as a power failure would, and waits until it is gone.
+  void Kill() const;
   // The exit code, once the program has ended by itself; nothing when it goes on running.
   std::optional<DWORD> WaitForExit() const;
 

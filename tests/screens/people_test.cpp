@@ -342,6 +342,21 @@ TEST_F(PeopleTest, APregnantManIsPointedOutButNotASucklingOne) {
   EXPECT_EQ(LogIn("Bob"), Texts{});
 }
 
+// The screens take him for a man like any other; his profile stays for him to mend.
+TEST_F(PeopleTest, APregnantManIsNotTakenForOne) {
+  const auto note = [this](const std::string& profile) {
+    folder_.Write("Bob/info.ASC", profile);
+    LogIn("Bob");
+    return Open(221).texts.back().text;
+  };
+  Start();
+  Register("Bob");
+  EXPECT_EQ(note("35\r\n170\r\nwomen\r\nlow\r\npregnant"),
+            "During pregnancy BMI coefficient is useless!");
+  EXPECT_EQ(note("35\r\n170\r\nmen\r\nlow\r\npregnant"), "BMI =  ");
+  EXPECT_EQ(folder_.Read("Bob/info.ASC"), "35\r\n170\r\nmen\r\nlow\r\npregnant");
+}
+
 TEST_F(PeopleTest, ANewDayStartsTheBalanceAfresh) {
   Start();
   Register("Ann");
@@ -430,6 +445,20 @@ TEST_F(PeopleTest, SavingWritesTheProfileAndGoesHome) {
   EXPECT_EQ(profile_.Log(), (Texts{"close"}));
 }
 
+// A line that were longer would be read back as two, and every one behind it as the next one's.
+TEST_F(PeopleTest, TheLongestTextsThatAreSavedAreReadBack) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  OpenProfile();
+  profile_.SetText(704, std::string(120, '7'));
+  profile_.SetText(705, "170");
+  profile_.Press(1);
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), std::string(98, '7'));
+  EXPECT_EQ(profile_.Text(705), "170");
+}
+
 TEST_F(PeopleTest, AContradictionIsPointedOutAndSavedWithoutIt) {
   Start();
   Register("Bob");
@@ -447,6 +476,30 @@ TEST_F(PeopleTest, AContradictionIsPointedOutAndSavedWithoutIt) {
               (Texts{"ATTENTION!!\nIt seems something is wrong\nCheck Your profile!"}));
     EXPECT_EQ(folder_.Read("Bob/info.ASC"), "35\r\n180\r\nmen\r\nhigh\r\n0");
   }
+}
+
+// A link to itself can be replaced but not read, as a file that somebody has locked for a moment.
+TEST_F(PeopleTest, AProfileThatCannotBeReadIsNotOverwritten) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  const std::string path = folder_.path() + "Ann/info.ASC";
+  std::filesystem::remove(path);
+  std::filesystem::create_symlink(path, path);
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), "");
+  std::filesystem::remove(path);
+  folder_.Write("Ann/info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  boxes_.TakeTexts();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(),
+            (Texts{"Your profile could not be read.\nClose this window and open it again."}));
+  EXPECT_EQ(profile_.Log(), Texts{});
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  OpenProfile();
+  EXPECT_EQ(profile_.Text(704), "35");
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
 }
 
 TEST_F(PeopleTest, OnlyAPressOfOkSavesAndCancelDoesNot) {

@@ -143,6 +143,16 @@ TEST_F(ChartFileTest, LongLinesComeInPiecesAndOnly22Count) {
 }
 
 // 22 lines as long as lines can be are read to the last character.
+// Rewriting the day's line moves no other: the pieces of a long line stay one line.
+TEST_F(ChartFileTest, LongLinesStayAsTheyAreWhenTheDayIsWrittenAgain) {
+  const std::string days = std::string(99, 'a') + "\r\n" + std::string(250, 'b') + "\r\n";
+  Write(days + "16.11.2026;70;\r\n");
+  for (const char* const weight : {"69", "68"}) {
+    EXPECT_TRUE(Update("16.11.2026", {weight}));
+    EXPECT_EQ(Read(), days + "16.11.2026;" + weight + ";\r\n");
+  }
+}
+
 TEST_F(ChartFileTest, FullLinesAreReadWhole) {
   std::string text;
   for (int i = 0; i < 22; ++i) text += std::string(98, 'y') + "\r\n";

@@ -114,9 +114,8 @@ TEST(FoodListTest, OfSeveralMatchingRowsTheLastWins) {
 }
 
 TEST(FoodListTest, TotalsAddUpInSinglePrecision) {
-  ListTotals totals;
-  totals.Change(150, {70, 1.75, 1, 13.5});
-  totals.Change(100.5, {28, 0.7, 0.4, 5.4});
+  const ListTotals totals =
+      TotalsAfter({"150.", "70.", "1.75", "1.", "13.5"}, 100.5, {28, 0.7, 0.4, 5.4});
   EXPECT_EQ(totals.weight, 250.5F);
   EXPECT_EQ(totals.kcal, 98.0F);
   EXPECT_EQ(totals.protein, 2.45F);
@@ -124,15 +123,23 @@ TEST(FoodListTest, TotalsAddUpInSinglePrecision) {
   EXPECT_EQ(totals.carbohydrate, 18.9F);
 }
 
+// 81.51 in single precision less 81.11 would be 0.400002.
+TEST(FoodListTest, TakingOffLeavesNoRestOfWhatWasAdded) {
+  const ListTotals totals =
+      TotalsAfter({"200.", "761.63", "1.55", "81.51", "5.46"}, -100, {-733.63, -0.85, -81.11, 0});
+  EXPECT_EQ(totals.kcal, 28.0F);
+  EXPECT_EQ(totals.protein, 0.7F);
+  EXPECT_EQ(totals.fat, 0.4F);
+}
+
 TEST(FoodListTest, TotalsBelowATraceAreNothing) {
-  ListTotals totals;
-  totals.Change(5, {0.0999, 0.1, 0.09, -5});
+  ListTotals totals = TotalsAfter({}, 5, {0.0999, 0.1, 0.09, -5});
   EXPECT_EQ(totals.weight, 5.0F);
   EXPECT_EQ(totals.kcal, 0.0F);
   EXPECT_EQ(totals.protein, 0.1F);
   EXPECT_EQ(totals.fat, 0.0F);
   EXPECT_EQ(totals.carbohydrate, 0.0F);
-  totals.Change(-6, {std::nan(""), 0, 0, 0});
+  totals = TotalsAfter({"5.", "0", "0.1", "0", "0"}, -6, {std::nan(""), 0, 0, 0});
   EXPECT_EQ(totals.weight, 0.0F);
   EXPECT_EQ(totals.kcal, 0.0F);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ TEST(SearchProductsTest, FindsPiecesOfSubcategoryAndName) {
       ++expected;
   }
   EXPECT_EQ(results.size(), expected);
+  EXPECT_EQ(std::set<std::string>(results.begin(), results.end()).size(), expected) << "each once";
   EXPECT_EQ(results.front(), "fruits --> frozen --> frozen strawberries");
   EXPECT_TRUE(Contains(results, "fruits --> frozen --> frozen plums"));
 }
@@ -80,6 +82,17 @@ TEST(SearchProductsTest, MarksTheUsersProducts) {
       folder.Write("data.txt", "fruits;fresh;zz apple pie;100;1;1;1;1;\r\nabc\r\n"));
   EXPECT_EQ(SearchProducts(food, "zz apple"), (Results{"[B] fruits --> fresh --> zz apple pie"}));
   EXPECT_EQ(SearchProducts(food, "fresh zz"), (Results{"[B] fruits --> fresh --> zz apple pie"}));
+}
+
+TEST(SearchProductsTest, FindsWhatTheLastLoadBroughtAndNothingElse) {
+  const TemporaryFolder folder;
+  FoodTable food;
+  food.user_products.Load(folder.Write("data.txt", "fruits;fresh;zzz apple;100;1;1;1;1;\r\n"));
+  food.user_products.Load(folder.Write(
+      "data.txt",
+      "abc\r\nfruits;fresh;zzz pear;100;1;1;1;1;\r\nmeat;pork;zzz ham;100;1;1;1;1;\r\n"));
+  EXPECT_EQ(SearchProducts(food, "zzz"),
+            (Results{"[B] fruits --> fresh --> zzz pear", "[B] meat --> pork --> zzz ham"}));
 }
 
 }  // namespace

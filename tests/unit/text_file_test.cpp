@@ -63,6 +63,9 @@ TEST(LineReaderTest, CountsTheLineEndAsACharacterOfThePiece) {
   EXPECT_EQ(Lines("abc\nd", 3), (Texts{"abc", "", "d"}));
   EXPECT_EQ(Lines("abc\r\nd", 3), (Texts{"abc", "", "d"}));
   EXPECT_EQ(Lines("ab\r\nd", 3), (Texts{"ab", "d"}));
+  EXPECT_EQ(Lines("ab\nd", 3), (Texts{"ab", "d"}));
+  EXPECT_EQ(Lines("ab\r\rd\n", 3), (Texts{"ab\r", "\rd"}));
+  EXPECT_EQ(Lines("abcd\r\n", 3), (Texts{"abc", "d"}));
 }
 
 TEST(LineReaderTest, DropsWhatFollowsANul) {
@@ -134,8 +137,23 @@ TEST(AppendToFileTest, ReportsWhatCannotBeWritten) {
   EXPECT_FALSE(AppendToFile(folder.path(), "one\n"));
 }
 
-// Every write to this device fails for want of space, once the system hands it over.
-TEST(AppendToFileTest, ReportsAFullDisk) { EXPECT_FALSE(AppendToFile("/dev/full", "one\n")); }
+// A link to itself can be replaced but not read.
+TEST(AppendToFileTest, WhatCannotBeReadStays) {
+  const TemporaryFolder folder;
+  const std::string path = folder.path() + "file";
+  std::filesystem::create_symlink(path, path);
+  EXPECT_FALSE(AppendToFile(path, "one\n"));
+  EXPECT_TRUE(std::filesystem::is_symlink(path));
+}
+
+TEST(AppendToFileTest, AnEmptyTextMakesTheFileAndChangesNone) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(AppendToFile(folder.path() + "file", ""));
+  EXPECT_EQ(folder.Read("file"), "");
+  folder.Write("file", "one");
+  EXPECT_TRUE(AppendToFile(folder.path() + "file", ""));
+  EXPECT_EQ(folder.Read("file"), "one");
+}
 
 // The disk is full in the middle of the text: the limit on the size of files stands for it.
 TEST(AppendToFileTest, AFullDiskLeavesTheFileAsItWas) {
@@ -166,6 +184,21 @@ TEST(ReplaceFileTest, AFullDiskLeavesTheFileAsItWas) {
   EXPECT_FALSE(ReplaceFile(path, std::string(2000, 'n')));
   EXPECT_EQ(folder.Read("file"), old);
   EXPECT_EQ(folder.Names(), (Texts{"file"}));
+}
+
+TEST(ReplaceFilesTest, GivesAllTheirBytesOrNone) {
+  const TemporaryFolder folder;
+  const std::string one = folder.Write("one", "old one");
+  const std::string two = folder.Write("two", "old two");
+  EXPECT_TRUE(ReplaceFiles(std::vector<FileBytes>{{one, "new one"}, {two, "new two"}}));
+  EXPECT_EQ(folder.Read("one"), "new one");
+  EXPECT_EQ(folder.Read("two"), "new two");
+  const std::string missing = folder.path() + "missing/three";
+  EXPECT_FALSE(ReplaceFiles(std::vector<FileBytes>{{one, "1"}, {missing, "3"}, {two, "2"}}));
+  EXPECT_FALSE(ReplaceFiles(std::vector<FileBytes>{{one, "1"}, {folder.path(), "3"}}));
+  EXPECT_EQ(folder.Read("one"), "new one");
+  EXPECT_EQ(folder.Read("two"), "new two");
+  EXPECT_EQ(folder.Names(), (Texts{"one", "two"}));
 }
 
 TEST(ReplaceFileTest, AWriteProtectedFileStays) {

@@ -312,8 +312,17 @@ TEST_F(UserFilesTest, AnyOtherFileKeepsTheFolder) {
 TEST_F(UserFilesTest, DeletingAUserTakesWhatInterruptedWritesLeft) {
   MakeUser("Ann");
   for (const std::string& file : kAllFiles) folder_.Write("Ann/" + file + ".new", "half");
+  for (const char* const file : {"z1.ASC.new", "z2.ASC.new"}) folder_.Write("Ann/"s + file, "half");
   DeleteUserFiles(session_, "Ann");
   EXPECT_FALSE(Exists("Ann"));
+}
+
+TEST_F(UserFilesTest, TheExchangesOfADayOutliveTheirUser) {
+  MakeUser("Ann");
+  folder_.Write("Ann/z1.ASC", "8.");
+  folder_.Write("Ann/z2.ASC", "1.7");
+  DeleteUserFiles(session_, "Ann");
+  EXPECT_EQ(NamesIn("Ann"), (Names{"z1.ASC", "z2.ASC"}));
 }
 
 TEST_F(UserFilesTest, DeletingAUserTakesWhatWasKeptBesideTheReports) {

@@ -1,0 +1,67 @@
+// The day's exchanges, two files of a number each: the input holds both, divided by "|".
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <string_view>
+
+#include "food/day_balance.h"
+#include "fuzz/day.h"
+
+namespace velnor {
+namespace {
+
+constexpr const char* kCarbohydrate = "Ann/z1.ASC";
+constexpr const char* kProteinFat = "Ann/z2.ASC";
+constexpr int kOpenBalance = 233;
+constexpr int kClearList = 146;
+
+// Eight characters are read of a file, which hold all figures that a day of a person's can reach.
+bool IsOfThisWorld(double exchange) { return exchange < 1e6; }
+
+void RequireSum(double sum, double before, double added) {
+  if (!IsOfThisWorld(before)) return;
+  const double expected = std::max(0.0, before + added);
+  Require(std::abs(sum - expected) <= 1e-3 + 1e-5 * expected,
+          "the exchanges are what was there and what was eaten");
+}
+
+void Eat(ProgramRun& run) {
+  const DayBalance day(run.program().session());
+  const DayExchanges before = day.ReadExchanges();
+  EatStrawberries(run);
+  const DayExchanges after = day.ReadExchanges();
+  RequireSum(after.carbohydrate, before.carbohydrate, 1.35);
+  RequireSum(after.protein_fat, before.protein_fat, 0.16);
+  RequireSoundDay(run);
+  run.Open(kOpenBalance);
+  TakeOffFirst(run);
+  const DayExchanges rest = day.ReadExchanges();
+  RequireSum(rest.carbohydrate, after.carbohydrate, -1.35);
+  RequireSum(rest.protein_fat, after.protein_fat, -0.16);
+  RequireSoundDay(run);
+}
+
+}  // namespace
+}  // namespace velnor
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace velnor;  // NOLINT(google-build-using-namespace)
+  ProgramRun run;
+  run.MakeUser();
+  run.Write("Ann/bilans.ASC", kTestDate);
+  std::string_view input = InputText(data, size);
+  run.Write(kCarbohydrate, TakeUpTo('|', input));
+  run.Write(kProteinFat, input);
+  const auto before = run.AllFiles();
+  run.Start();
+  run.LogIn();
+  run.Open(kOpenBalance);
+  run.RequireUnchanged(before, {});
+  Eat(run);
+  EatStrawberries(run);
+  run.Press(kClearList);
+  RequireSoundDay(run);
+  run.Open(kOpenBalance);
+  return 0;
+}
