@@ -4,8 +4,8 @@
 #include <limits>
 #include <optional>
 
-#include "base/text_file.h"
 #include "base/loose_match.h"
+#include "base/text_file.h"
 
 namespace velnor {
 namespace {

@@ -42,7 +42,7 @@ const std::array<std::string, 14> kTexts = {"",
 
 class Monkey {
  public:
-  Monkey(const App& app, unsigned seed) : app_(app), random_(seed) {}
+  Monkey(const App& app, unsigned start) : app_(app), random_(start) {}
 
   // One action of a person on whatever is in front. False when the program no longer answers.
   bool Act() {

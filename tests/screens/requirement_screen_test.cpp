@@ -17,9 +17,7 @@ constexpr int kOpenRequirement = 232;
 class RequirementScreenTest : public ProgramTest {
  protected:
   // Ann is registered with this profile; a login shows nothing when it is complete.
-  void LogIn(const std::string& profile) {
-    ProgramTest::LogIn("Ann", profile);
-  }
+  void LogIn(const std::string& profile) { ProgramTest::LogIn("Ann", profile); }
   Texts Shown() const {
     return {form_.Text(120), form_.Text(121), form_.Text(122), form_.Text(123)};
   }

@@ -11,9 +11,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/loose_match.h"
 #include "base/number_text.h"
 #include "food/food_table.h"
-#include "base/loose_match.h"
 #include "food/product_rules.h"
 
 namespace velnor {
