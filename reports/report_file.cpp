@@ -48,7 +48,7 @@ bool SaveReport(const std::string& path, std::string_view shown, std::string_vie
   // A record may have been appended since it was shown. A file that has changed altogether was
   // never shown as it is now.
   const std::size_t seen = old->starts_with(shown) ? shown.size() : 0;
-  const std::string_view rest = std::string_view(*old).substr(seen);
+  const std::string_view rest = std::string_view{*old}.substr(seen);
   if (rest.empty()) return ReplaceFile(path, text);
   // Added to what earlier saves have kept; what stands there is never lost.
   std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kNoLimit);

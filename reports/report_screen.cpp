@@ -17,8 +17,8 @@ constexpr std::string_view kSureToSave =
     "Do You want save changes?\nThere`ll be no chance to cancel!";
 constexpr std::string_view kRestNote = "What was not shown when changes were saved is kept in ";
 
-bool IsYes(MessageBoxes& message_boxes, std::string_view question) {
-  return message_boxes.Show({.text = question, .buttons = MessageButtons::kYesNo}) == Answer::kYes;
+Message Question(std::string_view text) {
+  return {.text = text, .buttons = MessageButtons::kYesNo};
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ void ReportScreen::Paint(Canvas& canvas) {
 
 void ReportScreen::Clear() {
   const std::string path = Path();
-  if (path.empty() || !IsYes(message_boxes_, kSureToClear)) return;
+  if (path.empty() || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
   ClearReport(path);
   window_.Invalidate();
 }
@@ -66,7 +66,7 @@ void ReportScreen::Save() {
   // is taken before.
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const std::string shown = shown_.bytes;
-  if (!IsYes(message_boxes_, kSureToSave)) return;
+  if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
   SaveReport(path, shown, text);
   window_.Invalidate();
 }

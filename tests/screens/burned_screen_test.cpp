@@ -320,6 +320,7 @@ TEST_F(BurnedRecordDialogTest, TypingSavesNothing) {
   OpenDialog(kSaveReport, dialog_);
   dialog_.Type(709, "today");
   dialog_.Type(745, "x");
+  window_.opened->OnCommand(dialog_, kOkButton, kEditUpdated);
   EXPECT_EQ(Report(), "(missing)");
   EXPECT_EQ(dialog_.Log(), Texts{});
 }

@@ -15,8 +15,8 @@ void FakeMainWindow::RunDialog(int resource_id, Dialog& dialog) {
 
 ProgramTest::ProgramTest() { form_.AddMainWindowControls(); }
 
-Program& ProgramTest::Start() {
-  Program& program = program_.emplace(folder_.path(), kTestDate, form_, window_, boxes_);
+Program& ProgramTest::Start(const std::string& date) {
+  Program& program = program_.emplace(folder_.path(), date, form_, window_, boxes_);
   form_.SetListener([&program](int id, int notification) { program.OnCommand(id, notification); });
   program.Start();
   return program;

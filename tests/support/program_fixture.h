@@ -76,12 +76,14 @@ class FakeMessageBoxes final : public MessageBoxes {
   std::vector<Shown> shown;
 };
 
+inline constexpr const char* kTestDate = "16.11.2026";
+
 class ProgramTest : public testing::Test {
  protected:
   ProgramTest();
 
-  // Starts the program; files of the folder are written before.
-  Program& Start();
+  // Starts the program, on that day; files of the folder are written before.
+  Program& Start(const std::string& date = kTestDate);
   // The repaint that follows a change of screen, and what the program does after it.
   RecordingCanvas Repaint();
   // Chooses the command and repaints.
@@ -99,8 +101,6 @@ class ProgramTest : public testing::Test {
   FakeMessageBoxes boxes_;
   std::optional<Program> program_;
 };
-
-inline constexpr const char* kTestDate = "16.11.2026";
 
 }  // namespace velnor
 

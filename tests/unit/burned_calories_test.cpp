@@ -48,6 +48,7 @@ TEST(CountBurnedTest, TheLeadingNumberCounts) {
 // the fat is taken from it.
 TEST(CountBurnedTest, IsSinglePrecision) {
   EXPECT_EQ(CountBurned("sleeping", "0.1").KcalText(), "0.100000001");
+  EXPECT_EQ(CountBurned("golf", "0.1").KcalText(), "0.420000017");  // not ...9999987
   EXPECT_EQ(CountBurned("sleeping", "16777217").KcalText(), "16777216.");
   EXPECT_EQ(CountBurned("sitting", "1").KcalText(), "0.300000012");
   EXPECT_EQ(CountBurned("swimming", "1e38").kcal, std::numeric_limits<float>::infinity());

@@ -1,7 +1,5 @@
 #include "charts/chart.h"
 
-#include <array>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
@@ -11,8 +9,6 @@
 
 namespace velnor {
 namespace {
-
-using namespace std::string_literals;
 
 const Chart& Weight() { return FindChart(ChartId::kWeight); }
 const Chart& Calories() { return FindChart(ChartId::kCalories); }
@@ -40,12 +36,14 @@ ChartSeries Days(std::size_t count) {
 
 std::vector<int> Heights(const std::vector<ChartPoint>& points) {
   std::vector<int> heights;
+  heights.reserve(points.size());
   for (const ChartPoint& point : points) heights.push_back(point.at.y);
   return heights;
 }
 
 std::vector<std::string> Labels(const std::vector<ChartPoint>& points) {
   std::vector<std::string> labels;
+  labels.reserve(points.size());
   for (const ChartPoint& point : points) labels.emplace_back(point.label);
   return labels;
 }
@@ -161,7 +159,7 @@ TEST(ChartTest, JunkBetweenEntriesKeepsItsColumn) {
   const ChartSeries series = SeriesOf({"16.11.2026;70;22;", "", "junk line", "1;72;",
                                        "17.11.2026;x;23;", "18.11.2026;69;22;", "short"});
   const std::vector<ChartPoint> points = ChartPoints(Weight(), series);
-  EXPECT_EQ(std::vector<int>(Heights(points)),
+  EXPECT_EQ(Heights(points),
             (std::vector<int>{334, 450, 329, 450, 450, 333, 450, 450, 450, 450, 450,
                               450, 450, 450, 450, 450, 450, 450, 450, 450, 450}));
   std::vector<std::string> labels = {"", "17.11", "1", "junk line", "", "16.11"};

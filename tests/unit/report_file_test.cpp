@@ -212,7 +212,7 @@ TEST_F(ReportFileTest, AFolderIsNeitherSavedNorCleared) {
 TEST_F(ReportFileTest, AWriteProtectedFileIsShownButNeitherSavedNorCleared) {
   const std::string bytes = ReportOf(30'001);
   folder_.Write("waga.ASC", bytes);
-  std::filesystem::permissions(path_, std::filesystem::perms(0444));
+  std::filesystem::permissions(path_, std::filesystem::perms{0444});
   EXPECT_EQ(LoadReport(path_), bytes.substr(0, 29'999));
   EXPECT_FALSE(SaveAsShown());
   EXPECT_FALSE(ClearReport(path_));

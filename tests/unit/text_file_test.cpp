@@ -204,11 +204,11 @@ TEST(ReplaceFilesTest, GivesAllTheirBytesOrNone) {
 TEST(ReplaceFileTest, AWriteProtectedFileStays) {
   const TemporaryFolder folder;
   const std::string path = folder.Write("file", "old");
-  std::filesystem::permissions(path, std::filesystem::perms(0444));
+  std::filesystem::permissions(path, std::filesystem::perms{0444});
   EXPECT_FALSE(ReplaceFile(path, "new"));
   EXPECT_EQ(folder.Read("file"), "old");
   EXPECT_EQ(folder.Names(), Texts{"file"});
-  std::filesystem::permissions(path, std::filesystem::perms(0464));  // somebody may write it
+  std::filesystem::permissions(path, std::filesystem::perms{0464});  // somebody may write it
   EXPECT_TRUE(ReplaceFile(path, "new"));
 }
 
