@@ -204,14 +204,6 @@ class AppendLine {
   std::string path_ = folder_.session().UserFile(kNutrientSeriesFile);
 };
 
-template <class Cost>
-void MeasureByDays(benchmark::State& state) {
-  Cost cost(state.range(0));
-  bool written = true;
-  for (auto _ : state) written = cost() && written;
-  if (!written) state.SkipWithError("the files could not be written");
-}
-
 double Microseconds(auto& cost) {
   const auto before = std::chrono::steady_clock::now();
   if (!cost()) throw std::runtime_error("files could not be written");
@@ -219,17 +211,26 @@ double Microseconds(auto& cost) {
   return taken.count();
 }
 
+struct Medians {
+  double first;
+  double second;
+};
+
 // Once this, once that: how long the disk lets one wait changes from moment to moment.
-Comparison InTurns(const char* what, auto cost, auto floor) {
+Medians InTurns(auto first, auto second) {
   constexpr int kTurns = 200;
-  constexpr double kBound = 1.25;
-  std::vector<double> measured;
-  std::vector<double> least;
+  std::vector<double> of_first;
+  std::vector<double> of_second;
   for (int i = 0; i < kTurns; ++i) {
-    measured.push_back(Microseconds(cost));
-    least.push_back(Microseconds(floor));
+    of_first.push_back(Microseconds(first));
+    of_second.push_back(Microseconds(second));
   }
-  return {what, Median(measured), Median(least), kBound};
+  return {Median(of_first), Median(of_second)};
+}
+
+Comparison Beside(const char* what, const Medians& medians) {
+  constexpr double kBound = 1.25;
+  return {what, medians.first, medians.second, kBound};
 }
 
 // A record at the end of a report that holds so many bytes already.
@@ -276,12 +277,6 @@ void ProductRemove(benchmark::State& state) {
 }
 
 // Waiting for the disk is what most of these do: time is that of the clock.
-BENCHMARK(MeasureByDays<Add>)->Name("Add")->Arg(1)->Arg(kFullSeries)->UseRealTime();
-BENCHMARK(MeasureByDays<ReplaceChartLine>)
-    ->Name("ReplaceChartLine")
-    ->Arg(1)
-    ->Arg(kFullSeries)
-    ->UseRealTime();
 BENCHMARK(ReportAppend)->Arg(1'000)->Arg(100'000)->Arg(10'000'000)->UseRealTime();
 BENCHMARK(ReportRead)->Arg(1'000)->Arg(100'000)->Arg(10'000'000)->UseRealTime();
 BENCHMARK(ProductAppend)->Arg(0)->Arg(300)->Arg(3000)->UseRealTime();
@@ -291,13 +286,21 @@ BENCHMARK(ProductRemove)->Arg(300)->Arg(3000)->UseRealTime();
 
 std::vector<Comparison> CompareFileWork() {
   return {
-      InTurns("food added, 20 days charted", Add(kFullSeries),
-              Rewrite(kFullSeries, {kBalanceFile, kNutrientSeriesFile, kCarbohydrateExchangeFile,
-                                    kProteinFatExchangeFile})),
-      InTurns("chart line replaced, 20 days", ReplaceChartLine(kFullSeries),
-              Rewrite(kFullSeries, {kNutrientSeriesFile})),
-      InTurns("chart line added", AddChartLine(), AppendLine()),
+      Beside("food added, 20 days charted",
+             InTurns(Add(kFullSeries),
+                     Rewrite(kFullSeries, {kBalanceFile, kNutrientSeriesFile,
+                                           kCarbohydrateExchangeFile, kProteinFatExchangeFile}))),
+      Beside("chart line replaced, 20 days",
+             InTurns(ReplaceChartLine(kFullSeries), Rewrite(kFullSeries, {kNutrientSeriesFile}))),
+      Beside("chart line added", InTurns(AddChartLine(), AppendLine())),
   };
+}
+
+std::vector<Growth> GrowFileWork() {
+  const Medians added = InTurns(Add(1), Add(kFullSeries));
+  const Medians replaced = InTurns(ReplaceChartLine(1), ReplaceChartLine(kFullSeries));
+  return {{"food added", {added.first, added.second}},
+          {"chart line replaced", {replaced.first, replaced.second}}};
 }
 
 }  // namespace velnor::bench

@@ -11,6 +11,8 @@ namespace velnor::bench {
 
 // In microseconds. Throws std::runtime_error when something cannot be written.
 std::vector<Comparison> CompareFileWork();
+// The same work with one day in the chart, and with twenty.
+std::vector<Growth> GrowFileWork();
 
 }  // namespace velnor::bench
 

@@ -52,12 +52,6 @@ constexpr GrowthRow kByProducts[] = {
      {nullptr, "ProductRemove/300/real_time", "ProductRemove/3000/real_time"}},
 };
 
-constexpr GrowthRow kByDays[] = {
-    {"food added", {"Add/1/real_time", "Add/20/real_time", nullptr}},
-    {"chart line replaced",
-     {"ReplaceChartLine/1/real_time", "ReplaceChartLine/20/real_time", nullptr}},
-};
-
 constexpr GrowthRow kByBytes[] = {
     {"record added to a report",
      {"ReportAppend/1000/real_time", "ReportAppend/100000/real_time",
@@ -134,7 +128,7 @@ int Run(int argc, char** argv) {
   PrintComparisons("in memory", "us", Compare(medians, kInMemory));
   PrintComparisons("to the disk", "us", CompareFileWork());
   PrintGrowth("by products of the user's", "us", {"0", "300", "3000"}, Grow(medians, kByProducts));
-  PrintGrowth("by days in the chart", "us", {"1", "20"}, Grow(medians, kByDays));
+  PrintGrowth("by days in the chart", "us", {"1", "20"}, GrowFileWork());
   PrintGrowth("by bytes of a report", "us", {"1,000", "100,000", "10,000,000"},
               Grow(medians, kByBytes));
   return medians.complete() ? 0 : 1;
