@@ -1,0 +1,381 @@
+// The costs of the whole program under its window system, beside those of a bare window: from the
+// start to the first complete paint, one repaint, memory; and the size of velnor.exe.
+//
+// Usage: desktop_bench.exe [ROUNDS]
+// A round starts and measures each program, one after the other: what else the machine does falls
+// on all of them. The figures are medians over the rounds. The exit code is 1 when something could
+// not be measured.
+
+#include <windows.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <map>
+#include <psapi.h>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bench/table.h"
+#include "tests/desktop/driver.h"
+
+namespace velnor::bench {
+namespace {
+
+using desktop::WaitUntil;
+using desktop::Window;
+using desktop::WorkFolder;
+
+constexpr DWORD kPatience = 20'000;  // ms
+constexpr int kRepaints = 15;        // of each screen in a round
+constexpr int kStartsInRound = 3;
+constexpr int kRounds = 10;
+constexpr DWORD kCalm = 500;  // ms after which the display has dealt with a new window
+
+constexpr const char* kVelnorClass = "Velnor calorie counter";
+constexpr const char* kBareClass = "bare window";
+constexpr char kDialogClass[] = "#32770";
+
+constexpr double kMegabyte = 1e6;
+constexpr double kExeBound = 6;  // MB
+
+std::string FolderOfThisProgram() {
+  std::string path(MAX_PATH, '\0');
+  path.resize(GetModuleFileNameA(nullptr, path.data(), MAX_PATH));
+  return path.substr(0, path.rfind('\\') + 1);
+}
+
+double Milliseconds() {
+  LARGE_INTEGER frequency;
+  LARGE_INTEGER now;
+  QueryPerformanceFrequency(&frequency);
+  QueryPerformanceCounter(&now);
+  return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+// What the display shows along a diagonal of the window.
+std::vector<COLORREF> Diagonal(HWND window) {
+  constexpr int kPoints = 32;
+  RECT place = {};
+  GetWindowRect(window, &place);
+  const HDC screen = GetDC(nullptr);
+  std::vector<COLORREF> colours;
+  for (int i = 1; i < kPoints; ++i) {
+    colours.push_back(GetPixel(screen, place.left + (place.right - place.left) * i / kPoints,
+                               place.top + (place.bottom - place.top) * i / kPoints));
+  }
+  ReleaseDC(nullptr, screen);
+  return colours;
+}
+
+enum class What { kWindow, kWindowAndControls };
+
+// A program from its start on; ended with the object.
+class Started {
+ public:
+  // Returns when its window and all in it has been painted for the first time.
+  Started(const std::string& command, const char* window_class, const std::string& folder) {
+    std::string command_line = FolderOfThisProgram() + command;
+    STARTUPINFOA start = {};
+    start.cb = sizeof start;
+    const double before = Milliseconds();
+    if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                       folder.c_str(), &start, &process_) == 0) {
+      throw std::runtime_error("cannot start " + command_line);
+    }
+    // From when it is visible on, the window knows what of it is still to be painted.
+    do {
+      if (Milliseconds() - before > kPatience) Fail(command + " opens no window");
+      Sleep(1);
+      window_ = FindWindowA(window_class, nullptr);
+    } while (window_ == nullptr || IsWindowVisible(window_) == 0);
+    WaitUntilPainted();
+    start_ms_ = Milliseconds() - before;
+  }
+  Started(const Started&) = delete;
+  Started& operator=(const Started&) = delete;
+  ~Started() { End(); }
+
+  double start_ms() const { return start_ms_; }
+  HWND window() const { return window_; }
+
+  // Milliseconds from the need to repaint until all that needs it is painted: the window, as the
+  // program asks for it when something has changed, or its controls too, as after something lay
+  // over it. Only the program itself may paint: a paint sent from here would come on top of its
+  // own.
+  double Repaint(What what) const {
+    const double before = Milliseconds();
+    RedrawWindow(window_, nullptr, nullptr,
+                 static_cast<UINT>(RDW_INVALIDATE | RDW_ERASE |
+                                   (what == What::kWindow ? RDW_NOCHILDREN : RDW_ALLCHILDREN)));
+    WaitUntilPainted();
+    RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    SendMessageA(window_, WM_NULL, 0, 0);
+    return Milliseconds() - before;
+  }
+
+  double PeakMegabytes() const {
+    PROCESS_MEMORY_COUNTERS memory = {};
+    if (GetProcessMemoryInfo(process_.hProcess, &memory, sizeof memory) == 0) {
+      throw std::runtime_error("the memory of a program cannot be read");
+    }
+    return static_cast<double>(memory.PeakWorkingSetSize) / kMegabyte;
+  }
+
+ private:
+  // The program answers between two messages: when it answers after nothing was left to paint, the
+  // last painting has ended.
+  void WaitUntilPainted() const {
+    do {
+      SendMessageA(window_, WM_NULL, 0, 0);
+    } while (GetUpdateRect(window_, nullptr, FALSE) != 0);
+    SendMessageA(window_, WM_NULL, 0, 0);
+  }
+  [[noreturn]] void Fail(const std::string& why) {
+    End();
+    throw std::runtime_error(why);
+  }
+  // As a person ends it, and not before the display has dealt with its window: one that is torn
+  // away while it is being opened can leave its frame behind and cover the next.
+  void End() {
+    Sleep(kCalm);
+    PostMessageA(window_, WM_CLOSE, 0, 0);
+    if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) {
+      TerminateProcess(process_.hProcess, 1);
+      WaitForSingleObject(process_.hProcess, kPatience);
+    }
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+    Sleep(kCalm);
+  }
+
+  PROCESS_INFORMATION process_ = {};
+  HWND window_ = nullptr;
+  double start_ms_ = 0;
+};
+
+constexpr const char* kWithControls = ", controls too";
+
+// The figures of all rounds, by what was measured.
+using Samples = std::map<std::string, std::vector<double>>;
+
+void SampleRepaints(const Started& program, const std::string& what, Samples& samples) {
+  for (int i = 0; i < kRepaints; ++i) {
+    samples[what].push_back(program.Repaint(What::kWindow));
+    samples[what + kWithControls].push_back(program.Repaint(What::kWindowAndControls));
+  }
+}
+
+void LogIn(const Window& main) {
+  constexpr int kOpenLogin = 200;
+  constexpr int kUsers = 700;
+  main.Command(kOpenLogin);
+  HWND dialog = nullptr;
+  WaitUntil([&] { return (dialog = FindWindowA(kDialogClass, nullptr)) != nullptr; });
+  if (!Window(dialog).Choose(kUsers, "Ann")) throw std::runtime_error("nobody can log in");
+  Window(dialog).PostCommand(IDOK);
+  if (!desktop::WaitUntilGone(dialog)) throw std::runtime_error("the login stays open");
+}
+
+void SampleVelnor(const WorkFolder& folder, Samples& samples) {
+  constexpr int kOpenCounter = 231;
+  constexpr int kOpenCalorieChart = 271;
+  const Started velnor("velnor.exe", kVelnorClass, folder.path());
+  const Window main(velnor.window());
+  LogIn(main);
+  Sleep(kCalm);
+  SampleRepaints(velnor, "0", samples);
+  main.Command(kOpenCounter);
+  velnor.Repaint(What::kWindow);
+  if (!main.IsShown(126)) throw std::runtime_error("screen 7 does not come");
+  Sleep(kCalm);
+  SampleRepaints(velnor, "7", samples);
+  const std::vector<COLORREF> counter = Diagonal(velnor.window());
+  main.Command(kOpenCalorieChart);
+  velnor.Repaint(What::kWindow);
+  if (main.IsShown(126) || FindWindowA(kDialogClass, nullptr) != nullptr) {
+    throw std::runtime_error("screen 14 does not come");
+  }
+  // The display follows in its own time.
+  if (!WaitUntil([&] { return Diagonal(velnor.window()) != counter; })) {
+    throw std::runtime_error("nothing is painted");
+  }
+  SampleRepaints(velnor, "14", samples);
+  samples["memory"].push_back(velnor.PeakMegabytes());
+}
+
+void SampleBare(const WorkFolder& folder, Samples& samples) {
+  constexpr std::array kBareWindows = {
+      std::array{"bare_window.exe", "bare", "bare memory"},
+      std::array{"bare_window.exe 7", "bare with controls of 7", "bare memory with all pictures"},
+      std::array{"bare_window.exe 14", "bare with controls of 14", "bare memory with all pictures"},
+  };
+  for (const auto& [command, repaint, memory] : kBareWindows) {
+    const Started bare(command, kBareClass, folder.path());
+    Sleep(kCalm);
+    SampleRepaints(bare, repaint, samples);
+    samples[memory].push_back(bare.PeakMegabytes());
+  }
+}
+
+void SampleStarts(const WorkFolder& folder, Samples& samples) {
+  constexpr std::array kStarts = {
+      std::array{"velnor.exe", kVelnorClass, "start"},
+      std::array{"bare_window.exe", kBareClass, "bare start"},
+      std::array{"bare_window.exe 0", kBareClass, "bare start with all pictures"},
+  };
+  for (int i = 0; i < kStartsInRound; ++i) {
+    for (const auto& [command, window_class, what] : kStarts) {
+      samples[what].push_back(Started(command, window_class, folder.path()).start_ms());
+    }
+  }
+}
+
+// A person with twenty days behind them.
+void Write(const WorkFolder& folder) {
+  CreateDirectoryA((folder.path() + "Ann").c_str(), nullptr);
+  folder.Write("users.ASC", "Ann");
+  folder.Write("Ann\\info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  std::string series;
+  for (int day = 1; day <= 20; ++day) {
+    series += std::to_string(day) + ".10.2026;" + std::to_string(1500 + day * 37 % 900) +
+              ".25;70.125;61.5;254.75;\r\n";
+  }
+  folder.Write("Ann\\wykoda.txt", series);
+}
+
+// --- the size of velnor.exe -------------------------------------------------------------------
+
+std::string ReadWhole(const std::string& path) {
+  std::FILE* const file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) throw std::runtime_error("cannot read " + path);
+  std::string bytes;
+  std::array<char, 65'536> block;
+  while (const std::size_t got = std::fread(block.data(), 1, block.size(), file)) {
+    bytes.append(block.data(), got);
+  }
+  std::fclose(file);
+  return bytes;
+}
+
+// The bytes of every resource of one type.
+BOOL CALLBACK AddSize(HMODULE module, LPCSTR type, LPSTR name, LONG_PTR sum) {
+  *reinterpret_cast<double*>(sum) += SizeofResource(module, FindResourceA(module, name, type));
+  return TRUE;
+}
+
+double ResourceMegabytes(HMODULE module, LPCSTR type) {
+  double bytes = 0;
+  EnumResourceNamesA(module, type, AddSize, reinterpret_cast<LONG_PTR>(&bytes));
+  return bytes / kMegabyte;
+}
+
+void PrintPart(const std::string& name, double megabytes) {
+  std::printf("  %-44s%12.2f MB\n", name.c_str(), megabytes);
+}
+
+void PrintExeSize() {
+  const std::string path = FolderOfThisProgram() + "velnor.exe";
+  const std::string bytes = ReadWhole(path);
+  const double size = static_cast<double>(bytes.size()) / kMegabyte;
+  std::printf("\nvelnor.exe: %.2f MB, bound %.2f MB%s. Its parts:\n", size, kExeBound,
+              size > kExeBound ? "  MISSED" : "");
+  const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(bytes.data());
+  const auto* const headers =
+      reinterpret_cast<const IMAGE_NT_HEADERS*>(bytes.data() + dos->e_lfanew);
+  const auto* section = reinterpret_cast<const IMAGE_SECTION_HEADER*>(
+      reinterpret_cast<const char*>(&headers->OptionalHeader) +
+      headers->FileHeader.SizeOfOptionalHeader);
+  for (int i = 0; i < headers->FileHeader.NumberOfSections; ++i, ++section) {
+    const auto* const name = reinterpret_cast<const char*>(section->Name);
+    PrintPart("section " + std::string(name, strnlen(name, sizeof section->Name)),
+              section->SizeOfRawData / kMegabyte);
+  }
+  const HMODULE module = LoadLibraryExA(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  if (module == nullptr) throw std::runtime_error("cannot look into " + path);
+  PrintPart("of .rsrc, pictures", ResourceMegabytes(module, RT_BITMAP));
+  PrintPart("of .rsrc, icon", ResourceMegabytes(module, RT_ICON));
+  PrintPart("of .rsrc, menu and dialogs",
+            ResourceMegabytes(module, RT_MENU) + ResourceMegabytes(module, RT_DIALOG));
+  FreeLibrary(module);
+}
+
+struct ComparedRow {
+  const char* what;
+  const char* measured;
+  const char* floor;
+  double bound;
+};
+
+constexpr ComparedRow kBesideBare[] = {
+    {"start to first complete paint", "start", "bare start", 1.15},
+    {"repaint of screen 7", "7", "bare", 1.5},
+    {"repaint of screen 14", "14", "bare", 1.5},
+    {"screen 7, controls too", "7, controls too", "bare, controls too", 0},
+    {"screen 14, controls too", "14, controls too", "bare, controls too", 0},
+};
+
+// What the platform alone takes for what a screen has to do.
+constexpr ComparedRow kBesideDuties[] = {
+    {"start to first complete paint", "start", "bare start with all pictures", 0},
+    {"repaint of screen 7", "7", "bare with controls of 7", 0},
+    {"repaint of screen 14", "14", "bare with controls of 14", 0},
+    {"screen 7, controls too", "7, controls too", "bare with controls of 7, controls too", 0},
+    {"repaint of screen 0", "0", "bare", 0},
+};
+
+constexpr ComparedRow kMemory[] = {
+    {"peak", "memory", "bare memory", 1.5},
+    {"peak, beside a window with all pictures", "memory", "bare memory with all pictures", 0},
+};
+
+std::vector<Comparison> Compare(std::span<const ComparedRow> rows, const Samples& samples,
+                                double (*choose)(const std::vector<double>&)) {
+  std::vector<Comparison> compared;
+  for (const ComparedRow& row : rows) {
+    compared.push_back(
+        {row.what, choose(samples.at(row.measured)), choose(samples.at(row.floor)), row.bound});
+  }
+  return compared;
+}
+
+void PrintTables(const Samples& samples) {
+  PrintComparisons("beside a bare window, medians", "ms", Compare(kBesideBare, samples, Median));
+  PrintComparisons("the same, the least of all", "ms", Compare(kBesideBare, samples, Least));
+  PrintComparisons("beside one with the same duties, medians", "ms",
+                   Compare(kBesideDuties, samples, Median));
+  PrintComparisons("the same, the least of all", "ms", Compare(kBesideDuties, samples, Least));
+  PrintComparisons("memory", "MB", Compare(kMemory, samples, Median));
+}
+
+int Run(int rounds) {
+  const WorkFolder folder;
+  Write(folder);
+  Samples samples;
+  Samples warm_up;  // the first start reads everything from the disk
+  SampleStarts(folder, warm_up);
+  for (int round = 0; round < rounds; ++round) {
+    SampleStarts(folder, samples);
+    SampleVelnor(folder, samples);
+    SampleBare(folder, samples);
+  }
+  PrintTables(samples);
+  PrintExeSize();
+  return 0;
+}
+
+}  // namespace
+}  // namespace velnor::bench
+
+int main(int argc, char** argv) {
+  try {
+    return velnor::bench::Run(argc > 1 ? std::atoi(argv[1]) : velnor::bench::kRounds);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "desktop_bench: %s\n", error.what());
+    return 1;
+  }
+}
