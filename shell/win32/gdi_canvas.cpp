@@ -21,16 +21,26 @@ HFONT MakeFont(const Font& font) {
   return CreateFontIndirectA(&description);
 }
 
+void CopyBitmap(HDC to, HBITMAP bitmap, int width, int height) {
+  const HDC memory = CreateCompatibleDC(to);
+  const HGDIOBJ previous = SelectObject(memory, bitmap);
+  BitBlt(to, 0, 0, width, height, memory, 0, 0, SRCCOPY);
+  SelectObject(memory, previous);
+  DeleteDC(memory);
+}
+
 }  // namespace
 
 GdiResources::~GdiResources() {
+  if (prepared_.bitmap != nullptr) DeleteObject(prepared_.bitmap);
   for (const auto& [name, background] : backgrounds_) DeleteObject(background.bitmap);
   for (const CachedFont& cached : fonts_) DeleteObject(cached.handle);
 }
 
 void GdiResources::LoadBackgrounds(HINSTANCE instance) {
   for (const char* const name : BackgroundNames()) {
-    const HBITMAP bitmap = LoadBitmapA(instance, name);
+    const auto bitmap =
+        static_cast<HBITMAP>(LoadImageA(instance, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
     BITMAP size = {};
     if (bitmap == nullptr) continue;
     GetObjectA(bitmap, sizeof size, &size);
@@ -38,9 +48,25 @@ void GdiResources::LoadBackgrounds(HINSTANCE instance) {
   }
 }
 
-const GdiResources::Background* GdiResources::FindBackground(std::string_view name) const {
+const GdiResources::Background& GdiResources::PrepareBackground(HDC context,
+                                                                std::string_view name) {
+  if (name == prepared_name_) return prepared_;
+  if (prepared_.bitmap != nullptr) DeleteObject(prepared_.bitmap);
+  prepared_ = {};
+  prepared_name_.clear();
   const auto found = backgrounds_.find(name);
-  return found == backgrounds_.end() ? nullptr : &found->second;
+  if (found == backgrounds_.end()) return prepared_;
+  const auto& [bitmap, width, height] = found->second;
+  const HDC memory = CreateCompatibleDC(context);
+  const HBITMAP picture = CreateCompatibleBitmap(context, width, height);
+  const HGDIOBJ previous = SelectObject(memory, picture);
+  CopyBitmap(memory, bitmap, width, height);
+  SelectObject(memory, previous);
+  DeleteDC(memory);
+  if (picture == nullptr) return prepared_;
+  prepared_ = {picture, width, height};
+  prepared_name_ = name;
+  return prepared_;
 }
 
 HFONT GdiResources::FontFor(const Font& font) {
@@ -50,23 +76,20 @@ HFONT GdiResources::FontFor(const Font& font) {
   return fonts_.back().handle;
 }
 
-HDC BackBuffer::Begin(HWND window, int width, int height, HBRUSH surface) {
-  if (context_ == nullptr || width != width_ || height != height_) {
+HDC BackBuffer::Begin(HWND window, int width, int height) {
+  if (context_ != nullptr && width == width_ && height == height_) return context_;
+  Discard();
+  const HDC screen = GetDC(window);
+  context_ = CreateCompatibleDC(screen);
+  bitmap_ = CreateCompatibleBitmap(screen, width, height);
+  ReleaseDC(window, screen);
+  if (context_ == nullptr || bitmap_ == nullptr) {
     Discard();
-    const HDC screen = GetDC(window);
-    context_ = CreateCompatibleDC(screen);
-    bitmap_ = CreateCompatibleBitmap(screen, width, height);
-    ReleaseDC(window, screen);
-    if (context_ == nullptr || bitmap_ == nullptr) {
-      Discard();
-      return nullptr;
-    }
-    previous_ = SelectObject(context_, bitmap_);
-    width_ = width;
-    height_ = height;
+    return nullptr;
   }
-  const RECT all = {0, 0, width, height};
-  FillRect(context_, &all, surface);
+  previous_ = SelectObject(context_, bitmap_);
+  width_ = width;
+  height_ = height;
   return context_;
 }
 
@@ -79,8 +102,8 @@ void BackBuffer::Discard() {
   previous_ = nullptr;
 }
 
-GdiCanvas::GdiCanvas(HDC context, GdiResources& resources)
-    : context_(context), saved_state_(SaveDC(context)), resources_(resources) {
+GdiCanvas::GdiCanvas(HDC context, HBRUSH surface, GdiResources& resources)
+    : context_(context), surface_(surface), saved_state_(SaveDC(context)), resources_(resources) {
   SetBkMode(context_, TRANSPARENT);
 }
 
@@ -90,13 +113,14 @@ GdiCanvas::~GdiCanvas() {
 }
 
 void GdiCanvas::CopyBackground(std::string_view name) {
-  const GdiResources::Background* const background = resources_.FindBackground(name);
-  if (background == nullptr) return;
-  const HDC memory = CreateCompatibleDC(context_);
-  const HGDIOBJ previous = SelectObject(memory, background->bitmap);
-  BitBlt(context_, 0, 0, background->width, background->height, memory, 0, 0, SRCCOPY);
-  SelectObject(memory, previous);
-  DeleteDC(memory);
+  const auto& [bitmap, width, height] = resources_.PrepareBackground(context_, name);
+  if (bitmap != nullptr) CopyBitmap(context_, bitmap, width, height);
+  RECT all = {};
+  GetClipBox(context_, &all);
+  const RECT right_of_it = {width, 0, all.right, height};
+  const RECT below_it = {0, height, all.right, all.bottom};
+  if (width < all.right) FillRect(context_, &right_of_it, surface_);
+  if (height < all.bottom) FillRect(context_, &below_it, surface_);
 }
 
 void GdiCanvas::SetFont(const Font& font) { SelectObject(context_, resources_.FontFor(font)); }

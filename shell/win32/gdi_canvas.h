@@ -26,12 +26,13 @@ class GdiResources {
   void LoadBackgrounds(HINSTANCE instance);
 
   struct Background {
-    HBITMAP bitmap;
-    int width;
-    int height;
+    HBITMAP bitmap = nullptr;
+    int width = 0;
+    int height = 0;
   };
-  // Null when there is no such picture.
-  const Background* FindBackground(std::string_view name) const;
+  // A picture in the format of the display of `context`; it serves until the next call. Without a
+  // bitmap when there is no such picture or no memory for it.
+  const Background& PrepareBackground(HDC context, std::string_view name);
 
   // Made when first asked for and kept.
   HFONT FontFor(const Font& font);
@@ -41,7 +42,11 @@ class GdiResources {
     Font font;
     HFONT handle;
   };
+  // With their 256 colours, a quarter of what they take in the format of most displays.
   std::map<std::string, Background, std::less<>> backgrounds_;
+  // The one that was copied last, in the format of the display.
+  std::string prepared_name_;
+  Background prepared_;
   std::vector<CachedFont> fonts_;
 };
 
@@ -53,9 +58,9 @@ class BackBuffer {
   BackBuffer& operator=(const BackBuffer&) = delete;
   ~BackBuffer() { Discard(); }
 
-  // A device context over a picture of that size, every pixel of it in the colour of `surface`. It
-  // serves until the next call. Null when the system refuses one.
-  HDC Begin(HWND window, int width, int height, HBRUSH surface);
+  // A device context over a picture of that size, with whatever was drawn into it before. It serves
+  // until the next call. Null when the system refuses one.
+  HDC Begin(HWND window, int width, int height);
 
  private:
   void Discard();
@@ -67,10 +72,11 @@ class BackBuffer {
   int height_ = 0;
 };
 
-// One painting. The device context is put back as it was when the canvas goes.
+// One painting of the whole of a device context, which is put back as it was when the canvas goes.
+// What the background does not cover gets the colour of `surface`.
 class GdiCanvas final : public Canvas {
  public:
-  GdiCanvas(HDC context, GdiResources& resources);
+  GdiCanvas(HDC context, HBRUSH surface, GdiResources& resources);
   GdiCanvas(const GdiCanvas&) = delete;
   GdiCanvas& operator=(const GdiCanvas&) = delete;
   ~GdiCanvas() override;
@@ -84,6 +90,7 @@ class GdiCanvas final : public Canvas {
 
  private:
   HDC context_;
+  HBRUSH surface_;
   int saved_state_;
   GdiResources& resources_;
   HPEN pen_ = nullptr;

@@ -157,9 +157,9 @@ void Win32MainWindow::OnPaint() {
   const HWND focused = GetFocus();
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->HideControls();
-  const HDC picture = back_buffer_.Begin(window_, client_width_, client_height_, surface_);
+  const HDC picture = back_buffer_.Begin(window_, client_width_, client_height_);
   if (picture != nullptr) {
-    GdiCanvas canvas(picture, resources_);
+    GdiCanvas canvas(picture, surface_, resources_);
     program_->Paint(canvas);
   }
   form_->HideTheRest();

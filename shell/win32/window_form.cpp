@@ -173,7 +173,9 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     const HFONT font = resources.FontFor(ControlFont(row));
     SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     // List boxes have rounded their height to whole lines of the font they were born with.
-    MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
+    if (row.control_class == ControlClass::kListBox) {
+      MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
+    }
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }
