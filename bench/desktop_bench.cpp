@@ -170,10 +170,10 @@ void SampleRepaints(const Started& program, const std::string& what, Samples& sa
   }
 }
 
-void LogIn(const Window& main) {
+void LogIn(const Window& window) {
   constexpr int kOpenLogin = 200;
   constexpr int kUsers = 700;
-  main.Command(kOpenLogin);
+  window.Command(kOpenLogin);
   HWND dialog = nullptr;
   WaitUntil([&] { return (dialog = FindWindowA(kDialogClass, nullptr)) != nullptr; });
   if (!Window(dialog).Choose(kUsers, "Ann")) throw std::runtime_error("nobody can log in");
@@ -185,19 +185,19 @@ void SampleVelnor(const WorkFolder& folder, Samples& samples) {
   constexpr int kOpenCounter = 231;
   constexpr int kOpenCalorieChart = 271;
   const Started velnor("velnor.exe", kVelnorClass, folder.path());
-  const Window main(velnor.window());
-  LogIn(main);
+  const Window window(velnor.window());
+  LogIn(window);
   Sleep(kCalm);
   SampleRepaints(velnor, "0", samples);
-  main.Command(kOpenCounter);
+  window.Command(kOpenCounter);
   velnor.Repaint(What::kWindow);
-  if (!main.IsShown(126)) throw std::runtime_error("screen 7 does not come");
+  if (!window.IsShown(126)) throw std::runtime_error("screen 7 does not come");
   Sleep(kCalm);
   SampleRepaints(velnor, "7", samples);
   const std::vector<COLORREF> counter = Diagonal(velnor.window());
-  main.Command(kOpenCalorieChart);
+  window.Command(kOpenCalorieChart);
   velnor.Repaint(What::kWindow);
-  if (main.IsShown(126) || FindWindowA(kDialogClass, nullptr) != nullptr) {
+  if (window.IsShown(126) || FindWindowA(kDialogClass, nullptr) != nullptr) {
     throw std::runtime_error("screen 14 does not come");
   }
   // The display follows in its own time.

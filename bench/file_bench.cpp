@@ -188,7 +188,8 @@ class AddChartLine {
   int day_ = 0;
 };
 
-double Microseconds(auto& cost) {
+template <class Cost>
+double Microseconds(Cost& cost) {
   const auto before = std::chrono::steady_clock::now();
   if (!cost()) throw std::runtime_error("files could not be written");
   const std::chrono::duration<double, std::micro> taken = std::chrono::steady_clock::now() - before;

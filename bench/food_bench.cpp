@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <fcntl.h>
+#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -85,7 +86,7 @@ void SearchResultsFloor(benchmark::State& state) {
   const auto results = SearchProducts(loaded.food(), kQueries[state.range(0)]);
   for (auto _ : state) {
     std::vector<std::string> written;
-    for (const std::string& result : results) written.push_back(result);
+    std::ranges::copy(results, std::back_inserter(written));
     benchmark::DoNotOptimize(written.data());
   }
 }

@@ -119,6 +119,7 @@ int Run(int argc, char** argv) {
                                         "--benchmark_repetitions=15", "--benchmark_min_time=0.02"};
   arguments.insert(arguments.end(), argv + 1, argv + argc);
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size());
   for (std::string& argument : arguments) pointers.push_back(argument.data());
   auto count = static_cast<int>(pointers.size());
   benchmark::Initialize(&count, pointers.data());

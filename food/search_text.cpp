@@ -1,6 +1,7 @@
 #include "food/search_text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace velnor {
 namespace {
@@ -13,8 +14,8 @@ std::size_t RarestLetter(std::string_view query) {
   const auto rarity = [](char letter) {
     return std::min(kCommonLetters.find(letter), kCommonLetters.size());
   };
-  const auto rarest = std::ranges::max_element(query, {}, rarity);
-  return static_cast<std::size_t>(rarest - query.begin());
+  return static_cast<std::size_t>(
+      std::distance(query.begin(), std::ranges::max_element(query, {}, rarity)));
 }
 
 }  // namespace

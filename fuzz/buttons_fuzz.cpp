@@ -46,10 +46,6 @@ Target MainWindowOf(ProgramRun& run) {
   return target;
 }
 
-Target FrontDialogOf(ProgramRun& run) {
-  return {*run.dialog(), DialogTemplate(run.dialog_resource())};
-}
-
 int Wrap(int number, std::size_t count) {
   const int size = static_cast<int>(count);
   return (number % size + size) % size;
@@ -112,8 +108,10 @@ void TakeStep(ProgramRun& run, std::string_view line) {
   if (step == 't' || step == 'c' || step == 'p') {
     WorkIn(MainWindowOf(run), step, number, text);
   }
-  if ((step == 'T' || step == 'C' || step == 'P') && run.dialog() != nullptr) {
-    WorkIn(FrontDialogOf(run), static_cast<char>(step - 'A' + 'a'), number, text);
+  FakeForm* const dialog = run.dialog();
+  if ((step == 'T' || step == 'C' || step == 'P') && dialog != nullptr) {
+    WorkIn({*dialog, DialogTemplate(run.dialog_resource())}, static_cast<char>(step - 'A' + 'a'),
+           number, text);
   }
   run.Settle();
 }

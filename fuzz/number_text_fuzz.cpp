@@ -18,7 +18,7 @@ namespace {
 // The C library also reads hexadecimal digits, "inf" and "nan", which nobody means here.
 bool IsReadAlike(const std::string& text) {
   const std::size_t sign = std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size());
-  std::string_view digits = std::string_view(text).substr(sign);
+  std::string_view digits = std::string_view{text}.substr(sign);
   if (!digits.empty() && (digits[0] == '+' || digits[0] == '-')) digits.remove_prefix(1);
   if (digits.starts_with("0x") || digits.starts_with("0X")) return false;
   return digits.empty() || digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9');
@@ -31,9 +31,9 @@ void CheckReading(const std::string& text) {
   const double expected = std::strtod(text.c_str(), nullptr);
   Require(AreSame(ParseNumber(text), expected) || expected == 0,
           "a number is read as the C library reads it");
-  constexpr long kSmallest = std::numeric_limits<int>::min();
-  constexpr long kLargest = std::numeric_limits<int>::max();
-  const long whole = std::strtol(text.c_str(), nullptr, 10);
+  constexpr std::int64_t kSmallest = std::numeric_limits<int>::min();
+  constexpr std::int64_t kLargest = std::numeric_limits<int>::max();
+  const std::int64_t whole = std::strtoll(text.c_str(), nullptr, 10);
   Require(ParseInteger(text) == std::clamp(whole, kSmallest, kLargest),
           "a whole number is read as the C library reads it");
 }

@@ -181,9 +181,9 @@ void ProgramRun::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
 }
 
 void ProgramRun::RunDialog(int, Dialog& dialog) {
-  FakeForm form;
-  dialog.OnOpen(form);
-  dialog.OnCommand(form, kOkButton, kButtonClicked);
+  FakeForm window;
+  dialog.OnOpen(window);
+  dialog.OnCommand(window, kOkButton, kButtonClicked);
 }
 
 void ProgramRun::RequireNumbers(const RecordingCanvas& canvas) const {

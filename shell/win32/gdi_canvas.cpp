@@ -39,7 +39,7 @@ GdiResources::~GdiResources() {
 
 void GdiResources::LoadBackgrounds(HINSTANCE instance) {
   for (const char* const name : BackgroundNames()) {
-    const auto bitmap =
+    auto* const bitmap =
         static_cast<HBITMAP>(LoadImageA(instance, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
     BITMAP size = {};
     if (bitmap == nullptr) continue;

@@ -17,6 +17,7 @@
 namespace velnor::desktop {
 namespace {
 
+constexpr std::size_t kMostGrowth = 4 << 20;  // bytes
 constexpr int kDefaultActions = 2000;
 constexpr UINT kHangMilliseconds = 20'000;
 
@@ -169,9 +170,8 @@ Size SizeOf(HANDLE process) {
 }
 
 void Print(int actions, const Size& size) {
-  std::printf("after %5d actions: %lu handles, %lu GDI objects, %lu user objects, %llu KB\n",
-              actions, size.handles, size.gdi_objects, size.user_objects,
-              static_cast<unsigned long long>(size.memory / 1024));
+  std::printf("after %5d actions: %lu handles, %lu GDI objects, %lu user objects, %zu KB\n",
+              actions, size.handles, size.gdi_objects, size.user_objects, size.memory / 1024);
   std::fflush(stdout);
 }
 
@@ -204,7 +204,7 @@ TEST(Soak, RandomActionsNeitherStopItNorMakeItGrow) {
   EXPECT_LE(after.handles, before.handles + 10);
   EXPECT_LE(after.gdi_objects, before.gdi_objects + 10);
   EXPECT_LE(after.user_objects, before.user_objects + 10);
-  EXPECT_LE(after.memory, before.memory + 4 * 1024 * 1024);
+  EXPECT_LE(after.memory, before.memory + kMostGrowth);
 }
 
 }  // namespace

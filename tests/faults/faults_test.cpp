@@ -221,7 +221,8 @@ std::vector<FaultPoint> FaultPointsOf(const Outcome& outcome) {
 class FaultsTest : public testing::TestWithParam<Action> {
  protected:
   // Goes through the crashes or through the errors, to the first that does harm.
-  void GoThrough(bool crashes, void (*run)(const Action&, const Outcome&, std::size_t, Fault)) {
+  static void GoThrough(bool crashes,
+                        void (*run)(const Action&, const Outcome&, std::size_t, Fault)) {
     const Outcome outcome = OutcomeOf(GetParam());
     ASSERT_FALSE(HasFailure());
     ASSERT_FALSE(outcome.calls.empty());

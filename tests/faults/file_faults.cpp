@@ -12,6 +12,7 @@
 #include <utility>
 
 // The linker gives these names to the calls themselves, and ours to whoever makes them.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 std::FILE* __real_fopen(const char* path, const char* mode);
 std::size_t __real_fread(void* bytes, std::size_t size, std::size_t count, std::FILE* file);
@@ -25,6 +26,7 @@ int __real_mkdir(const char* path, mode_t mode);
 int __real_rmdir(const char* path);
 int __real_stat(const char* path, struct stat* status);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace velnor {
 namespace {
@@ -212,6 +214,8 @@ FileWatch::FileWatch(const std::string& folder, std::size_t at, Fault fault) : F
 
 FileWatch::~FileWatch() { Watched() = {}; }
 
+// One watch at a time: what it has seen is kept where the hooks find it.
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 const std::vector<FileCall>& FileWatch::calls() const { return Watched().calls; }
 
 // --- the hooks
@@ -327,6 +331,7 @@ int OnPath(FileCall kind, const char* path, Call call) {
 }  // namespace
 }  // namespace velnor
 
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 std::FILE* __wrap_fopen(const char* path, const char* mode) { return velnor::Open(path, mode); }
 std::size_t __wrap_fread(void* bytes, std::size_t size, std::size_t count, std::FILE* file) {
@@ -354,3 +359,4 @@ int __wrap_rmdir(const char* path) {
   return velnor::OnPath(velnor::FileCall::kRemoveFolder, path, [=] { return __real_rmdir(path); });
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)

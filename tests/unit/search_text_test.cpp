@@ -68,7 +68,7 @@ TEST(SearchTextTest, AgreesWithASearchInEachText) {
       const std::string first = word(4);
       const std::string second = word(8);
       text.Add(first, second);
-      texts.push_back(first + ' ' + second);
+      texts.emplace_back(first).append(1, ' ').append(second);
     }
     const std::string query = word(4) + "aex"[random() % 3];
     Places expected;

@@ -53,14 +53,16 @@ TEST_F(UserProductTableTest, SplitsAtEveryPlaceOfALine) {
   for (std::size_t length = 0; length <= 140; ++length) {
     const std::string first(length, ':');  // its neighbours in the alphabet separate nothing
     const std::string second(140 - length, '<');
-    const std::string line = first + ";\xBB;" + second + ";a;b;c;d;e;f";
+    std::string line = first;
+    line.append(";\xBB;").append(second).append(";a;b;c;d;e;f");
     const ProductRecord product = SplitProductLine(line);
     EXPECT_EQ(product.main_category, first);
     EXPECT_EQ(product.subcategory, "\xBB");
     EXPECT_EQ(product.name, second);
     EXPECT_EQ(product.mass, "a");
     EXPECT_EQ(product.carbohydrate, "e");
-    const std::string open_line = first + ";" + second;
+    std::string open_line = first;
+    open_line.append(1, ';').append(second);
     const ProductRecord open = SplitProductLine(open_line);
     EXPECT_EQ(open.main_category, first);
     EXPECT_EQ(open.subcategory, second);

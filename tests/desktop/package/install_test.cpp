@@ -50,7 +50,7 @@ class Install : public testing::Test {
   }
   static App StartFromMenu() {
     const Shortcut shortcut = ReadShortcut(kStartMenu + "Velnor calorie counter.lnk");
-    return App(shortcut.target, Folder(shortcut.start_in + '\\'));
+    return {shortcut.target, Folder(shortcut.start_in + '\\')};
   }
   static Window OpenDialog(const App& app, int command) {
     app.main().Command(command);
@@ -98,7 +98,7 @@ class Install : public testing::Test {
   const std::string kPrograms = KnownFolder(CSIDL_LOCAL_APPDATA) + "Programs\\";
   static inline const std::string kStartMenu = KnownFolder(CSIDL_PROGRAMS);
   static constexpr char kUninstallKey[] =
-      "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Velnor";
+      R"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Velnor)";
   static constexpr char kOwnKey[] = "Software\\Velnor";
   const std::string kSetup = '"' + Environment("VELNOR_SETUP") + "\" /S";
   const std::string kOldSetup = '"' + Environment("VELNOR_OLD_SETUP") + "\" /S";

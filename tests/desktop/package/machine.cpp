@@ -1,5 +1,6 @@
 #include "tests/desktop/package/machine.h"
 
+#include <array>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -80,7 +81,7 @@ void RemoveTree(const std::string& folder) {
 
 std::optional<std::string> RegistryText(const char* key, const char* name) {
   std::string text(1024, '\0');
-  DWORD size = static_cast<DWORD>(text.size());
+  auto size = static_cast<DWORD>(text.size());
   if (RegGetValueA(HKEY_CURRENT_USER, key, name, RRF_RT_REG_SZ, nullptr, text.data(), &size) !=
       ERROR_SUCCESS) {
     return std::nullopt;
@@ -104,11 +105,11 @@ Shortcut ReadShortcut(const std::string& path) {
                                  reinterpret_cast<void**>(&link))) &&
       SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file))) &&
       SUCCEEDED(file->Load(std::wstring(path.begin(), path.end()).c_str(), STGM_READ))) {
-    std::string text(MAX_PATH, '\0');
+    std::array<char, MAX_PATH> text = {};
     link->GetPath(text.data(), MAX_PATH, nullptr, 0);
-    shortcut.target = text.c_str();
+    shortcut.target = text.data();
     link->GetWorkingDirectory(text.data(), MAX_PATH);
-    shortcut.start_in = text.c_str();
+    shortcut.start_in = text.data();
   }
   if (file != nullptr) file->Release();
   if (link != nullptr) link->Release();

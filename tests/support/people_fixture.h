@@ -1,0 +1,65 @@
+// A program with its dialogs of people: the users, the login and the profile.
+
+#ifndef VELNOR_TESTS_SUPPORT_PEOPLE_FIXTURE_H_
+#define VELNOR_TESTS_SUPPORT_PEOPLE_FIXTURE_H_
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_fixture.h"
+
+namespace velnor {
+
+class PeopleTest : public ProgramTest {
+ protected:
+  static constexpr std::uint32_t kSorted = control_style::kListNotify | control_style::kSortedList;
+
+  void OpenUsers() {
+    users_ = {};
+    users_.AddControl(700, ControlClass::kListBox, kSorted);
+    users_.AddControl(701, ControlClass::kEdit, control_style::kPlain);
+    OpenDialog(202, users_);
+  }
+  void OpenLogin() {
+    login_ = {};
+    login_.AddControl(700, ControlClass::kListBox, kSorted);
+    OpenDialog(200, login_);
+  }
+  void OpenProfile() {
+    profile_ = {};
+    for (const int id : {704, 705}) {
+      profile_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
+    }
+    for (const int id : {706, 707, 708}) {
+      profile_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
+    }
+    OpenDialog(204, profile_);
+  }
+  std::vector<std::string> Add(const std::string& name) {
+    users_.SetText(701, name);
+    users_.Press(702);
+    return boxes_.TakeTexts();
+  }
+  void Register(const std::string& name) {
+    OpenUsers();
+    EXPECT_TRUE(Add(name).empty());
+    users_.Press(1);
+  }
+  std::vector<std::string> LogIn(const std::string& name) {
+    OpenLogin();
+    login_.Choose(700, name);
+    login_.Press(1);
+    return boxes_.TakeTexts();
+  }
+  std::string Registry() const { return folder_.Read("users.ASC"); }
+  const std::string& User() const { return program_->session().user_name; }
+
+  FakeForm users_;
+  FakeForm login_;
+  FakeForm profile_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_TESTS_SUPPORT_PEOPLE_FIXTURE_H_
