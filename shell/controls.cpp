@@ -104,24 +104,25 @@ constexpr ControlRow kControls[] = {
 static_assert(std::size(kControls) == 86);
 
 constexpr int kNarrowField = 40;  // pixels
-constexpr Font kSmallFont{9, 0, false};
+// So small that regular strokes, smoothed, are grey shadows; bold digits are no wider.
+constexpr Font kSmallFont{9, 700, false};
 
 // Fields whose figures have more digits than the body font has room for.
 struct LongFigure {
   int id;
-  int height;  // of the font, pixels
+  Font font;
 };
 constexpr LongFigure kLongFigures[] = {
-    {163, 12},  // burned energy and fat: nine digits
-    {164, 12},
-    {180, 9},  // the day's total: fifteen digits
+    {163, {12, 0, false}},  // burned energy and fat: nine digits
+    {164, {12, 0, false}},
+    {180, kSmallFont},  // the day's total: fifteen digits
 };
 
 }  // namespace
 
 Font ControlFont(const ControlRow& row) {
   const auto* const figure = std::ranges::find(kLongFigures, row.id, &LongFigure::id);
-  if (figure != std::end(kLongFigures)) return {figure->height, 0, false};
+  if (figure != std::end(kLongFigures)) return figure->font;
   const bool narrow_static =
       row.control_class == ControlClass::kStatic && row.place.width < kNarrowField;
   return narrow_static ? kSmallFont : kBodyFont;

@@ -82,12 +82,15 @@ TEST(MainWindowControlsTest, OnlyTheGroupBoxesHaveNoEdge) {
 }
 
 TEST(MainWindowControlsTest, OnlyFiguresWithMoreDigitsThanRoomAreSmall) {
-  const std::map<int, int> heights = {{116, 9}, {117, 9},  {118, 9},  {142, 9}, {143, 9},
-                                      {144, 9}, {163, 12}, {164, 12}, {180, 9}};
+  constexpr Font kNineDigits{12, 0, false};
+  constexpr Font kSmallest{9, 700, false};
+  const std::map<int, Font> fonts = {
+      {116, kSmallest}, {117, kSmallest}, {118, kSmallest},   {142, kSmallest},   {143, kSmallest},
+      {144, kSmallest}, {180, kSmallest}, {163, kNineDigits}, {164, kNineDigits},
+  };
   for (const ControlRow& control : MainWindowControls()) {
-    const auto small = heights.find(control.id);
-    const Font expected = small == heights.end() ? kBodyFont : Font{small->second, 0, false};
-    EXPECT_EQ(ControlFont(control), expected) << control.id;
+    const auto small = fonts.find(control.id);
+    EXPECT_EQ(ControlFont(control), small == fonts.end() ? kBodyFont : small->second) << control.id;
   }
 }
 
