@@ -82,11 +82,26 @@ TEST(MainWindowControlsTest, OnlyTheGroupBoxesHaveNoEdge) {
 }
 
 TEST(MainWindowControlsTest, OnlyFiguresWithMoreDigitsThanRoomAreSmall) {
-  constexpr Font kNineDigits{12, 0, false};
-  constexpr Font kSmallest{9, 700, false};
+  constexpr Font kRatio{8, 0, false, false};
+  constexpr Font kSmaller{12, 0, false};
   const std::map<int, Font> fonts = {
-      {116, kSmallest}, {117, kSmallest}, {118, kSmallest},   {142, kSmallest},   {143, kSmallest},
-      {144, kSmallest}, {180, kSmallest}, {163, kNineDigits}, {164, kNineDigits},
+      {116, kRatio},
+      {117, kRatio},
+      {118, kRatio},
+      {142, kRatio},
+      {143, kRatio},
+      {144, kRatio},
+      {129, kSmaller},
+      {130, kSmaller},
+      {131, kSmaller},
+      {132, kSmaller},
+      {183, kSmaller},
+      {184, kSmaller},
+      {185, kSmaller},
+      {186, kSmaller},
+      {163, kSmaller},
+      {164, kSmaller},
+      {180, Font{9, 0, false, false}},
   };
   for (const ControlRow& control : MainWindowControls()) {
     const auto small = fonts.find(control.id);
