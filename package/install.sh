@@ -9,7 +9,7 @@ program=$HOME/.local/lib/velnor
 share=${XDG_DATA_HOME:-$HOME/.local/share}
 
 mkdir -p "$program" "$HOME/.local/bin" "$share/applications" "$share/icons/hicolor/256x256/apps"
-for file in velnor velnor.exe README.txt uninstall.sh; do
+for file in velnor velnor.exe README.txt README.md uninstall.sh; do
   # Not written into the file that is there: it may be running.
   cp "$here/$file" "$program/$file.new"
   mv -f "$program/$file.new" "$program/$file"

@@ -7,7 +7,7 @@ share=${XDG_DATA_HOME:-$HOME/.local/share}
 
 rm -f "$HOME/.local/bin/velnor" "$share/applications/velnor.desktop" \
   "$share/icons/hicolor/256x256/apps/velnor.png"
-for file in velnor velnor.exe README.txt uninstall.sh; do
+for file in velnor velnor.exe README.txt README.md uninstall.sh; do
   rm -f "$program/$file"
 done
 rmdir "$program" 2>/dev/null || true # stays when there is something of yours in it

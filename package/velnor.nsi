@@ -3,6 +3,7 @@
 ;   VERSION   the program's version
 ;   PROGRAM   velnor.exe
 ;   GUIDE     the short guide, README.txt
+;   WHOLE_GUIDE  the whole one, README.md
 ;   ICON      the icon of the program
 ;   OUTPUT    the installer to write
 ; Silent: velnor-VERSION-setup.exe /S [/D=FOLDER], and "uninstall.exe" /S.
@@ -106,6 +107,7 @@ Section
   SetOutPath "$INSTDIR"
   File "/oname=velnor.exe" "${PROGRAM}"
   File "/oname=README.txt" "${GUIDE}"
+  File "/oname=README.md" "${WHOLE_GUIDE}"
   WriteUninstaller "$INSTDIR\uninstall.exe"
 
   CreateDirectory "$DataFolder"
@@ -136,6 +138,7 @@ Section un.
   Delete "${SHORTCUT}"
   Delete "$INSTDIR\velnor.exe"
   Delete "$INSTDIR\README.txt"
+  Delete "$INSTDIR\README.md"
   Delete "$INSTDIR\uninstall.exe"
   SetOutPath "$TEMP" ; a folder that somebody stands in cannot be removed
   RMDir "$INSTDIR"

@@ -103,28 +103,35 @@ constexpr ControlRow kControls[] = {
 // clang-format on
 static_assert(std::size(kControls) == 86);
 
-constexpr int kNarrowField = 40;  // pixels
-constexpr Font kSmallFont{9, 0, false};
+// Figures of six digits, a point and a zero before it, as "0.571429", fit into the narrow fields.
+struct NarrowField {
+  int width;  // pixels, with its edges
+  Font font;
+};
+constexpr NarrowField kNarrowFields[] = {
+    {33, {8, 0, false, false}},
+    {50, {12, 0, false}},
+};
 
-// Fields whose figures have more digits than the body font has room for.
+// Fields whose figures have more digits than that.
 struct LongFigure {
   int id;
-  int height;  // of the font, pixels
+  Font font;
 };
 constexpr LongFigure kLongFigures[] = {
-    {163, 12},  // burned energy and fat: nine digits
-    {164, 12},
-    {180, 9},  // the day's total: fifteen digits
+    {163, {12, 0, false}},  // burned energy and fat: nine digits
+    {164, {12, 0, false}},
+    {180, {9, 0, false, false}},  // the day's total: fifteen digits
 };
 
 }  // namespace
 
 Font ControlFont(const ControlRow& row) {
   const auto* const figure = std::ranges::find(kLongFigures, row.id, &LongFigure::id);
-  if (figure != std::end(kLongFigures)) return {figure->height, 0, false};
-  const bool narrow_static =
-      row.control_class == ControlClass::kStatic && row.place.width < kNarrowField;
-  return narrow_static ? kSmallFont : kBodyFont;
+  if (figure != std::end(kLongFigures)) return figure->font;
+  if (row.control_class != ControlClass::kStatic) return kBodyFont;
+  const auto* const field = std::ranges::find(kNarrowFields, row.place.width, &NarrowField::width);
+  return field == std::end(kNarrowFields) ? kBodyFont : field->font;
 }
 
 std::span<const ControlRow> MainWindowControls() { return kControls; }

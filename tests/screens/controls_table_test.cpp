@@ -82,12 +82,30 @@ TEST(MainWindowControlsTest, OnlyTheGroupBoxesHaveNoEdge) {
 }
 
 TEST(MainWindowControlsTest, OnlyFiguresWithMoreDigitsThanRoomAreSmall) {
-  const std::map<int, int> heights = {{116, 9}, {117, 9},  {118, 9},  {142, 9}, {143, 9},
-                                      {144, 9}, {163, 12}, {164, 12}, {180, 9}};
+  constexpr Font kRatio{8, 0, false, false};
+  constexpr Font kSmaller{12, 0, false};
+  const std::map<int, Font> fonts = {
+      {116, kRatio},
+      {117, kRatio},
+      {118, kRatio},
+      {142, kRatio},
+      {143, kRatio},
+      {144, kRatio},
+      {129, kSmaller},
+      {130, kSmaller},
+      {131, kSmaller},
+      {132, kSmaller},
+      {183, kSmaller},
+      {184, kSmaller},
+      {185, kSmaller},
+      {186, kSmaller},
+      {163, kSmaller},
+      {164, kSmaller},
+      {180, Font{9, 0, false, false}},
+  };
   for (const ControlRow& control : MainWindowControls()) {
-    const auto small = heights.find(control.id);
-    const Font expected = small == heights.end() ? kBodyFont : Font{small->second, 0, false};
-    EXPECT_EQ(ControlFont(control), expected) << control.id;
+    const auto small = fonts.find(control.id);
+    EXPECT_EQ(ControlFont(control), small == fonts.end() ? kBodyFont : small->second) << control.id;
   }
 }
 

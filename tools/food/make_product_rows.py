@@ -452,7 +452,10 @@ def main():
 
     data_path = arguments.data or next((p for p in DATA_PLACES if os.path.exists(p)), None)
     if data_path is None:
-        sys.exit("no %s found; give it with --data" % DATA_NAME)
+        sys.exit(
+            "no %s found: put it beside this script or name it with --data; "
+            "docs/food-data.md says how to make it" % DATA_NAME
+        )
     foods = Foods(data_path)
     faults = []
     read_recipes(foods, faults)

@@ -17,7 +17,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const Texts kInstalled = {"README.txt", "uninstall.exe", "velnor.exe"};
+const Texts kInstalled = {"README.md", "README.txt", "uninstall.exe", "velnor.exe"};
 
 class Install : public testing::Test {
  protected:
