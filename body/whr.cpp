@@ -20,7 +20,7 @@ struct ShapeRow {
 // thus a pear. The float of 80 by 100 lies a little above 0.8, but a woman of 0.8 is a pear: her
 // bound is that float.
 constexpr ShapeRow kMen[] = {
-    {0.7, false, kPearType}, {1.0, false, kNorm}, {kUnbounded, true, kAppleType}};
+    {0.7, false, kPearType}, {1.0, false, kNormType}, {kUnbounded, true, kAppleType}};
 constexpr ShapeRow kWomen[] = {{0.8F, true, kPearType}, {kUnbounded, true, kAppleType}};
 
 std::span<const ShapeRow> RowsFor(const UserProfile& profile) {

@@ -15,7 +15,7 @@ namespace velnor {
 // The numbers are those of WhrResult.
 inline constexpr int kPearType = 1;
 inline constexpr int kAppleType = 2;
-inline constexpr int kNorm = 3;
+inline constexpr int kNormType = 3;
 
 // The last count. It belongs to the run of the program, not to a user, and is not saved.
 struct WhrResult {
@@ -24,7 +24,7 @@ struct WhrResult {
   std::string waist = {};  // cm, as typed, at most kLimit characters
   std::string hip = {};    // cm, likewise
   float value = 0;
-  int whr_class = 0;  // kPearType, kAppleType or kNorm; 0: nothing has been classified yet
+  int whr_class = 0;  // kPearType, kAppleType or kNormType; 0: nothing has been classified yet
 };
 
 // Waist by hip in single precision. Text that is no number counts as 0. Nothing is guarded: a hip

@@ -42,9 +42,9 @@ TEST(ClassifyWhr, BoundsOfMen) {
   EXPECT_EQ(Men(0.69F), kPearType);
   EXPECT_EQ(Men(Below(0.7F)), kPearType);
   EXPECT_EQ(Men(0.7F), kPearType);  // a little below 0.7
-  EXPECT_EQ(Men(Above(0.7F)), kNorm);
-  EXPECT_EQ(Men(0.85F), kNorm);
-  EXPECT_EQ(Men(Below(1.0F)), kNorm);
+  EXPECT_EQ(Men(Above(0.7F)), kNormType);
+  EXPECT_EQ(Men(0.85F), kNormType);
+  EXPECT_EQ(Men(Below(1.0F)), kNormType);
   EXPECT_EQ(Men(1.0F), kAppleType);
   EXPECT_EQ(Men(Above(1.0F)), kAppleType);
 }
@@ -59,7 +59,7 @@ TEST(ClassifyWhr, BoundsOfWomen) {
 TEST(ClassifyWhr, WomenAreNeverTheNorm) {
   float whr = 0.5F;
   for (int i = 0; i < 700'000; ++i, whr = Above(whr + 1e-6F)) {
-    ASSERT_NE(Women(whr), kNorm) << whr;
+    ASSERT_NE(Women(whr), kNormType) << whr;
     ASSERT_NE(Women(whr), std::nullopt) << whr;
   }
 }
