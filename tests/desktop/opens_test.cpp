@@ -55,15 +55,15 @@ std::optional<std::string> Quoted(const std::string& line, int nth = 0) {
 
 // Of a call that opens, makes or removes a file or folder: whether it may do more than read.
 bool OpensToChange(const std::string& line) {
-  constexpr unsigned long kReading = 0x80000000 | 0x20000000 |  // GENERIC_READ, GENERIC_EXECUTE
-                                     FILE_READ_DATA | FILE_READ_ATTRIBUTES | FILE_READ_EA |
-                                     FILE_EXECUTE | READ_CONTROL | SYNCHRONIZE;
+  constexpr DWORD kReading = 0x80000000 | 0x20000000 |  // GENERIC_READ, GENERIC_EXECUTE
+                             FILE_READ_DATA | FILE_READ_ATTRIBUTES | FILE_READ_EA | FILE_EXECUTE |
+                             READ_CONTROL | SYNCHRONIZE;
   const auto number = [&line](std::string_view name, int base) {
     const std::size_t at = line.find(name);
     return at == std::string::npos ? 0
                                    : std::strtoul(line.c_str() + at + name.size(), nullptr, base);
   };
-  constexpr unsigned long kOpenWhatIsThere = 1;
+  constexpr DWORD kOpenWhatIsThere = 1;
   return (number(" access=", 16) & ~kReading) != 0 || number(" disp=", 10) != kOpenWhatIsThere;
 }
 
@@ -101,9 +101,11 @@ std::vector<Call> CallsOf(const std::string& trace, DWORD process) {
 class Opens : public testing::Test {
  protected:
   void SetUp() override {
-    if (std::getenv("VELNOR_TRACE") == nullptr) {
+    const char* const trace = std::getenv("VELNOR_TRACE");
+    if (trace == nullptr) {
       GTEST_SKIP() << "needs Wine's trace of calls on files: run-under-wine --trace";
     }
+    trace_ = PathOfUnix(trace);
     CreateDirectoryA((outer_.path() + "start").c_str(), nullptr);
   }
   bool IsInside(const std::string& path) const {
@@ -113,14 +115,15 @@ class Opens : public testing::Test {
   static bool IsOfTheSystem(const std::string& path) {
     static const std::string program_folder =
         Small(ProgramPath().substr(0, ProgramPath().rfind('\\') + 1));
-    const Texts folders = {"c:\\windows\\", "z:\\usr\\share\\wine\\", program_folder};
+    const Texts folders = {R"(c:\windows\)", R"(z:\usr\share\wine\)", R"(z:\opt\wine)",
+                           program_folder};
     return std::ranges::any_of(
         folders, [&path](const std::string& folder) { return path.starts_with(folder); });
   }
   // Gives the calls inside of the folder.
   std::vector<Call> ExpectNothingOutside(DWORD process) const {
     std::vector<Call> inside;
-    for (const Call& call : CallsOf(PathOfUnix(std::getenv("VELNOR_TRACE")), process)) {
+    for (const Call& call : CallsOf(trace_, process)) {
       if (IsInside(call.path)) {
         inside.push_back(call);
       } else {
@@ -130,6 +133,7 @@ class Opens : public testing::Test {
     return inside;
   }
 
+  std::string trace_;
   WorkFolder outer_;
   Folder start_{outer_.path() + "start\\"};
 };
@@ -163,9 +167,9 @@ const Texts kNames = {"Ann",
                       "C:x",
                       "Z:\\tmp",
                       "/tmp",
-                      "\\\\host\\share",
-                      "\\??\\C:\\x",
-                      "Ann\\..\\..\\x",
+                      R"(\\host\share)",
+                      R"(\??\C:\x)",
+                      R"(Ann\..\..\x)",
                       "Ann/",
                       "NUL",
                       "con.txt",
@@ -195,9 +199,10 @@ class HostileOpens : public Opens {
     start_.Write("users.ASC", list);
     const std::string long_line(5000, '\\');
     start_.Write("data.txt", "fruits;fresh;..\\..\\x;100;1;1;1;1;\r\n" + long_line);
+    const std::string elsewhere = "..\\x\r\n" + long_line + ";..\\x;";
     for (const char* const file : {"info.ASC", "zapot.ASC", "bilans.ASC", "wykoda.txt", "waga.ASC",
                                    "erg.txt", "waga.ASC.rest.txt"}) {
-      start_.Write(std::string("Ann\\") + file, "..\\x\r\n" + long_line + ";..\\x;" + long_line);
+      start_.Write(std::string("Ann\\") + file, elsewhere);
     }
     // Where such names lead.
     CreateDirectoryA((outer_.path() + "x").c_str(), nullptr);

@@ -17,7 +17,8 @@ UnixPathOf FindUnixPathOf() {
 
 void LookInto(const Folder& folder, const std::string& inside, Snapshot& snapshot) {
   for (const std::string& name : folder.Names(inside)) {
-    const std::string path = inside.empty() ? name : inside + '\\' + name;
+    std::string path = inside.empty() ? "" : inside + '\\';
+    path += name;
     const DWORD attributes = GetFileAttributesA((folder.path() + path).c_str());
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
       snapshot[path] = "(folder)";
@@ -44,7 +45,7 @@ int RunBelowWine(const std::string& command) {
                              " && mv " + QuotedUnixPath(told.path()) + "/status.new " +
                              QuotedUnixPath(told.path()) + "/status\n";
   told.Write("script", script);
-  std::string command_line = "\"Z:\\bin\\sh\" " + QuotedUnixPath(told.path()) + "/script";
+  std::string command_line = R"("Z:\bin\sh" )" + QuotedUnixPath(told.path()) + "/script";
   STARTUPINFOA start = {};
   start.cb = sizeof start;
   PROCESS_INFORMATION process = {};
@@ -61,7 +62,7 @@ std::string QuotedUnixPath(const std::string& path) {
   const UnixPathOf unix_path_of = FindUnixPathOf();
   char* const unix_path = unix_path_of == nullptr ? nullptr : unix_path_of(wide.c_str());
   if (unix_path == nullptr) throw std::runtime_error("no path below Wine: " + path);
-  const std::string quoted = std::string("\"") + unix_path + '"';
+  std::string quoted = std::string("\"") + unix_path + '"';
   HeapFree(GetProcessHeap(), 0, unix_path);
   return quoted;
 }
