@@ -20,6 +20,9 @@ bool ReplaceByRename(const std::string& from, const std::string& to);
 // Whether the file is marked as one that nobody is to write. A missing file is not.
 bool IsWriteProtected(const std::string& path);
 
+// Whether the folder that `path` lies in is there. A path without a folder lies in the current one.
+bool HasFolder(const std::string& path);
+
 // Makes or removes one folder; only an empty one is removed. False when the system could not.
 bool MakeFolder(const std::string& path);
 bool RemoveFolder(const std::string& path);

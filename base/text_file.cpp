@@ -70,7 +70,12 @@ void Restore(const OldFile& old) {
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
   errno = 0;
   const File file = Open(path, "rb");
-  if (!file) return errno == ENOENT ? std::optional<std::string>("") : std::nullopt;
+  if (!file) {
+    // The systems give the same error for a missing folder. With it, on a stick or in the network,
+    // the file may come back before it is rewritten.
+    const bool is_missing = errno == ENOENT && HasFolder(path);
+    return is_missing ? std::optional<std::string>("") : std::nullopt;
+  }
   constexpr std::size_t kBlock = 65'536;
   std::string text;
   while (text.size() < limit) {

@@ -12,8 +12,9 @@
 namespace velnor {
 
 // The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
-// when there is something that cannot be read: who goes on to rewrite it would destroy it. `path`
-// is in the machine's own code page, here and below.
+// when there is something that cannot be read, or when the folder is missing, which may come back
+// with the file in it: who goes on to rewrite it would destroy it. `path` is in the machine's own
+// code page, here and below.
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit);
 
 // The same for who only reads: what cannot be read gives empty text too.

@@ -40,7 +40,8 @@ std::string RegistryBytes(const UserRegistry& registry);
 std::size_t CountForbiddenSigns(std::string_view name);
 
 // Whether a folder called `name` lies in the start-up folder itself: no separator, no drive, not
-// "..". An empty name is no folder name.
+// "..", none of the names that mean a device of the platform in every folder ("NUL", "com1.txt").
+// An empty name is no folder name.
 bool IsFolderName(std::string_view name);
 
 // Makes the user's folder and the eight files that every user has from the start, empty; files that

@@ -17,6 +17,13 @@ bool IsWriteProtected(const std::string& path) {
   return stat(path.c_str(), &status) == 0 && (status.st_mode & kAnyWriter) == 0;
 }
 
+bool HasFolder(const std::string& path) {
+  const std::size_t separator = path.rfind('/');
+  struct stat status = {};
+  return separator == std::string::npos ||
+         (stat(path.substr(0, separator + 1).c_str(), &status) == 0 && S_ISDIR(status.st_mode));
+}
+
 bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0; }
 
 bool RemoveFolder(const std::string& path) { return rmdir(path.c_str()) == 0; }

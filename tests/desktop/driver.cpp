@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <cstring>
 #include <functional>
 #include <stdexcept>
+#include <thread>
 
 namespace velnor::desktop {
 namespace {
@@ -405,6 +407,28 @@ MessageBoxSeen App::WaitForMessageBox(const Window& known) const {
   const Window box = WaitForPopup(known);
   if (box.handle() == nullptr) return {};
   return {box.handle(), box.Caption(), box.Text(kMessageTextId)};
+}
+
+std::vector<std::string> App::CommandAndAnswer(const Window& window, int id) const {
+  const HWND known = window.handle() == main_.handle() ? nullptr : window.handle();
+  std::atomic<bool> carried_out = false;
+  std::thread sender([&] {
+    window.Command(id);
+    Settle();
+    carried_out = true;
+  });
+  std::vector<std::string> texts;
+  while (!carried_out && IsRunning()) {
+    const HWND box = FindTopWindow(process_.dwProcessId, kDialogClass, known);
+    if (box == nullptr) {
+      Sleep(1);
+      continue;
+    }
+    texts.push_back(Window(box).Text(kMessageTextId));
+    Answer({box, {}, {}}, GetDlgItem(box, IDYES) != nullptr ? IDYES : IDOK);
+  }
+  sender.join();
+  return texts;
 }
 
 void App::Settle() const {

@@ -115,6 +115,11 @@ class App {
   Window WaitForPopup(const Window& known = Window(nullptr)) const;
   MessageBoxSeen WaitForMessageBox(const Window& known = Window(nullptr)) const;
 
+  // Sends a menu command or a press of a button, to the main window or to the open dialog `window`,
+  // and answers every box that it shows with Yes or, where there is no Yes, with OK, until it has
+  // been carried out and painted. The texts of the boxes, in order. Not for what opens a dialog.
+  std::vector<std::string> CommandAndAnswer(const Window& window, int id) const;
+
   // Waits until the program has dealt with everything it was sent so far.
   void Settle() const;
 

@@ -97,9 +97,14 @@ TEST(ReadFileTest, GivesNothingForWhatCannotBeRead) {
 TEST(ReadFileTest, TellsWhatCannotBeReadFromWhatIsNotThere) {
   const TemporaryFolder folder;
   EXPECT_EQ(ReadFileToRewrite(folder.path() + "missing", 100), "");
-  EXPECT_EQ(ReadFileToRewrite(folder.path() + "missing/file", 100), "");
   EXPECT_EQ(ReadFileToRewrite(folder.Write("empty", ""), 100), "");
   EXPECT_EQ(ReadFileToRewrite(folder.path(), 100), std::nullopt);  // a folder
+}
+
+TEST(ReadFileTest, AMissingFolderIsNoMissingFile) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(ReadFileToRewrite(folder.path() + "Ann/info.ASC", 100), std::nullopt);
+  EXPECT_EQ(ReadFileToRewrite("no such file in the current folder", 100), "");
 }
 
 TEST(FileExistsTest, TellsWhatCanBeOpened) {

@@ -203,6 +203,17 @@ TEST(FolderNameTest, LiesInTheFolderItself) {
   for (const std::string& name : good) EXPECT_TRUE(IsFolderName(name)) << name;
 }
 
+TEST(FolderNameTest, IsNoDevice) {
+  for (const char* const name : {"NUL", "con", "Aux", "PRN", "com1", "LPT9", "nul.txt", "CON .a",
+                                 "lpt1 ", "conin$", "CONOUT$"}) {
+    EXPECT_FALSE(IsFolderName(name)) << name;
+  }
+  for (const char* const name :
+       {"Conny", "null", "com", "com0", "COM10", "lpt", "1", "xcon", "a.nul", " con", "com1a"}) {
+    EXPECT_TRUE(IsFolderName(name)) << name;
+  }
+}
+
 TEST(FolderNameTest, LeadsNowhereElse) {
   const Names bad = {"",      ".",    "..",
                      "...",   ". ",   ".. ",

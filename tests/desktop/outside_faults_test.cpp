@@ -1,0 +1,265 @@
+// The program on a disk that refuses: full, write-protected, gone for a while, or with its files
+// open elsewhere. Each deed of a day is done twice: first while the disk refuses, then when it does
+// so no longer. In between every file holds its old bytes or its new ones, the program says what it
+// has to say, and in the end all files are as after a day without trouble.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "tests/desktop/driver.h"
+#include "tests/desktop/outside.h"
+#include "tests/desktop/working_day.h"
+
+namespace velnor::desktop {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// What the files are after every deed when nothing goes wrong.
+std::vector<Snapshot> SpendDay() {
+  const WorkFolder folder;
+  const App app(folder);
+  std::vector<Snapshot> states = {Look(folder)};
+  for (const Deed& deed : WorkingDay()) {
+    const Texts said = deed.act(app);
+    states.push_back(Look(folder));
+    EXPECT_NE(states.back(), states[states.size() - 2]) << deed.name << " changes nothing";
+    EXPECT_TRUE(deed.done == nullptr || std::ranges::count(said, deed.done) == 1) << deed.name;
+    EXPECT_TRUE(deed.refused == nullptr || std::ranges::count(said, deed.refused) == 0)
+        << deed.name;
+  }
+  return states;
+}
+
+std::string At(const Snapshot& snapshot, const std::string& path) {
+  const auto found = snapshot.find(path);
+  return found == snapshot.end() ? "(missing)" : found->second;
+}
+
+void ExpectOldOrNew(const Deed& deed, const Snapshot& old_state, const Snapshot& new_state,
+                    const Snapshot& now) {
+  std::set<std::string> paths;
+  for (const Snapshot* const snapshot : {&old_state, &new_state, &now}) {
+    for (const auto& [path, bytes] : *snapshot) paths.insert(path);
+  }
+  for (const std::string& path : paths) {
+    const std::string bytes = At(now, path);
+    if (bytes.empty() && std::ranges::count(deed.emptied_first, path) > 0) continue;
+    EXPECT_TRUE(bytes == At(old_state, path) || bytes == At(new_state, path))
+        << path << " holds\n"
+        << bytes << "\nit held\n"
+        << At(old_state, path) << "\nit should hold\n"
+        << At(new_state, path);
+  }
+}
+
+void ExpectTheRightWords(const Deed& deed, const Snapshot& new_state, const Snapshot& now,
+                         const Texts& said) {
+  const bool done = std::ranges::all_of(deed.about, [&](std::string_view file) {
+    return At(now, std::string(file)) == At(new_state, std::string(file));
+  });
+  const auto was_said = [&said](const char* text) { return std::ranges::count(said, text) > 0; };
+  EXPECT_TRUE(deed.refused == nullptr || was_said(deed.refused) != done) << deed.refused;
+  EXPECT_TRUE(deed.done == nullptr || was_said(deed.done) == done) << deed.done;
+}
+
+struct Trouble {
+  // Make the disk of a folder refuse, and refuse no longer. What there is can be read in between
+  // only if `End` has been called.
+  std::function<void()> begin;
+  std::function<void()> end;
+  // What must hold while it refuses, behind a deed.
+  std::function<void()> check = [] {};
+};
+
+// Spends the day with trouble in every deed. Gives the number of deeds that came to nothing at
+// first.
+int SpendSpoiltDay(const Folder& folder, const Trouble& trouble) {
+  static const std::vector<Snapshot> states = SpendDay();
+  const App app(ProgramPath(), folder);
+  int refused = 0;
+  for (std::size_t i = 0; i < WorkingDay().size(); ++i) {
+    const Deed& deed = WorkingDay()[i];
+    SCOPED_TRACE(deed.name);
+    trouble.begin();
+    const Texts said = deed.act(app);
+    trouble.check();
+    trouble.end();
+    const Snapshot now = Look(folder);
+    ExpectOldOrNew(deed, states[i], states[i + 1], now);
+    const bool done = now == states[i + 1];
+    refused += done ? 0 : 1;
+    ExpectTheRightWords(deed, states[i + 1], now, said);
+
+    if (!done) deed.act(app);
+    EXPECT_EQ(Look(folder), states[i + 1]) << "when it was done again";
+    EXPECT_TRUE(app.IsRunning());
+    if (testing::Test::HasFailure()) break;
+  }
+  return refused;
+}
+
+constexpr const char* kNoShell = "only the shell below Wine can do this to a folder";
+
+TEST(FullDisk, CostsNoByte) {
+  const char* const disk_path = std::getenv("VELNOR_SMALL_DISK");
+  if (disk_path == nullptr) {
+    GTEST_SKIP() << "needs a small disk: run-under-wine --bad-disk, where users may mount one";
+  }
+  const Folder disk(PathOfUnix(disk_path) + '\\');
+  CreateDirectoryA((disk.path() + "start").c_str(), nullptr);
+  const std::string filler = disk.path() + "filler";
+  const auto fill = [&filler] {
+    const HANDLE file =
+        CreateFileA(filler.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const std::string page(4096, 'f');
+    DWORD written = 0;
+    int pages = 0;
+    while (WriteFile(file, page.data(), static_cast<DWORD>(page.size()), &written, nullptr) != 0) {
+      ASSERT_LT(++pages, 64) << "the disk is not small";
+    }
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_DISK_FULL));
+    CloseHandle(file);
+  };
+  const int refused = SpendSpoiltDay(
+      Folder(disk.path() + "start\\"),
+      {.begin = fill, .end = [&filler] { EXPECT_NE(DeleteFileA(filler.c_str()), 0); }});
+  EXPECT_GE(refused, 14) << "an empty file needs no space, everything else does";
+}
+
+TEST(WriteProtectedFolder, CostsNoByte) {
+  const WorkFolder folder;
+  const std::string path = QuotedUnixPath(folder.path());
+  const auto probe = [&folder] {
+    const std::string name = folder.path() + "probe";
+    const HANDLE file =
+        CreateFileA(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return false;
+    CloseHandle(file);
+    DeleteFileA(name.c_str());
+    return true;
+  };
+  const auto protect = [&path] {
+    return RunBelowWine("find " + path + " -type d -exec chmod a-w {} +") == 0;
+  };
+  const auto allow = [&path] {
+    EXPECT_EQ(RunBelowWine("find " + path + " -type d -exec chmod u+w {} +"), 0);
+  };
+  if (!protect()) GTEST_SKIP() << kNoShell;
+  const bool bound = !probe();
+  allow();
+  if (!bound) GTEST_SKIP() << "permissions do not bind who runs this: run-under-wine --bad-disk";
+  const int refused =
+      SpendSpoiltDay(folder, {.begin = [&] { EXPECT_TRUE(protect()); }, .end = allow});
+  EXPECT_EQ(refused, static_cast<int>(WorkingDay().size()));
+}
+
+// Moves a folder away and back. Nothing must come into being in its place, or beside it.
+class VanishingFolder : public testing::Test {
+ protected:
+  VanishingFolder() { CreateDirectoryA((outer_.path() + "start").c_str(), nullptr); }
+
+  WorkFolder outer_;
+  Folder start_{outer_.path() + "start\\"};
+};
+
+TEST_F(VanishingFolder, OfAUserCostsNoByte) {
+  const std::string ann = start_.path() + "Ann";
+  const std::string away = outer_.path() + "away";
+  bool moved = false;
+  const auto move_away = [&] {
+    moved = GetFileAttributesA(ann.c_str()) != INVALID_FILE_ATTRIBUTES;
+    EXPECT_TRUE(!moved || MoveFileA(ann.c_str(), away.c_str()) != 0);
+  };
+  const auto move_back = [&] { EXPECT_TRUE(!moved || MoveFileA(away.c_str(), ann.c_str()) != 0); };
+  const auto expect_nothing_new = [&] {
+    EXPECT_TRUE(!moved || GetFileAttributesA(ann.c_str()) == INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(outer_.Names(), moved ? (Texts{"away", "start"}) : (Texts{"start"}));
+  };
+  const int refused =
+      SpendSpoiltDay(start_, {.begin = move_away, .end = move_back, .check = expect_nothing_new});
+  EXPECT_GE(refused, 15) << "all but the list of users and the products";
+}
+
+class VanishingDisk : public VanishingFolder {};
+
+TEST_F(VanishingDisk, WithEverythingInItCostsNoByte) {
+  const std::string start = QuotedUnixPath(outer_.path() + "start");
+  const std::string away = QuotedUnixPath(outer_.path()) + "/away";
+  if (RunBelowWine("true") != 0) GTEST_SKIP() << kNoShell;
+  const auto move = [](const std::string& from, const std::string& to) {
+    EXPECT_EQ(RunBelowWine("mv -T " + from + ' ' + to), 0);
+  };
+  const int refused =
+      SpendSpoiltDay(start_, {.begin = [&] { move(start, away); },
+                              .end = [&] { move(away, start); },
+                              .check = [this] { EXPECT_EQ(outer_.Names(), (Texts{"away"})); }});
+  EXPECT_EQ(refused, static_cast<int>(WorkingDay().size()));
+}
+
+TEST_F(VanishingDisk, BackBehindAnOpenDialogIsNotOverwritten) {
+  const std::string start = QuotedUnixPath(outer_.path() + "start");
+  const std::string away = QuotedUnixPath(outer_.path()) + "/away";
+  if (RunBelowWine("true") != 0) GTEST_SKIP() << kNoShell;
+  start_.Write("users.ASC", "Ann\r\nBob");
+  const App app(ProgramPath(), start_);
+  EXPECT_EQ(RunBelowWine("mv -T " + start + ' ' + away), 0);
+  app.main().Command(202);
+  const Window users = app.WaitForPopup();
+  EXPECT_EQ(RunBelowWine("mv -T " + away + ' ' + start), 0);
+  users.SetText(701, "Eve");
+  users.Command(702);
+  EXPECT_EQ(app.CommandAndAnswer(users, IDOK), (Texts{"The list of users could not be written"}));
+  EXPECT_EQ(start_.Read("users.ASC"), "Ann\r\nBob");
+}
+
+// Somebody else has all files open while the deed is done, and lets go of them after it.
+void SpendDayBeside(DWORD sharing) {
+  const WorkFolder folder;
+  std::vector<std::unique_ptr<HeldFile>> held;
+  const auto hold = [&] {
+    for (const auto& [path, bytes] : Look(folder)) {
+      if (bytes == "(folder)") continue;
+      held.push_back(std::make_unique<HeldFile>(folder.path() + path, sharing));
+    }
+  };
+  const int refused = SpendSpoiltDay(folder, {.begin = hold, .end = [&held] { held.clear(); }});
+  EXPECT_GE(refused, 15) << "what is not there yet nobody holds";
+}
+
+TEST(FilesNobodyMayRead, CostNoByte) { SpendDayBeside(0); }
+
+TEST(FilesOthersMayRead, CostNoByte) { SpendDayBeside(FILE_SHARE_READ); }
+
+TEST(FilesOthersMayReadAndWrite, CostNoByte) { SpendDayBeside(FILE_SHARE_READ | FILE_SHARE_WRITE); }
+
+TEST(FilesNobodyMayRead, AreWaitedForAMoment) {
+  const WorkFolder folder;
+  folder.Write("users.ASC", "Ann");
+  const App app(folder);
+  app.main().Command(202);
+  const Window users = app.WaitForPopup();
+  auto held = std::make_unique<HeldFile>(folder.path() + "users.ASC", 0);
+  std::thread other([&held] {
+    Sleep(200);
+    held.reset();
+  });
+  users.SetText(701, "Bob");
+  users.Command(702);
+  EXPECT_EQ(app.CommandAndAnswer(users, IDOK), Texts{});
+  other.join();
+  EXPECT_EQ(folder.Read("users.ASC"), "Ann\r\nBob");
+}
+
+}  // namespace
+}  // namespace velnor::desktop
