@@ -124,6 +124,28 @@ TEST_F(DayBalanceTest, WithoutOneOfTheFilesTheDayStaysAsItIs) {
   EXPECT_EQ(NamesOfFiles().size(), 3U) << "and the series";
 }
 
+TEST_F(DayBalanceTest, WhatIsWriteProtectedStaysAndIsSaid) {
+  for (const char* const name : {"bilans.ASC", "z1.ASC", "z2.ASC"}) {
+    Write("bilans.ASC", "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0.");
+    Write("z1.ASC", "8.");
+    Write("z2.ASC", "1.7");
+    const std::string path = folder_.path() + "Ann/" + name;
+    const std::string bytes = Read(name);
+    std::filesystem::permissions(path, std::filesystem::perms{0444});
+    EXPECT_FALSE(day_.Change({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
+    EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0.") << name;
+    EXPECT_FALSE(day_.Clear()) << name;
+    EXPECT_EQ(Read(name), bytes);
+    std::filesystem::remove(path);
+  }
+}
+
+TEST_F(DayBalanceTest, TheEnergyOfAnyDayIsTheSecondLine) {
+  Write("bilans.ASC", "4.3.2026\r\n100.5\r\n1.\r\n2.\r\n3.");
+  EXPECT_EQ(day_.ReadKcalOfAnyDay(), 100.5);
+  EXPECT_EQ(Read("bilans.ASC"), "4.3.2026\r\n100.5\r\n1.\r\n2.\r\n3.");
+}
+
 TEST_F(DayBalanceTest, ADayThatCannotBeStartedWholeIsNotStarted) {
   Write("bilans.ASC", "4.3.2026\r\n100.\r\n1.\r\n2.\r\n3.");
   Write("z1.ASC", "1.5");
