@@ -31,6 +31,11 @@ bool IsOfDay(std::string_view line, std::string_view date) {
   return line.substr(0, kDayCharacters) == date.substr(0, kDayCharacters);
 }
 
+// A carriage return at the end would pass for a part of the line end behind it.
+std::string_view WithoutReturns(std::string_view slot) {
+  return slot.substr(0, slot.find_last_not_of('\r') + 1);
+}
+
 }  // namespace
 
 bool IsEmptySlot(std::string_view slot) { return slot.size() <= kLongestEmptySlot; }
@@ -57,9 +62,10 @@ bool UpdateChartFile(const std::string& path, std::string_view date,
   if (IsOfDay(series.slots[series.last], date)) {
     std::string lines;
     for (std::size_t i = 0; i < series.last; ++i) {
-      lines += series.slots[i];
+      const std::string_view slot = WithoutReturns(series.slots[i]);
+      lines += slot;
       // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
-      if (series.slots[i].size() < kLineLimit) lines += '\n';
+      if (slot.size() < kLineLimit) lines += '\n';
     }
     return ReplaceFile(path, WithCrLf(lines + day));
   }

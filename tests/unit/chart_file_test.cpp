@@ -142,7 +142,6 @@ TEST_F(ChartFileTest, LongLinesComeInPiecesAndOnly22Count) {
   EXPECT_EQ(series.last, 21U);
 }
 
-// 22 lines as long as lines can be are read to the last character.
 // Rewriting the day's line moves no other: the pieces of a long line stay one line.
 TEST_F(ChartFileTest, LongLinesStayAsTheyAreWhenTheDayIsWrittenAgain) {
   const std::string days = std::string(99, 'a') + "\r\n" + std::string(250, 'b') + "\r\n";
@@ -153,6 +152,19 @@ TEST_F(ChartFileTest, LongLinesStayAsTheyAreWhenTheDayIsWrittenAgain) {
   }
 }
 
+// Each of these ends a slot, and none of them may end the one behind it too.
+TEST_F(ChartFileTest, StrayReturnsMoveNoOtherLine) {
+  Write(std::string(98, 'a') + '\r' + '\0' + "b;c;\r\n2;\r\r\r\n16.11.2026;70;\r\n");
+  EXPECT_TRUE(Update("16.11.2026", {"69"}));
+  const ChartSeries series = LoadChartFile(path_);
+  EXPECT_EQ(series.slots[0], std::string(98, 'a'));
+  EXPECT_EQ(series.slots[1], "");
+  EXPECT_EQ(series.slots[2], "2;");
+  EXPECT_EQ(series.slots[3], "16.11.2026;69;");
+  EXPECT_EQ(series.last, 3U);
+}
+
+// 22 lines as long as lines can be are read to the last character.
 TEST_F(ChartFileTest, FullLinesAreReadWhole) {
   std::string text;
   for (int i = 0; i < 22; ++i) text += std::string(98, 'y') + "\r\n";
