@@ -202,6 +202,17 @@ TEST_F(FoodListTest, WhatIsTakenOffIsWhatWasAdded) {
   EXPECT_EQ(Read("z2.ASC"), "0.16");
 }
 
+// What the cleared list knew of its lines goes with them.
+TEST_F(FoodListTest, AClearedListForgetsWhatItsLinesHeld) {
+  OpenCounter();
+  AddOwnButter();
+  form_.Press(kClearList);
+  AddStrawberries("250");
+  AddButter("100");
+  Remove("butter  100.0g");
+  EXPECT_EQ(Balance(), "16.11.2026 70. 1.75 1. 13.56");
+}
+
 TEST_F(FoodListTest, WithNothingSelectedNothingIsTakenOff) {
   OpenCounter();
   form_.Press(kRemove);
