@@ -153,7 +153,9 @@ int LinesOfText(const Item& item) {
   for (std::string word; std::getline(words, word, ' ');) {
     if (WidthOfText(word) > item.width) return kTooMany;
     const bool ends_line = word == "\n";
-    const std::string longer = line.empty() ? word : line + ' ' + word;
+    std::string longer = line;
+    if (!longer.empty()) longer += ' ';
+    longer += word;
     if (ends_line || WidthOfText(longer) > item.width) {
       ++count;
       line = ends_line ? "" : word;
