@@ -21,19 +21,36 @@ HFONT MakeFont(const Font& font) {
   return CreateFontIndirectA(&description);
 }
 
-void CopyBitmap(HDC to, HBITMAP bitmap, int width, int height) {
-  const HDC memory = CreateCompatibleDC(to);
-  const HGDIOBJ previous = SelectObject(memory, bitmap);
-  BitBlt(to, 0, 0, width, height, memory, 0, 0, SRCCOPY);
-  SelectObject(memory, previous);
-  DeleteDC(memory);
-}
-
 }  // namespace
 
+HDC MemoryPicture::Begin(int width, int height) {
+  if (context_ != nullptr && width == width_ && height == height_) return context_;
+  Discard();
+  const HDC screen = GetDC(nullptr);
+  context_ = CreateCompatibleDC(screen);
+  bitmap_ = CreateCompatibleBitmap(screen, width, height);
+  ReleaseDC(nullptr, screen);
+  if (context_ == nullptr || bitmap_ == nullptr) {
+    Discard();
+    return nullptr;
+  }
+  previous_ = SelectObject(context_, bitmap_);
+  width_ = width;
+  height_ = height;
+  return context_;
+}
+
+void MemoryPicture::Discard() {
+  if (previous_ != nullptr) SelectObject(context_, previous_);
+  if (bitmap_ != nullptr) DeleteObject(bitmap_);
+  if (context_ != nullptr) DeleteDC(context_);
+  context_ = nullptr;
+  bitmap_ = nullptr;
+  previous_ = nullptr;
+}
+
 GdiResources::~GdiResources() {
-  if (prepared_.bitmap != nullptr) DeleteObject(prepared_.bitmap);
-  for (const auto& [name, background] : backgrounds_) DeleteObject(background.bitmap);
+  for (const auto& [name, picture] : backgrounds_) DeleteObject(picture.bitmap);
   for (const CachedFont& cached : fonts_) DeleteObject(cached.handle);
 }
 
@@ -48,25 +65,24 @@ void GdiResources::LoadBackgrounds(HINSTANCE instance) {
   }
 }
 
-const GdiResources::Background& GdiResources::PrepareBackground(HDC context,
-                                                                std::string_view name) {
-  if (name == prepared_name_) return prepared_;
-  if (prepared_.bitmap != nullptr) DeleteObject(prepared_.bitmap);
-  prepared_ = {};
-  prepared_name_.clear();
+GdiResources::Background GdiResources::PrepareBackground(std::string_view name) {
   const auto found = backgrounds_.find(name);
-  if (found == backgrounds_.end()) return prepared_;
+  if (found == backgrounds_.end()) return {};
   const auto& [bitmap, width, height] = found->second;
-  const HDC memory = CreateCompatibleDC(context);
-  const HBITMAP picture = CreateCompatibleBitmap(context, width, height);
-  const HGDIOBJ previous = SelectObject(memory, picture);
-  CopyBitmap(memory, bitmap, width, height);
-  SelectObject(memory, previous);
-  DeleteDC(memory);
-  if (picture == nullptr) return prepared_;
-  prepared_ = {picture, width, height};
-  prepared_name_ = name;
-  return prepared_;
+  const HDC context = prepared_.Begin(width, height);
+  if (context == nullptr) {
+    prepared_name_.clear();
+    return {};
+  }
+  if (name != prepared_name_) {
+    const HDC source = CreateCompatibleDC(context);
+    const HGDIOBJ previous = SelectObject(source, bitmap);
+    BitBlt(context, 0, 0, width, height, source, 0, 0, SRCCOPY);
+    SelectObject(source, previous);
+    DeleteDC(source);
+    prepared_name_ = name;
+  }
+  return {context, width, height};
 }
 
 HFONT GdiResources::FontFor(const Font& font) {
@@ -74,32 +90,6 @@ HFONT GdiResources::FontFor(const Font& font) {
   if (cached != fonts_.end()) return cached->handle;
   fonts_.push_back({font, MakeFont(font)});
   return fonts_.back().handle;
-}
-
-HDC BackBuffer::Begin(HWND window, int width, int height) {
-  if (context_ != nullptr && width == width_ && height == height_) return context_;
-  Discard();
-  const HDC screen = GetDC(window);
-  context_ = CreateCompatibleDC(screen);
-  bitmap_ = CreateCompatibleBitmap(screen, width, height);
-  ReleaseDC(window, screen);
-  if (context_ == nullptr || bitmap_ == nullptr) {
-    Discard();
-    return nullptr;
-  }
-  previous_ = SelectObject(context_, bitmap_);
-  width_ = width;
-  height_ = height;
-  return context_;
-}
-
-void BackBuffer::Discard() {
-  if (previous_ != nullptr) SelectObject(context_, previous_);
-  if (bitmap_ != nullptr) DeleteObject(bitmap_);
-  if (context_ != nullptr) DeleteDC(context_);
-  context_ = nullptr;
-  bitmap_ = nullptr;
-  previous_ = nullptr;
 }
 
 GdiCanvas::GdiCanvas(HDC context, HBRUSH surface, GdiResources& resources)
@@ -113,8 +103,8 @@ GdiCanvas::~GdiCanvas() {
 }
 
 void GdiCanvas::CopyBackground(std::string_view name) {
-  const auto& [bitmap, width, height] = resources_.PrepareBackground(context_, name);
-  if (bitmap != nullptr) CopyBitmap(context_, bitmap, width, height);
+  const auto [picture, width, height] = resources_.PrepareBackground(name);
+  if (picture != nullptr) BitBlt(context_, 0, 0, width, height, picture, 0, 0, SRCCOPY);
   RECT all = {};
   GetClipBox(context_, &all);
   const RECT right_of_it = {width, 0, all.right, height};

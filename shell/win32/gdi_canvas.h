@@ -13,6 +13,29 @@
 
 namespace velnor {
 
+// A picture in memory, in the format of the display, with the device context to draw into it and to
+// copy from it. It stays selected: selecting it anew costs more than copying it.
+class MemoryPicture {
+ public:
+  MemoryPicture() = default;
+  MemoryPicture(const MemoryPicture&) = delete;
+  MemoryPicture& operator=(const MemoryPicture&) = delete;
+  ~MemoryPicture() { Discard(); }
+
+  // The context, for a picture of that size in pixels with whatever was drawn into it before. It
+  // serves until the next call with another size. Null when the system refuses one.
+  HDC Begin(int width, int height);
+
+ private:
+  void Discard();
+
+  HDC context_ = nullptr;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ previous_ = nullptr;
+  int width_ = 0;
+  int height_ = 0;
+};
+
 // The pictures and fonts of the main window. They live as long as it does.
 class GdiResources {
  public:
@@ -26,13 +49,13 @@ class GdiResources {
   void LoadBackgrounds(HINSTANCE instance);
 
   struct Background {
-    HBITMAP bitmap = nullptr;
+    HDC context = nullptr;  // to copy it from
     int width = 0;
     int height = 0;
   };
-  // A picture in the format of the display of `context`; it serves until the next call. Without a
-  // bitmap when there is no such picture or no memory for it.
-  const Background& PrepareBackground(HDC context, std::string_view name);
+  // A picture in the format of the display; it serves until the next call. Without a context when
+  // there is no such picture or no memory for it.
+  Background PrepareBackground(std::string_view name);
 
   // Made when first asked for and kept.
   HFONT FontFor(const Font& font);
@@ -42,34 +65,17 @@ class GdiResources {
     Font font;
     HFONT handle;
   };
+  struct LoadedPicture {
+    HBITMAP bitmap;
+    int width;
+    int height;
+  };
   // With their 256 colours, a quarter of what they take in the format of most displays.
-  std::map<std::string, Background, std::less<>> backgrounds_;
+  std::map<std::string, LoadedPicture, std::less<>> backgrounds_;
   // The one that was copied last, in the format of the display.
   std::string prepared_name_;
-  Background prepared_;
+  MemoryPicture prepared_;
   std::vector<CachedFont> fonts_;
-};
-
-// A picture in memory that a whole repaint is drawn into before any of it can be seen.
-class BackBuffer {
- public:
-  BackBuffer() = default;
-  BackBuffer(const BackBuffer&) = delete;
-  BackBuffer& operator=(const BackBuffer&) = delete;
-  ~BackBuffer() { Discard(); }
-
-  // A device context over a picture of that size, with whatever was drawn into it before. It serves
-  // until the next call. Null when the system refuses one.
-  HDC Begin(HWND window, int width, int height);
-
- private:
-  void Discard();
-
-  HDC context_ = nullptr;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ previous_ = nullptr;
-  int width_ = 0;
-  int height_ = 0;
 };
 
 // One painting of the whole of a device context, which is put back as it was when the canvas goes.

@@ -157,7 +157,7 @@ void Win32MainWindow::OnPaint() {
   const HWND focused = GetFocus();
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->HideControls();
-  const HDC picture = back_buffer_.Begin(window_, client_width_, client_height_);
+  const HDC picture = back_buffer_.Begin(client_width_, client_height_);
   if (picture != nullptr) {
     GdiCanvas canvas(picture, surface_, resources_);
     program_->Paint(canvas);

@@ -55,7 +55,7 @@ class Win32MainWindow final : public MainWindow {
   HMENU menu_ = nullptr;
   HWND modeless_dialog_ = nullptr;
   GdiResources resources_;
-  BackBuffer back_buffer_;
+  MemoryPicture back_buffer_;
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;
