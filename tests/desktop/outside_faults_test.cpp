@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -109,6 +110,35 @@ int SpendSpoiltDay(const Folder& folder, const Trouble& trouble) {
   return refused;
 }
 
+// The program is started among the files of a whole day while the disk refuses. It starts, loses
+// nothing, and goes on without a new start when the disk refuses no longer.
+void StartInTrouble(const Folder& folder, const Trouble& trouble) {
+  constexpr int kOpenLogin = 200;
+  constexpr int kUsers = 700;
+  const std::span<const Deed> all_but_the_removal = WorkingDay().first(WorkingDay().size() - 1);
+  {
+    const App app(ProgramPath(), folder);
+    for (const Deed& deed : all_but_the_removal) deed.act(app);
+  }
+  const Snapshot before = Look(folder);
+  ASSERT_EQ(before.count("Ann\\bilans.ASC"), 1U);
+  trouble.begin();
+  const App app(ProgramPath(), folder);
+  app.main().Command(kOpenLogin);
+  app.WaitForPopup().Command(IDCANCEL);
+  app.main().Command(236);
+  app.Settle();
+  EXPECT_TRUE(app.main().IsShown(109)) << "the overview of the products";
+  trouble.end();
+  EXPECT_EQ(Look(folder), before);
+
+  app.main().Command(kOpenLogin);
+  const Window login = app.WaitForPopup();
+  EXPECT_TRUE(login.Choose(kUsers, "Ann"));
+  EXPECT_EQ(app.CommandAndAnswer(login, IDOK), Texts{});
+  EXPECT_EQ(Look(folder), before);
+}
+
 constexpr const char* kNoShell = "only the shell below Wine can do this to a folder";
 
 TEST(FullDisk, CostsNoByte) {
@@ -137,32 +167,44 @@ TEST(FullDisk, CostsNoByte) {
   EXPECT_GE(refused, 14) << "an empty file needs no space, everything else does";
 }
 
-TEST(WriteProtectedFolder, CostsNoByte) {
-  const WorkFolder folder;
-  const std::string path = QuotedUnixPath(folder.path());
-  const auto probe = [&folder] {
-    const std::string name = folder.path() + "probe";
+class WriteProtectedFolder : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!Protect()) GTEST_SKIP() << kNoShell;
+    const bool bound = !CanWrite();
+    Allow();
+    if (!bound) GTEST_SKIP() << "permissions do not bind who runs this: run-under-wine --bad-disk";
+  }
+  bool Protect() const {
+    return RunBelowWine("find " + QuotedUnixPath(folder_.path()) +
+                        " -type d -exec chmod a-w {} +") == 0;
+  }
+  void Allow() const {
+    EXPECT_EQ(
+        RunBelowWine("find " + QuotedUnixPath(folder_.path()) + " -type d -exec chmod u+w {} +"),
+        0);
+  }
+  const Trouble trouble_ = {.begin = [this] { EXPECT_TRUE(Protect()); },
+                            .end = [this] { Allow(); }};
+  const WorkFolder folder_;
+
+ private:
+  bool CanWrite() const {
+    const std::string name = folder_.path() + "probe";
     const HANDLE file =
         CreateFileA(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
     CloseHandle(file);
     DeleteFileA(name.c_str());
     return true;
-  };
-  const auto protect = [&path] {
-    return RunBelowWine("find " + path + " -type d -exec chmod a-w {} +") == 0;
-  };
-  const auto allow = [&path] {
-    EXPECT_EQ(RunBelowWine("find " + path + " -type d -exec chmod u+w {} +"), 0);
-  };
-  if (!protect()) GTEST_SKIP() << kNoShell;
-  const bool bound = !probe();
-  allow();
-  if (!bound) GTEST_SKIP() << "permissions do not bind who runs this: run-under-wine --bad-disk";
-  const int refused =
-      SpendSpoiltDay(folder, {.begin = [&] { EXPECT_TRUE(protect()); }, .end = allow});
-  EXPECT_EQ(refused, static_cast<int>(WorkingDay().size()));
+  }
+};
+
+TEST_F(WriteProtectedFolder, CostsNoByte) {
+  EXPECT_EQ(SpendSpoiltDay(folder_, trouble_), static_cast<int>(WorkingDay().size()));
 }
+
+TEST_F(WriteProtectedFolder, LetsTheProgramStart) { StartInTrouble(folder_, trouble_); }
 
 // Moves a folder away and back. Nothing must come into being in its place, or beside it.
 class VanishingFolder : public testing::Test {
@@ -224,17 +266,32 @@ TEST_F(VanishingDisk, BackBehindAnOpenDialogIsNotOverwritten) {
 }
 
 // Somebody else has all files open while the deed is done, and lets go of them after it.
-void SpendDayBeside(DWORD sharing) {
-  const WorkFolder folder;
-  std::vector<std::unique_ptr<HeldFile>> held;
-  const auto hold = [&] {
-    for (const auto& [path, bytes] : Look(folder)) {
+class HeldFiles {
+ public:
+  explicit HeldFiles(DWORD sharing) : sharing_(sharing) {}
+
+  const Folder& folder() const { return folder_; }
+  Trouble AsTrouble() {
+    return {.begin = [this] { Hold(); }, .end = [this] { held_.clear(); }};
+  }
+
+ private:
+  void Hold() {
+    for (const auto& [path, bytes] : Look(folder_)) {
       if (bytes == "(folder)") continue;
-      held.push_back(std::make_unique<HeldFile>(folder.path() + path, sharing));
+      held_.push_back(std::make_unique<HeldFile>(folder_.path() + path, sharing_));
     }
-  };
-  const int refused = SpendSpoiltDay(folder, {.begin = hold, .end = [&held] { held.clear(); }});
-  EXPECT_GE(refused, 15) << "what is not there yet nobody holds";
+  }
+
+  DWORD sharing_;
+  WorkFolder folder_;
+  std::vector<std::unique_ptr<HeldFile>> held_;
+};
+
+void SpendDayBeside(DWORD sharing) {
+  HeldFiles files(sharing);
+  EXPECT_GE(SpendSpoiltDay(files.folder(), files.AsTrouble()), 15)
+      << "what is not there yet nobody holds";
 }
 
 TEST(FilesNobodyMayRead, CostNoByte) { SpendDayBeside(0); }
@@ -242,6 +299,11 @@ TEST(FilesNobodyMayRead, CostNoByte) { SpendDayBeside(0); }
 TEST(FilesOthersMayRead, CostNoByte) { SpendDayBeside(FILE_SHARE_READ); }
 
 TEST(FilesOthersMayReadAndWrite, CostNoByte) { SpendDayBeside(FILE_SHARE_READ | FILE_SHARE_WRITE); }
+
+TEST(FilesNobodyMayRead, LetTheProgramStart) {
+  HeldFiles files(0);
+  StartInTrouble(files.folder(), files.AsTrouble());
+}
 
 TEST(FilesNobodyMayRead, AreWaitedForAMoment) {
   const WorkFolder folder;
