@@ -26,17 +26,24 @@ INPUT KeyInput(WORD virtual_key, bool up) {
   return input;
 }
 
+// A pixel of a screen `extent` pixels long on the scale of 0 to 65,535 of an input event's place.
+LONG OnScreenScale(LONG pixel, LONG extent) { return (pixel * 65536 + extent / 2) / extent; }
+
 }  // namespace
 
+// Press and release each carry their place: the window system tells the program of a moved cursor
+// late, and such a word from the click before takes the cursor back there, under a click that has
+// none.
 void ClickOn(HWND control) {
   RECT place = {};
   GetWindowRect(control, &place);
-  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
   INPUT press = {};
   press.type = INPUT_MOUSE;
-  press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  press.mi.dx = OnScreenScale((place.left + place.right) / 2, GetSystemMetrics(SM_CXSCREEN));
+  press.mi.dy = OnScreenScale((place.top + place.bottom) / 2, GetSystemMetrics(SM_CYSCREEN));
+  press.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN;
   INPUT release = press;
-  release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  release.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTUP;
   SendInputs({press, release});
 }
 
