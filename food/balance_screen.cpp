@@ -122,7 +122,6 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
   canvas.DrawText({160, scale.eaten_y}, "balance:");
   if (standing == Standing::kInside) canvas.SetTextColour(kGreen);
   canvas.DrawText({210, scale.eaten_y}, StandingText(scale, eaten, requirement));
-  canvas.SetTextColour(kBlack);
 }
 
 }  // namespace

@@ -204,7 +204,7 @@ TEST(FolderNameTest, LiesInTheFolderItself) {
 }
 
 TEST(FolderNameTest, IsNoDevice) {
-  for (const char* const name : {"NUL", "con", "Aux", "PRN", "com1", "LPT9", "nul.txt", "CON .a",
+  for (const char* const name : {"NUL", "con", "aux", "PRN", "com1", "LPT9", "nul.txt", "CON .a",
                                  "lpt1 ", "conin$", "CONOUT$"}) {
     EXPECT_FALSE(IsFolderName(name)) << name;
   }
