@@ -51,6 +51,8 @@ class Form {
   virtual std::optional<std::string> SelectedText(int id) const = 0;
   // Takes the selected item off a list box; without a selection nothing happens.
   virtual void RemoveSelectedItem(int id) = 0;
+  // Takes an item, counted from 0, off a list box; where there is none nothing happens.
+  virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
 

@@ -61,15 +61,14 @@ double ParseNumber(std::string_view text) {
   const bool starts_like_a_number =
       !digits.empty() &&
       (IsDigit(digits[0]) || (digits[0] == '.' && digits.size() > 1 && IsDigit(digits[1])));
+  if (!starts_like_a_number) return 0.0;
   double value = 0.0;
-  if (starts_like_a_number) {
-    const char* const end = digits.data() + digits.size();
-    const std::from_chars_result result = std::from_chars(digits.data(), end, value);
-    if (result.ec == std::errc::result_out_of_range) {
-      const std::string_view number(digits.data(),
-                                    static_cast<std::size_t>(result.ptr - digits.data()));
-      value = IsHuge(number) ? std::numeric_limits<double>::infinity() : 0.0;
-    }
+  const char* const end = digits.data() + digits.size();
+  const std::from_chars_result result = std::from_chars(digits.data(), end, value);
+  if (result.ec == std::errc::result_out_of_range) {
+    const std::string_view number(digits.data(),
+                                  static_cast<std::size_t>(result.ptr - digits.data()));
+    value = IsHuge(number) ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return split.negative ? -value : value;
 }

@@ -49,6 +49,7 @@ class PlainForm final : public Form {
   void SelectItem(int, int) override {}
   std::optional<std::string> SelectedText(int) const override { return std::nullopt; }
   void RemoveSelectedItem(int) override {}
+  void RemoveItem(int, int) override {}
   void Focus(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}

@@ -32,7 +32,8 @@ constexpr std::string_view kNameTooShort =
 constexpr std::string_view kIncomplete =
     "Product wasn`t added to database\nSome data are incorrect";
 constexpr std::string_view kNotNumbers =
-    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+    "New product was NOT added to database\nCheck your data. There might be letters instead of "
+    "numbers";
 constexpr std::string_view kAdded = "New product was added to database";
 
 bool BeginsWithDigit(const std::string& text) {

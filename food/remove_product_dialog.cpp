@@ -26,12 +26,13 @@ void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void RemoveProductDialog::Remove(Form& form) {
-  const std::optional<std::string> name = form.SelectedText(kNames);
-  if (!name) return;
+  if (!form.SelectedText(kNames)) return;
   const Answer answer = message_boxes_.Show({.text = "Are You sure??",
                                              .buttons = MessageButtons::kYesNo,
                                              .icon = MessageIcon::kQuestion});
-  if (answer != Answer::kYes) return;
+  // The list can be used behind the question: what is selected now is meant.
+  const std::optional<std::string> name = form.SelectedText(kNames);
+  if (answer != Answer::kYes || !name) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
   if (RemoveUserProducts(path_, *name)) form.RemoveSelectedItem(kNames);
   food_.user_products.Load(path_);

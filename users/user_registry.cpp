@@ -102,7 +102,7 @@ bool IsFolderName(std::string_view name) {
 }
 
 void CreateUserFiles(const SessionState& session, const std::string& user) {
-  MakeFolder(session.base_folder + user);
+  MakeFolder(session.FolderOf(user));
   for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
 }
 
@@ -118,7 +118,7 @@ void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const Report& report : Reports()) {
     DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
   }
-  if (!user.empty()) RemoveFolder(session.base_folder + user);
+  if (!user.empty()) RemoveFolder(session.FolderOf(user));
 }
 
 }  // namespace velnor

@@ -140,9 +140,12 @@ std::optional<std::string> WindowForm::SelectedText(int id) const {
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
-  const HWND control = Control(id);
-  const LRESULT selection = SendMessageA(control, LB_GETCURSEL, 0, 0);
-  if (selection >= 0) SendMessageA(control, LB_DELETESTRING, static_cast<WPARAM>(selection), 0);
+  const LRESULT selection = SendMessageA(Control(id), LB_GETCURSEL, 0, 0);
+  RemoveItem(id, static_cast<int>(selection));
+}
+
+void WindowForm::RemoveItem(int id, int index) {
+  if (index >= 0) SendMessageA(Control(id), LB_DELETESTRING, static_cast<WPARAM>(index), 0);
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }

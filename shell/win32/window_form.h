@@ -28,6 +28,7 @@ class WindowForm : public Form {
   void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
+  void RemoveItem(int id, int index) override;
   void Focus(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;

@@ -132,10 +132,16 @@ std::optional<std::string> FakeForm::SelectedText(int id) const {
 }
 
 void FakeForm::RemoveSelectedItem(int id) {
+  const Control* const control = Find(id);
+  if (control != nullptr) RemoveItem(id, control->selection);
+}
+
+void FakeForm::RemoveItem(int id, int index) {
   Control* const control = Find(id);
-  if (control == nullptr || control->selection < 0) return;
-  control->items.erase(control->items.begin() + control->selection);
-  control->selection = -1;
+  if (control == nullptr || index < 0 || index >= ItemCount(id)) return;
+  control->items.erase(control->items.begin() + index);
+  if (control->selection == index) control->selection = -1;
+  if (control->selection > index) --control->selection;
 }
 
 void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }

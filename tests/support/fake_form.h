@@ -55,6 +55,7 @@ class FakeForm final : public Form {
   void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
+  void RemoveItem(int id, int index) override;
   void Focus(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;

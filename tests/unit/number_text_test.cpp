@@ -98,9 +98,11 @@ TEST(ParseNumberTest, ReadsTheLeadingNumber) {
 
 TEST(ParseNumberTest, TakesWhatIsNoNumberForZero) {
   for (const char* const text : {"", " ", "abc", "???", "-", "+", ".", "-.", "+-1", "--1", "   -",
-                                 "e5", "nan", "inf", "-infinity", "NaN(1)"}) {
+                                 "e5", "nan", "inf", "-infinity", "NaN(1)", "-x", "--"}) {
     EXPECT_EQ(ParseNumber(text), 0.0) << text;
+    EXPECT_FALSE(std::signbit(ParseNumber(text))) << text;
   }
+  EXPECT_TRUE(std::signbit(ParseNumber("-0")));
   EXPECT_EQ(ParseNumber("0x1p4"), 0);  // the 0 before the x
 }
 
