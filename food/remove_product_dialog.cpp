@@ -33,7 +33,7 @@ void RemoveProductDialog::Remove(Form& form) {
                                              .icon = MessageIcon::kQuestion});
   if (answer != Answer::kYes) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
-  if (RemoveUserProducts(path_, *name)) form.RemoveSelectedItem(kNames);
+  if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
   food_.user_products.Load(path_);
 }
 
