@@ -243,7 +243,7 @@ void ProductAppend(benchmark::State& state) {
       folder.Write("data.txt", ProductsFile(static_cast<std::size_t>(state.range(0))));
   bool written = true;
   for (auto _ : state) {
-    written = AppendUserProduct(path, BuiltInProducts().front()) && written;
+    written = AddUserProduct(path, BuiltInProducts().front()) && written;
   }
   if (!written) state.SkipWithError("the product could not be written");
 }
@@ -257,7 +257,7 @@ void ProductRemove(benchmark::State& state) {
     state.PauseTiming();
     const std::string path = folder.Write("data.txt", bytes);
     state.ResumeTiming();
-    written = RemoveUserProducts(path, name) && written;
+    written = RemoveUserProduct(path, name) && written;
   }
   if (!written) state.SkipWithError("the products could not be written");
 }

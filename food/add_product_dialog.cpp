@@ -89,7 +89,7 @@ void AddProductDialog::Add(Form& form) {
     message_boxes_.Show({.text = kIncomplete});
   } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
     message_boxes_.Show({.text = kNotNumbers});
-  } else if (AppendUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
+  } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                        carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
     form.SetText(kMass, kUsualMass);

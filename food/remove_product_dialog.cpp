@@ -34,7 +34,7 @@ void RemoveProductDialog::Remove(Form& form) {
   const std::optional<std::string> name = form.SelectedText(kNames);
   if (answer != Answer::kYes || !name) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
-  if (RemoveUserProducts(path_, *name)) form.RemoveSelectedItem(kNames);
+  if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
   food_.user_products.Load(path_);
 }
 
