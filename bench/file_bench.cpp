@@ -43,7 +43,8 @@ class PlainForm final : public Form {
   }
   void SetText(int id, std::string_view text) override { texts_[id] = text; }
   int ItemCount(int) const override { return 0; }
-  void AddItem(int, std::string_view) override {}
+  void FillItems(int, std::span<const std::string_view>) override {}
+  void AddItems(int, std::span<const std::string_view>) override {}
   void ClearItems(int) override {}
   std::string ItemText(int, int) const override { return ""; }
   void SelectItem(int, int) override {}

@@ -17,7 +17,7 @@ RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
     : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
-  for (const std::string& name : ReadUserProductNames(path_)) form.AddItem(kNames, name);
+  form.FillItems(kNames, Views(ReadUserProductNames(path_)));
 }
 
 void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
