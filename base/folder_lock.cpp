@@ -5,7 +5,7 @@
 namespace velnor {
 namespace {
 
-constexpr int kBetweenTries = 2;  // milliseconds; a deed takes some ten
+constexpr int kBetweenTries = 1;  // milliseconds; a deed takes some ten
 
 }  // namespace
 
