@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -12,8 +11,6 @@
 
 namespace velnor {
 namespace {
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 struct Closer {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -98,7 +95,7 @@ bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
   if (text.empty()) return Open(path, "ab") != nullptr;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   return old && ReplaceFile(path, *old + WithCrLf(text));
 }
 
@@ -111,7 +108,7 @@ bool ReplaceFile(const std::string& path, std::string_view bytes) {
 bool ReplaceFiles(std::span<const FileBytes> files) {
   std::vector<OldFile> old;
   for (const FileBytes& file : files) {
-    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kNoLimit);
+    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kWholeFile);
     if (!bytes) return false;
     old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
   }

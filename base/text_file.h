@@ -11,6 +11,9 @@
 
 namespace velnor {
 
+// A limit that every file keeps.
+inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
+
 // The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
 // when there is something that cannot be read, or when the folder is missing, which may come back
 // with the file in it: who goes on to rewrite it would destroy it. `path` is in the machine's own

@@ -60,7 +60,7 @@ void AddProductDialog::OfferSubcategories(Form& form) {
   form.ClearItems(kSubcategory);
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  for (const std::string_view name : ListSubcategories(food_, Layout::kOverview, main_category)) {
+  for (const std::string_view name : ListSubcategories(food_, Matching::kOverview, main_category)) {
     if (name.size() > 1) form.AddItem(kSubcategory, name);
   }
 }

@@ -21,7 +21,7 @@ void ProductPicker::OnMainCategoryChosen() {
   if (!main_category) return;
   form_.ClearItems(controls_.subcategory);
   form_.ClearItems(controls_.products);
-  for (const std::string_view name : ListSubcategories(food_, controls_.layout, *main_category)) {
+  for (const std::string_view name : ListSubcategories(food_, controls_.matching, *main_category)) {
     form_.AddItem(controls_.subcategory, name);
   }
   ShowNoProduct();
@@ -33,7 +33,7 @@ void ProductPicker::OnSubcategoryChosen() {
   if (!main_category || !subcategory) return;
   form_.ClearItems(controls_.products);
   for (const std::string_view name :
-       ListProducts(food_, controls_.layout, *main_category, *subcategory)) {
+       ListProducts(food_, controls_.matching, *main_category, *subcategory)) {
     form_.AddItem(controls_.products, name);
   }
 }
@@ -42,7 +42,7 @@ void ProductPicker::OnProductChosen() {
   std::optional<std::string> name = form_.SelectedText(controls_.products);
   if (!name) return;
   name->resize(std::min(name->size(), controls_.name_limit));
-  const ProductRecord* const product = FindProduct(food_, controls_.layout, *name);
+  const ProductRecord* const product = FindProduct(food_, controls_.matching, *name);
   if (product == nullptr) return;
   chosen_name_ = std::move(*name);
   const SelectedProduct& chosen = selected_.emplace(SelectedProduct::CopyOf(*product));

@@ -284,7 +284,7 @@ TEST(ProductTableTest, NutrientsFitIntoAHundredGrams) {
   }
 }
 
-class LookupTest : public testing::TestWithParam<Layout> {};
+class LookupTest : public testing::TestWithParam<Matching> {};
 
 // Of two rows with one name the later stands for both.
 TEST_P(LookupTest, ChoosingARowGivesThatRow) {
@@ -299,7 +299,7 @@ TEST_P(LookupTest, ChoosingARowGivesThatRow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BothPickers, LookupTest,
-                         testing::Values(Layout::kCounter, Layout::kOverview));
+                         testing::Values(Matching::kCounter, Matching::kOverview));
 
 // Taking a food off today's list finds it by its first four and last two characters and its length.
 TEST(ProductTableTest, RemovalFromTheListMistakesNoRowForAnother) {
@@ -321,7 +321,7 @@ Filing ListedUnder(const Filing& filing) {
   const FoodTable food;
   for (const CategoryRecord& category : food.categories) {
     if (category.main_category != main_category) continue;
-    for (const std::string_view slot : category.subcategories) {
+    for (const std::optional<std::string_view>& slot : category.subcategories) {
       if (slot == filing.second) return {main_category, filing.second};
     }
   }
