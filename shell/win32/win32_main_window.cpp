@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "shell/win32/dialog_host.h"
+#include "shell/win32/fault_barrier.h"
 
 namespace velnor {
 namespace {
@@ -70,7 +71,8 @@ int Win32MainWindow::RunMessageLoop() {
     // The wheel is the screen's before it is that of the control which has the focus: an edit would
     // scroll as many lines as it likes.
     const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
-    if (wheel && OnMouseWheel(message.wParam)) continue;
+    const auto scrolled = [&] { return OnMouseWheel(message.wParam); };
+    if (wheel && BehindBarrier(window_, true, scrolled)) continue;
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
@@ -87,7 +89,8 @@ LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wp
   }
   auto* const self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcA(window, message, wparam, lparam);
-  return self->OnMessage(message, wparam, lparam);
+  const LRESULT on_fault = message == WM_CREATE ? -1 : 0;  // a window that could not be made goes
+  return BehindBarrier(window, on_fault, [&] { return self->OnMessage(message, wparam, lparam); });
 }
 
 LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
