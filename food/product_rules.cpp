@@ -1,6 +1,7 @@
 #include "food/product_rules.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <span>
 
@@ -75,6 +76,13 @@ const ProductRecord* FindInTables(const FoodTable& food, const auto& built_in, c
 }
 
 }  // namespace
+
+std::vector<std::string_view> ListMainCategories(const FoodTable& food) {
+  std::vector<std::string_view> names;
+  std::ranges::transform(food.categories, std::back_inserter(names),
+                         &CategoryRecord::main_category);
+  return names;
+}
 
 std::vector<std::string_view> ListSubcategories(const FoodTable& food, Matching matching,
                                                 std::string_view main_category) {

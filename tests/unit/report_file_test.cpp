@@ -53,7 +53,7 @@ TEST(ReportsTest, EveryReportHasItsScreenAndFile) {
   };
   ASSERT_EQ(Reports().size(), expected.size());
   for (const Row& row : expected) {
-    const Report* const report = FindReport(row.screen);
+    const ReportFile* const report = FindReport(row.screen);
     ASSERT_NE(report, nullptr) << row.screen;
     EXPECT_EQ(report->screen, row.screen);
     EXPECT_EQ(report->title, row.title);
