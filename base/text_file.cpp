@@ -21,7 +21,7 @@ struct Closer {
 using File = std::unique_ptr<std::FILE, Closer>;
 
 File Open(const std::string& path, const char* mode) {
-  return File(std::fopen(path.c_str(), mode));
+  return File(path.empty() ? nullptr : std::fopen(path.c_str(), mode));
 }
 
 bool Write(std::FILE* file, std::string_view bytes) {
@@ -33,7 +33,7 @@ bool Close(File file) { return std::fclose(file.release()) == 0; }
 
 bool WriteTemporary(const std::string& path, std::string_view bytes) {
   // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (IsWriteProtected(path)) return false;
+  if (path.empty() || IsWriteProtected(path)) return false;
   File file = Open(TemporaryPath(path), "wb");
   if (!file) return false;
   const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
@@ -68,6 +68,7 @@ void Restore(const OldFile& old) {
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
+  if (path.empty()) return "";
   errno = 0;
   const File file = Open(path, "rb");
   if (!file) {
