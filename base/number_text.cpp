@@ -127,6 +127,18 @@ std::string FormatNumber(double value, int digits) {
   return result.append(mantissa, whole_digits);
 }
 
+std::string FormatFixed(double value, int decimals) {
+  if (std::isnan(value)) return "nan";
+  if (std::isinf(value)) return value < 0 ? "-inf" : "inf";
+  // 309 digits before the point, the sign, the point and 9 digits behind it.
+  char buffer[std::numeric_limits<double>::max_exponent10 + 12];
+  const std::to_chars_result written = std::to_chars(
+      buffer, buffer + sizeof buffer, value, std::chars_format::fixed, std::clamp(decimals, 0, 9));
+  const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
+  const bool is_zero = text.find_first_of("123456789") == std::string_view::npos;
+  return std::string(is_zero && text.front() == '-' ? text.substr(1) : text);
+}
+
 float TruncateTwoDecimals(std::string_view text) {
   const auto number = static_cast<float>(ParseNumber(text));
   const float whole = std::floor(number);

@@ -27,7 +27,7 @@ std::optional<std::string_view> NameField(std::string_view line) {
 
 }  // namespace
 
-bool AppendUserProduct(const std::string& path, const ProductRecord& product) {
+bool AddUserProduct(const std::string& path, const ProductRecord& product) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   std::string line;
@@ -70,7 +70,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
   return false;
 }
 
-bool RemoveUserProducts(const std::string& path, std::string_view name) {
+bool RemoveUserProduct(const std::string& path, std::string_view name) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);

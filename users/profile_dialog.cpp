@@ -30,10 +30,6 @@ constexpr std::string_view kContradiction =
 constexpr std::string_view kNotRead =
     "Your profile could not be read.\nClose this window and open it again.";
 
-void Fill(Form& form, int id, std::span<const std::string_view> words) {
-  for (const std::string_view word : words) form.AddItem(id, word);
-}
-
 // Selects the word that begins with the first letter of `text`; without one nothing is selected.
 void SelectByLetter(Form& form, int id, std::span<const std::string_view> words,
                     std::string_view text) {
@@ -51,9 +47,9 @@ ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWi
     : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
 
 void ProfileDialog::OnOpen(Form& form) {
-  Fill(form, kSex, kSexes);
-  Fill(form, kLifeStyle, kLifeStyles);
-  Fill(form, kOther, kOthers);
+  form.FillItems(kSex, kSexes);
+  form.FillItems(kLifeStyle, kLifeStyles);
+  form.FillItems(kOther, kOthers);
   const std::optional<ProfileLines> lines =
       ReadProfileLinesToRewrite(session_.UserFile(kProfileFile));
   was_read_ = lines.has_value();

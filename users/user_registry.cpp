@@ -115,7 +115,7 @@ void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const std::string_view file : {kCarbohydrateExchangeFile, kProteinFatExchangeFile}) {
     std::remove(TemporaryPath(session.FileOf(user, file)).c_str());
   }
-  for (const Report& report : Reports()) {
+  for (const ReportFile& report : Reports()) {
     DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
   }
   if (!user.empty()) RemoveFolder(session.FolderOf(user));

@@ -50,7 +50,7 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
 void UsersDialog::OnOpen(Form& form) {
   std::optional<UserRegistry> registry = ReadUserRegistry(session_.BaseFile(kRegistryFile));
   if (!registry) return;
-  for (const std::string& name : registry->names) form.AddItem(kUsers, name);
+  form.FillItems(kUsers, Views(registry->names));
   rest_of_registry_ = std::move(registry->rest);
 }
 

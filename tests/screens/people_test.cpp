@@ -113,7 +113,7 @@ TEST_F(PeopleTest, ARegisteredNameIsTakenAgainAndItsFilesBecomeEmpty) {
 TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   Start();
   Register("Ann");
-  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt", "bilans.ASC.new"}) {
+  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt"}) {
     folder_.Write(std::string("Ann/") + file, "x");
   }
   OpenUsers();
