@@ -1,4 +1,5 @@
-// The text files of the program. Nobody else opens one.
+// The text files of the program. Nobody else opens one. An empty path is that of no file: it reads as
+// a missing one and is not written.
 
 #ifndef VELNOR_BASE_TEXT_FILE_H_
 #define VELNOR_BASE_TEXT_FILE_H_

@@ -14,7 +14,7 @@ namespace {
 class Host final : public WindowForm {
  public:
   Host(HWND window, Dialog& dialog) : WindowForm(window), dialog_(&dialog) {}
-  Host(HWND window, std::unique_ptr<Dialog> dialog, std::function<void()> on_close)
+  Host(HWND window, std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close)
       : WindowForm(window),
         dialog_(dialog.get()),
         owned_dialog_(std::move(dialog)),
@@ -24,7 +24,7 @@ class Host final : public WindowForm {
     if (on_close_ == nullptr) {
       EndDialog(window(), 0);
     } else {
-      on_close_();
+      on_close_(window());
       DestroyWindow(window());
     }
   }
@@ -53,7 +53,7 @@ class Host final : public WindowForm {
 
   Dialog* dialog_;
   std::unique_ptr<Dialog> owned_dialog_;  // a modal dialog belongs to its caller
-  std::function<void()> on_close_;        // null for a modal dialog
+  std::function<void(HWND)> on_close_;        // null for a modal dialog
   int running_handlers_ = 0;
   bool window_is_gone_ = false;
 };
@@ -62,7 +62,7 @@ class Host final : public WindowForm {
 struct Opening {
   Dialog* modal_dialog = nullptr;
   std::unique_ptr<Dialog> modeless_dialog = nullptr;
-  std::function<void()> on_close = nullptr;
+  std::function<void(HWND)> on_close = nullptr;
 
   Host* MakeHost(HWND window) {
     if (modal_dialog != nullptr) return new Host(window, *modal_dialog);
@@ -149,7 +149,7 @@ void RunModalDialog(HINSTANCE instance, HWND owner, int resource_id, Dialog& dia
 }
 
 HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
-                        std::unique_ptr<Dialog> dialog, std::function<void()> on_close) {
+                        std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close) {
   Opening opening{.modeless_dialog = std::move(dialog), .on_close = std::move(on_close)};
   const HWND window = CreateDialogParamA(instance, MAKEINTRESOURCEA(resource_id), owner,
                                          DialogProcedure, reinterpret_cast<LPARAM>(&opening));

@@ -202,7 +202,20 @@ void Win32MainWindow::EnableMenuItem(int command, bool enabled) {
 
 void Win32MainWindow::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
   modeless_dialog_ = OpenModelessDialog(instance_, window_, resource_id, std::move(dialog),
-                                        [this] { modeless_dialog_ = nullptr; });
+                                        [this](HWND closed) {
+                                          modeless_dialog_ = nullptr;
+                                          std::erase(session_dialogs_, closed);
+                                        });
+}
+
+void Win32MainWindow::OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
+  OpenDialog(resource_id, std::move(dialog));
+  if (modeless_dialog_ != nullptr) session_dialogs_.push_back(modeless_dialog_);
+}
+
+void Win32MainWindow::CloseSessionDialogs() {
+  const std::vector<HWND> open = session_dialogs_;  // each takes itself off the list
+  for (const HWND dialog : open) SendMessageA(dialog, WM_COMMAND, kCancelButton, 0);
 }
 
 void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
