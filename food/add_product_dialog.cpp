@@ -89,7 +89,7 @@ void AddProductDialog::Add(Form& form) {
   } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
     message_boxes_.Show({.text = kNotNumbers});
   } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
-                                       carbohydrate})) {
+                                    carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
     form.SetText(kMass, kUsualMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
