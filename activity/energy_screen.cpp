@@ -9,7 +9,6 @@ namespace velnor {
 namespace {
 
 constexpr int kBmr = 181;
-constexpr std::size_t kBmrLimit = 10;
 
 // The system's own text, as it stands.
 constexpr std::string_view kNoBmr =
@@ -124,7 +123,7 @@ void EnergyScreen::Paint(Canvas& canvas) {
 }
 
 void EnergyScreen::Count() {
-  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrLimit)));
+  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrTextLimit)));
   if (typed == 0) {
     message_boxes_.Show({.text = kNoBmr});
     return;

@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::size_t kListedLines = 1000;
 constexpr std::size_t kListedLineLimit = 299;
-constexpr std::size_t kNameLimit = 59;
 constexpr std::string_view kLineEnd = "\r\n";
 
 std::optional<std::string_view> NameField(std::string_view line) {
@@ -54,7 +53,7 @@ std::vector<std::string> ReadUserProductNames(const std::string& path) {
 bool IsRemovedWith(std::string_view line, std::string_view name) {
   if (line.size() <= UserProductTable::kShortLine) return false;
   const std::optional<std::string_view> field = NameField(line);
-  if (!field || field->substr(0, kNameLimit).size() != name.size()) return false;
+  if (!field || field->substr(0, kRemovableNameLimit).size() != name.size()) return false;
   const int n = Length(name);
   const auto agrees_from = [=](std::size_t start) {
     const std::string_view tail = line.substr(std::min(start, line.size()));

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
 #include "shell/win32/fault_barrier.h"
 #include "shell/win32/wide_path.h"
@@ -11,7 +12,6 @@ namespace velnor {
 namespace {
 
 constexpr int kMenuResource = 501;
-constexpr int kIconResource = 900;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;
@@ -41,7 +41,7 @@ bool Win32MainWindow::Open(int show_command) {
   window_class.style = CS_DBLCLKS;
   window_class.lpfnWndProc = Procedure;
   window_class.hInstance = instance_;
-  window_class.hIcon = LoadIconA(instance_, MAKEINTRESOURCEA(kIconResource));
+  window_class.hIcon = ProgramIcon();
   window_class.hIconSm = window_class.hIcon;
   window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
   window_class.hbrBackground = surface_;
@@ -201,11 +201,11 @@ void Win32MainWindow::EnableMenuItem(int command, bool enabled) {
 }
 
 void Win32MainWindow::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
-  modeless_dialog_ = OpenModelessDialog(instance_, window_, resource_id, std::move(dialog),
-                                        [this](HWND closed) {
-                                          modeless_dialog_ = nullptr;
-                                          std::erase(session_dialogs_, closed);
-                                        });
+  modeless_dialog_ =
+      OpenModelessDialog(instance_, window_, resource_id, std::move(dialog), [this](HWND closed) {
+        modeless_dialog_ = nullptr;
+        std::erase(session_dialogs_, closed);
+      });
 }
 
 void Win32MainWindow::OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
