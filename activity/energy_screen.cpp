@@ -17,7 +17,7 @@ constexpr std::string_view kNoBmr =
 
 // Small enough for a label to end before its figure, and a remark before the edge of the window.
 constexpr Font kLabelFont{12, 0, false};
-constexpr Font kRemarkFont{10, 0, false};
+constexpr Font kRemarkFont{11, 0, false};
 
 constexpr Colour kWhite{255, 255, 255};
 

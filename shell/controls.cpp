@@ -103,35 +103,21 @@ constexpr ControlRow kControls[] = {
 // clang-format on
 static_assert(std::size(kControls) == 86);
 
-// Figures of six digits, a point and a zero before it, as "0.571429", fit into the narrow fields.
-struct NarrowField {
-  int width;  // pixels, with its edges
-  Font font;
-};
-constexpr NarrowField kNarrowFields[] = {
-    {33, {8, 0, false, false}},
-    {50, {12, 0, false}},
-};
+// Six digits with a point and a zero before them, as "0.571429", fit into 50 pixels in this font.
+// Anything smaller could not be read: of a figure that is wider than its field, the first digits
+// are seen.
+constexpr Font kSmallFont{12, 0, false};
+constexpr int kSmallFieldWidth = 50;
 
-// Fields whose figures have more digits than that.
-struct LongFigure {
-  int id;
-  Font font;
-};
-constexpr LongFigure kLongFigures[] = {
-    {163, {12, 0, false}},  // burned energy and fat: nine digits
-    {164, {12, 0, false}},
-    {180, {9, 0, false, false}},  // the day's total: fifteen digits
-};
+// Wider fields with more digits: burned energy and fat have nine, the day's total fifteen.
+constexpr int kLongFigures[] = {163, 164, 180};
 
 }  // namespace
 
 Font ControlFont(const ControlRow& row) {
-  const auto* const figure = std::ranges::find(kLongFigures, row.id, &LongFigure::id);
-  if (figure != std::end(kLongFigures)) return figure->font;
   if (row.control_class != ControlClass::kStatic) return kBodyFont;
-  const auto* const field = std::ranges::find(kNarrowFields, row.place.width, &NarrowField::width);
-  return field == std::end(kNarrowFields) ? kBodyFont : field->font;
+  const bool is_long = std::ranges::find(kLongFigures, row.id) != std::end(kLongFigures);
+  return is_long || row.place.width <= kSmallFieldWidth ? kSmallFont : kBodyFont;
 }
 
 std::span<const ControlRow> MainWindowControls() { return kControls; }

@@ -46,7 +46,7 @@ struct ControlRow {
 };
 
 // The font of a control: the body font, or a smaller one where the figures of a field would not fit
-// otherwise.
+// otherwise. The first digits of what does not fit either are seen.
 Font ControlFont(const ControlRow& row);
 
 // The 86 controls in the order in which they are created and hidden. Two of them have the id 149.
