@@ -1,7 +1,6 @@
 #include "users/backup.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -86,11 +85,13 @@ TEST_F(BackupTest, SevenDaysAndTheFirstsOfTwelveMonthsAreKept) {
   for (int month = 1; month <= 14; ++month) {
     const int last = month == 14 ? 12 : 4;
     for (int day = 3; day <= last; ++day) {
-      char date[11];
-      std::snprintf(date, sizeof date, "%04d-%02d-%02d", 2025 + (month - 1) / 12,
-                    (month - 1) % 12 + 1, day);
+      const auto two_digits = [](int number) {
+        return (number < 10 ? "0" : "") + std::to_string(number);
+      };
+      const std::string date = (month > 12 ? "2026-" : "2025-") + two_digits((month - 1) % 12 + 1) +
+                               '-' + two_digits(day);
       ASSERT_TRUE(MakeDailyCopy(Base(), date));
-      if ((month >= 3 && day == 3) || (month == 14 && day >= 6)) expected.emplace_back(date);
+      if ((month >= 3 && day == 3) || (month == 14 && day >= 6)) expected.push_back(date);
     }
   }
   EXPECT_EQ(CopyNames(), expected);
