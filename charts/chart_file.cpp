@@ -1,7 +1,5 @@
 #include "charts/chart_file.h"
 
-#include "base/text_file.h"
-
 namespace velnor {
 namespace {
 

@@ -10,7 +10,7 @@
 
 #include "activity/burned_calories.h"
 #include "activity/burned_screen.h"
-#include "activity/energy_screen.h"
+#include "food/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"

@@ -1,4 +1,4 @@
-#include "activity/energy_screen.h"
+#include "food/energy_screen.h"
 
 #include <cmath>
 #include <string>
