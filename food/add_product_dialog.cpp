@@ -22,9 +22,6 @@ constexpr int kCalories = 740;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;
-constexpr std::size_t kShortestName = 4;
-
-constexpr std::string_view kUsualMass = "100";
 
 // The system's own texts, as they stand.
 constexpr std::string_view kNameTooShort =
@@ -45,7 +42,7 @@ AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBox
     : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
 
 void AddProductDialog::OnOpen(Form& form) {
-  form.SetText(kMass, kUsualMass);
+  form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
   for (const CategoryRecord& row : food_.categories) form.AddItem(kMainCategory, row.main_category);
 }
@@ -81,7 +78,7 @@ void AddProductDialog::Add(Form& form) {
 
   // Mass and calories are taken as they come, and of the nutrients only the first character is
   // looked at. A file that cannot be written is not reported; the entries stay for another try.
-  if (name.size() < kShortestName) {
+  if (name.size() < kShortestProductName) {
     message_boxes_.Show({.text = kNameTooShort});
     message_boxes_.Show({.text = kIncomplete});
   } else if (incomplete) {
@@ -91,7 +88,7 @@ void AddProductDialog::Add(Form& form) {
   } else if (AppendUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                        carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
-    form.SetText(kMass, kUsualMass);
+    form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(path_);

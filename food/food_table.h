@@ -69,10 +69,14 @@ class UserProductTable {
   // What they are found by, in the same order.
   const SearchText& search_text() const { return search_text_; }
 
+  // How many more lines the file can have that are read.
+  std::size_t free_slots() const { return free_slots_; }
+
  private:
   std::string text_;
   std::vector<ProductRecord> products_;
   SearchText search_text_;
+  std::size_t free_slots_ = kSlots;
 };
 
 // Splits a line of the user products file at ";" into the eight fields, in the order of
