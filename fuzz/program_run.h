@@ -103,6 +103,7 @@ class ProgramRun final : private MainWindow {
   void EnableMenuItem(int command, bool enabled) override { menu_[command] = enabled; }
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind&) override { return std::nullopt; }
   void OpenHelp(std::string_view) override {}
 
   void RequireNumbers(const RecordingCanvas& canvas) const;

@@ -35,6 +35,7 @@ class Win32MainWindow final : public MainWindow {
   void EnableMenuItem(int command, bool enabled) override;
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override;
   void OpenHelp(std::string_view file_name) override;
 
  private:
