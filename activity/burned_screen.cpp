@@ -1,6 +1,9 @@
 #include "activity/burned_screen.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <vector>
 
 #include "activity/activity_table.h"
 
@@ -55,8 +58,9 @@ void BurnedScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kStrongFont);
   DrawTexts(canvas, kStrongTexts);
 
-  form_.ClearItems(kActivities);
-  for (const ActivityRecord& activity : Activities()) form_.AddItem(kActivities, activity.name);
+  std::vector<std::string_view> names;
+  std::ranges::transform(Activities(), std::back_inserter(names), &ActivityRecord::name);
+  form_.FillItems(kActivities, names);
   const std::string total = total_.RefreshForToday();
   form_.SetText(kTotal, total.empty() ? kNothing : total);
 }

@@ -215,4 +215,26 @@ std::string FromUtf16(std::string_view bytes, bool high_byte_first) {
   return text;
 }
 
+std::string ToUtf8(std::string_view text) {
+  constexpr unsigned kFollowing = 0x3F;  // of a sign's bits, those in each byte but the first
+  std::string utf8;
+  utf8.reserve(text.size() + text.size() / 8);
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      utf8 += c;
+      continue;
+    }
+    const unsigned sign = kSigns[byte - 0x80U];
+    if (sign < 0x800) {
+      utf8 += static_cast<char>(0xC0U | sign >> 6U);
+    } else {
+      utf8 += static_cast<char>(0xE0U | sign >> 12U);
+      utf8 += static_cast<char>(0x80U | (sign >> 6U & kFollowing));
+    }
+    utf8 += static_cast<char>(0x80U | (sign & kFollowing));
+  }
+  return utf8;
+}
+
 }  // namespace velnor

@@ -1,4 +1,4 @@
-// Letters of code page 1250, the code page of every text in the program.
+// Letters of code page 1250, the code page of every text in the program, and the way out of it.
 
 #ifndef VELNOR_BASE_CODE_PAGE_H_
 #define VELNOR_BASE_CODE_PAGE_H_
@@ -11,6 +11,10 @@ namespace velnor {
 // `text` with its capital letters, Polish and other Central European ones included, as small ones.
 // Other bytes stay. Source of the letter pairs: the code page's published mapping table.
 std::string ToLowerCase(std::string text);
+
+// `text` in UTF-8, for the files that other programs read. The five bytes without a letter become
+// U+FFFD. Source: the same table.
+std::string ToUtf8(std::string_view text);
 
 // `text` in small letters without their marks, so that "\xAFurek" and "zurek" compare equal: a
 // letter of the alphabet for each letter that has one, the letter sharp s as "s", the no-break

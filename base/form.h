@@ -7,8 +7,10 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velnor {
 
@@ -41,7 +43,11 @@ class Form {
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
   // without regard to case. None of these announces anything.
   virtual int ItemCount(int id) const = 0;
-  virtual void AddItem(int id, std::string_view text) = 0;
+  // Both fill the list in one step, which is drawn once however many texts there are. The first
+  // replaces what the list holds and takes the selection with it, the second leaves both.
+  virtual void FillItems(int id, std::span<const std::string_view> texts) = 0;
+  virtual void AddItems(int id, std::span<const std::string_view> texts) = 0;
+  void AddItem(int id, std::string_view text) { AddItems(id, {&text, 1}); }
   virtual void ClearItems(int id) = 0;  // takes the selection with it
   // The text of an item, counted from 0; empty when there is no such item.
   virtual std::string ItemText(int id, int index) const = 0;
@@ -51,6 +57,8 @@ class Form {
   virtual std::optional<std::string> SelectedText(int id) const = 0;
   // Takes the selected item off a list box; without a selection nothing happens.
   virtual void RemoveSelectedItem(int id) = 0;
+  // Takes an item, counted from 0, off a list box; where there is none nothing happens.
+  virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
 
@@ -64,6 +72,11 @@ class Form {
   // Closes the window; a dialog's object lives until its current handler has returned.
   virtual void Close() = 0;
 };
+
+// Texts as a form takes them, good as long as the texts are.
+inline std::vector<std::string_view> Views(std::span<const std::string> texts) {
+  return {texts.begin(), texts.end()};
+}
 
 }  // namespace velnor
 

@@ -44,7 +44,7 @@ class MainWindow {
   virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
 
   // Lets the person choose a file that there is, over the dialog they are working in, and waits.
-  // Its path, in the machine's own code page; nothing when none was chosen.
+  // Its path, as the files of the program are named; nothing when none was chosen.
   virtual std::optional<std::string> ChooseFile(const FileKind& kind) = 0;
 
   // Asks the platform to open a help file of the start-up folder. What a platform without such a

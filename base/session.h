@@ -29,6 +29,7 @@ struct SessionState {
   // The path of a file in the start-up directory itself, in the folder of a user, or in that of the
   // one who is logged in.
   std::string BaseFile(std::string_view file_name) const;
+  std::string FolderOf(const std::string& user) const;
   std::string FileOf(const std::string& user, std::string_view file_name) const;
   std::string UserFile(std::string_view file_name) const { return FileOf(user_name, file_name); }
 };

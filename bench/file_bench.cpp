@@ -43,12 +43,14 @@ class PlainForm final : public Form {
   }
   void SetText(int id, std::string_view text) override { texts_[id] = text; }
   int ItemCount(int) const override { return 0; }
-  void AddItem(int, std::string_view) override {}
+  void FillItems(int, std::span<const std::string_view>) override {}
+  void AddItems(int, std::span<const std::string_view>) override {}
   void ClearItems(int) override {}
   std::string ItemText(int, int) const override { return ""; }
   void SelectItem(int, int) override {}
   std::optional<std::string> SelectedText(int) const override { return std::nullopt; }
   void RemoveSelectedItem(int) override {}
+  void RemoveItem(int, int) override {}
   void Focus(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}
@@ -242,7 +244,7 @@ void ProductAppend(benchmark::State& state) {
       folder.Write("data.txt", ProductsFile(static_cast<std::size_t>(state.range(0))));
   bool written = true;
   for (auto _ : state) {
-    written = AppendUserProduct(path, BuiltInProducts().front()) && written;
+    written = AddUserProduct(path, BuiltInProducts().front()) && written;
   }
   if (!written) state.SkipWithError("the product could not be written");
 }
@@ -256,7 +258,7 @@ void ProductRemove(benchmark::State& state) {
     state.PauseTiming();
     const std::string path = folder.Write("data.txt", bytes);
     state.ResumeTiming();
-    written = RemoveUserProducts(path, name) && written;
+    written = RemoveUserProduct(path, name) && written;
   }
   if (!written) state.SkipWithError("the products could not be written");
 }

@@ -29,7 +29,8 @@ constexpr std::string_view kNameTooShort =
 constexpr std::string_view kIncomplete =
     "Product wasn`t added to database\nSome data are incorrect";
 constexpr std::string_view kNotNumbers =
-    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+    "New product was NOT added to database\nCheck your data. There might be letters instead of "
+    "numbers";
 constexpr std::string_view kAdded = "New product was added to database";
 
 bool BeginsWithDigit(const std::string& text) {
@@ -44,7 +45,7 @@ AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBox
 void AddProductDialog::OnOpen(Form& form) {
   form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
-  for (const CategoryRecord& row : food_.categories) form.AddItem(kMainCategory, row.main_category);
+  form.FillItems(kMainCategory, ListMainCategories(food_));
 }
 
 void AddProductDialog::OnCommand(Form& form, int id, int notification) {
@@ -54,12 +55,11 @@ void AddProductDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void AddProductDialog::OfferSubcategories(Form& form) {
-  form.ClearItems(kSubcategory);
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  for (const std::string_view name : ListSubcategories(food_, Layout::kOverview, main_category)) {
-    if (name.size() > 1) form.AddItem(kSubcategory, name);
-  }
+  std::vector<std::string_view> names = ListSubcategories(food_, Layout::kOverview, main_category);
+  std::erase_if(names, [](std::string_view name) { return name.size() <= 1; });
+  form.FillItems(kSubcategory, names);
 }
 
 void AddProductDialog::Add(Form& form) {
@@ -85,7 +85,7 @@ void AddProductDialog::Add(Form& form) {
     message_boxes_.Show({.text = kIncomplete});
   } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
     message_boxes_.Show({.text = kNotNumbers});
-  } else if (AppendUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
+  } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                        carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
     form.SetText(kMass, kUsualProductMass);

@@ -57,7 +57,7 @@ ImportProductsDialog::ImportProductsDialog(FoodTable& food, std::string path, Ma
     : food_(food), path_(std::move(path)), window_(window), message_boxes_(message_boxes) {}
 
 void ImportProductsDialog::OnOpen(Form& form) {
-  for (const CategoryRecord& row : food_.categories) form.AddItem(kMainCategory, row.main_category);
+  form.FillItems(kMainCategory, ListMainCategories(food_));
   Select(form, kMainCategory, kUsualMainCategory);
   OfferSubcategories(form);
   Select(form, kSubcategory, kUsualSubcategory);
@@ -72,11 +72,8 @@ void ImportProductsDialog::OnCommand(Form& form, int id, int notification) {
 
 // One of them is always chosen: products without a category would be in no list.
 void ImportProductsDialog::OfferSubcategories(Form& form) {
-  form.ClearItems(kSubcategory);
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
-  for (const std::string_view name : ListSubcategories(food_, Layout::kCounter, main_category)) {
-    if (!IsUnusedSlot(name)) form.AddItem(kSubcategory, name);
-  }
+  form.FillItems(kSubcategory, ListSubcategories(food_, Layout::kCounter, main_category));
   form.SelectItem(kSubcategory, 0);
 }
 
@@ -126,7 +123,7 @@ void ImportProductsDialog::CarryOut(const ImportPlan& plan) {
   for (const ImportedProduct& product : plan.products) {
     if (records.size() < plan.fitting) records.push_back(product.AsRecord());
   }
-  const bool written = records.empty() || AppendUserProducts(path_, records);
+  const bool written = records.empty() || AddUserProducts(path_, records);
   food_.user_products.Load(path_);
   Say(written ? ImportReport(plan, records.size()) : std::string(kNotWritten));
 }

@@ -11,19 +11,15 @@ namespace velnor {
 
 void ProductPicker::FillMainCategoryList() {
   if (form_.ItemCount(controls_.main_category) > 0) return;
-  for (const CategoryRecord& row : food_.categories) {
-    form_.AddItem(controls_.main_category, row.main_category);
-  }
+  form_.FillItems(controls_.main_category, ListMainCategories(food_));
 }
 
 void ProductPicker::OnMainCategoryChosen() {
   const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
   if (!main_category) return;
-  form_.ClearItems(controls_.subcategory);
+  form_.FillItems(controls_.subcategory,
+                  ListSubcategories(food_, controls_.layout, *main_category));
   form_.ClearItems(controls_.products);
-  for (const std::string_view name : ListSubcategories(food_, controls_.layout, *main_category)) {
-    form_.AddItem(controls_.subcategory, name);
-  }
   ShowNoProduct();
 }
 
@@ -31,11 +27,8 @@ void ProductPicker::OnSubcategoryChosen() {
   const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
   const std::optional<std::string> subcategory = form_.SelectedText(controls_.subcategory);
   if (!main_category || !subcategory) return;
-  form_.ClearItems(controls_.products);
-  for (const std::string_view name :
-       ListProducts(food_, controls_.layout, *main_category, *subcategory)) {
-    form_.AddItem(controls_.products, name);
-  }
+  form_.FillItems(controls_.products,
+                  ListProducts(food_, controls_.layout, *main_category, *subcategory));
 }
 
 void ProductPicker::OnProductChosen() {

@@ -75,6 +75,13 @@ const ProductRecord* FindInTables(const FoodTable& food, const auto& built_in, c
 
 }  // namespace
 
+std::vector<std::string_view> ListMainCategories(const FoodTable& food) {
+  std::vector<std::string_view> names;
+  std::ranges::transform(food.categories, std::back_inserter(names),
+                         &CategoryRecord::main_category);
+  return names;
+}
+
 std::vector<std::string_view> ListSubcategories(const FoodTable& food, Layout layout,
                                                 std::string_view main_category) {
   std::vector<std::string_view> names;

@@ -18,6 +18,9 @@ enum class Layout {
   kOverview,  // the products overview
 };
 
+// The names of the main categories, in table order.
+std::vector<std::string_view> ListMainCategories(const FoodTable& food);
+
 // The subcategory names offered under `main_category`, in slot order. The counter leaves out names
 // of one character or none; the overview leaves out unused slots only, so it offers the empty name
 // of "grain preserves". A main category that matches no row gives nothing.

@@ -32,8 +32,11 @@ void SearchDialog::OnCommand(Form& form, int id, int notification) {
 // Results of one search after the other stay in the list until it is reset.
 void SearchDialog::Find(Form& form) {
   const auto results = SearchProducts(food_, form.ReadText(kQuery, kQueryLimit));
-  for (const std::string& result : results) form.AddItem(kResults, result);
-  if (results.empty()) form.AddItem(kResults, kNotFound);
+  if (results.empty()) {
+    form.AddItem(kResults, kNotFound);
+  } else {
+    form.AddItems(kResults, Views(results));
+  }
   form.Focus(kFind);
 }
 

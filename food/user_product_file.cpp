@@ -26,11 +26,11 @@ std::optional<std::string_view> NameField(std::string_view line) {
 
 }  // namespace
 
-bool AppendUserProduct(const std::string& path, const ProductRecord& product) {
-  return AppendUserProducts(path, {&product, 1});
+bool AddUserProduct(const std::string& path, const ProductRecord& product) {
+  return AddUserProducts(path, {&product, 1});
 }
 
-bool AppendUserProducts(const std::string& path, std::span<const ProductRecord> products) {
+bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   std::string lines;
@@ -75,7 +75,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
   return false;
 }
 
-bool RemoveUserProducts(const std::string& path, std::string_view name) {
+bool RemoveUserProduct(const std::string& path, std::string_view name) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);

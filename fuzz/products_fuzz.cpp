@@ -87,7 +87,7 @@ void Remove(ProgramRun& run) {
     run.PressInDialog(kOkButton);
     const std::string left = run.Read(kFile);
     run.Write("copy", left);
-    Require(RemoveUserProducts(run.Path("copy"), name), "a file that can be written is written");
+    Require(RemoveUserProduct(run.Path("copy"), name), "a file that can be written is written");
     Require(run.Read("copy") == left, "what was removed is gone at once");
   }
   run.PressInDialog(kCancelButton);

@@ -11,7 +11,7 @@
 namespace velnor {
 namespace {
 
-constexpr Report kReports[] = {
+constexpr ReportFile kReports[] = {
     {4, "Reports overview - WEIGHT", "waga.ASC"},
     {5, "Reports overview - WHR", "whr.ASC"},
     {8, "Reports overview - CALORIE", "mirvo.ASC"},
@@ -23,10 +23,10 @@ constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
 
-std::span<const Report> Reports() { return kReports; }
+std::span<const ReportFile> Reports() { return kReports; }
 
-const Report* FindReport(ScreenId screen) {
-  const auto* const found = std::ranges::find(kReports, screen, &Report::screen);
+const ReportFile* FindReport(ScreenId screen) {
+  const auto* const found = std::ranges::find(kReports, screen, &ReportFile::screen);
   return found == std::end(kReports) ? nullptr : found;
 }
 

@@ -13,16 +13,16 @@
 
 namespace velnor {
 
-struct Report {
+struct ReportFile {
   ScreenId screen;  // of the viewer that shows it
   std::string_view title;
   std::string_view file_name;  // in the user's folder
 };
 
-std::span<const Report> Reports();
+std::span<const ReportFile> Reports();
 
 // The report of a screen; null when the screen shows none.
-const Report* FindReport(ScreenId screen);
+const ReportFile* FindReport(ScreenId screen);
 
 // So many bytes of a report file are shown at most.
 inline constexpr std::size_t kReportLimit = 29'999;

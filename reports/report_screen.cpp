@@ -28,12 +28,12 @@ ReportScreen::ReportScreen(const SessionState& session, Form& form, MainWindow& 
     : session_(session), form_(form), window_(window), message_boxes_(message_boxes) {}
 
 std::string ReportScreen::Path() const {
-  const Report* const report = FindReport(session_.screen);
+  const ReportFile* const report = FindReport(session_.screen);
   return report == nullptr ? "" : session_.UserFile(report->file_name);
 }
 
 void ReportScreen::Paint(Canvas& canvas) {
-  const Report* const report = FindReport(session_.screen);
+  const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
   canvas.DrawText({10, 30}, report->title);

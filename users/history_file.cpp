@@ -38,16 +38,6 @@ constexpr KindRow kKinds[] = {
 
 const KindRow& RowOf(HistoryKind kind) { return kKinds[static_cast<std::size_t>(kind)]; }
 
-std::string FigureText(std::optional<double> figure) {
-  if (!figure) return {};
-  std::string text = FormatNumber(std::isfinite(*figure) ? *figure : 0, kDigits);
-  // A mantissa of one digit keeps its point before the exponent, and a whole number at its end.
-  const std::size_t point = text.find('.');
-  const std::size_t behind = point + 1;
-  if (behind == text.size() || text[behind] == 'e') text.erase(point, 1);
-  return text == "-0" ? "0" : text;
-}
-
 std::string FieldText(std::string_view field) {
   if (field.find_first_of(";\"\r\n") == std::string_view::npos) return std::string(field);
   std::string quoted = "\"";
@@ -156,14 +146,24 @@ std::string_view HistoryWord(HistoryKind kind) { return RowOf(kind).word; }
 
 bool CountsInDay(HistoryKind kind) { return RowOf(kind).counts_in_day; }
 
+std::string HistoryFigure(std::optional<double> figure) {
+  if (!figure) return {};
+  std::string text = FormatNumber(std::isfinite(*figure) ? *figure : 0, kDigits);
+  // A mantissa of one digit keeps its point before the exponent, and a whole number at its end.
+  const std::size_t point = text.find('.');
+  const std::size_t behind = point + 1;
+  if (behind == text.size() || text[behind] == 'e') text.erase(point, 1);
+  return text == "-0" ? "0" : text;
+}
+
 std::string HistoryLine(const HistoryEntry& entry) {
   std::string line = entry.date + ';' + entry.time + ';';
   line += HistoryWord(entry.kind);
   line +=
-      ';' + FieldText(entry.name) + ';' + FigureText(entry.amount) + ';' + FieldText(entry.unit);
+      ';' + FieldText(entry.name) + ';' + HistoryFigure(entry.amount) + ';' + FieldText(entry.unit);
   for (const std::optional<double>& figure :
        {entry.kcal, entry.protein, entry.fat, entry.carbohydrate}) {
-    line += ';' + FigureText(figure);
+    line += ';' + HistoryFigure(figure);
   }
   return line + '\n';
 }

@@ -55,8 +55,11 @@ struct HistoryEntry {
   bool operator==(const HistoryEntry&) const = default;
 };
 
-// The line of an entry with its LF. Figures have a decimal point, at most eight digits and no point
-// at the end; one that is not finite is written as 0, and a missing one leaves its field empty.
+// A figure as a line holds it: with a decimal point, at most eight digits and no point at the end.
+// One that is not finite is written as 0, a missing one is empty.
+std::string HistoryFigure(std::optional<double> figure);
+
+// The line of an entry with its LF.
 std::string HistoryLine(const HistoryEntry& entry);
 
 // `date_text`, as DateText writes it ("5.3.2026"), in the order of the calendar: "2026-03-05". What

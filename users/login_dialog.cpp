@@ -30,7 +30,7 @@ void LoginDialog::OnOpen(Form& form) {
   session_.user_name.clear();
   const UserRegistry registry =
       ReadUserRegistry(session_.BaseFile(kRegistryFile)).value_or(UserRegistry());
-  for (const std::string& name : registry.names) form.AddItem(kUsers, name);
+  form.FillItems(kUsers, Views(registry.names));
 }
 
 void LoginDialog::OnCommand(Form& form, int id, int notification) {

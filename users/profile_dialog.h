@@ -24,6 +24,7 @@ class ProfileDialog final : public Dialog {
 
  private:
   void Save(Form& form);
+  bool WouldLoseWhatWasNotRead() const;
 
   bool was_read_ = false;  // what the file held
   SessionState& session_;

@@ -102,7 +102,7 @@ bool IsFolderName(std::string_view name) {
 }
 
 void CreateUserFiles(const SessionState& session, const std::string& user) {
-  MakeFolder(session.base_folder + user);
+  MakeFolder(session.FolderOf(user));
   for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
 }
 
@@ -115,10 +115,10 @@ void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const std::string_view file : {kCarbohydrateExchangeFile, kProteinFatExchangeFile}) {
     std::remove(TemporaryPath(session.FileOf(user, file)).c_str());
   }
-  for (const Report& report : Reports()) {
+  for (const ReportFile& report : Reports()) {
     DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
   }
-  if (!user.empty()) RemoveFolder(session.base_folder + user);
+  if (!user.empty()) RemoveFolder(session.FolderOf(user));
 }
 
 }  // namespace velnor

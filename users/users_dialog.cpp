@@ -31,6 +31,13 @@ UserRegistry Listed(const Form& form) {
   return registry;
 }
 
+// Users added behind a box move the entries below them. -1: the name is not listed any more.
+int IndexOf(const Form& form, std::string_view name) {
+  int index = form.ItemCount(kUsers) - 1;
+  while (index >= 0 && form.ItemText(kUsers, index) != name) --index;
+  return index;
+}
+
 }  // namespace
 
 UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes& message_boxes,
@@ -43,7 +50,7 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
 void UsersDialog::OnOpen(Form& form) {
   std::optional<UserRegistry> registry = ReadUserRegistry(session_.BaseFile(kRegistryFile));
   if (!registry) return;
-  for (const std::string& name : registry->names) form.AddItem(kUsers, name);
+  form.FillItems(kUsers, Views(registry->names));
   rest_of_registry_ = std::move(registry->rest);
 }
 
@@ -93,7 +100,9 @@ bool UsersDialog::Accept(const Form& form, const std::string& name) {
 }
 
 void UsersDialog::Remove(Form& form) {
+  // The question leaves the dialog usable: what it is about is settled before it is asked.
   const std::string name = form.ReadText(kName, kTypedLimit);
+  const std::optional<std::string> entry = form.SelectedText(kUsers);
   const Answer answer = message_boxes_.Show({.text = "Delete user??",
                                              .caption = "CAUTION",
                                              .buttons = MessageButtons::kYesNo,
@@ -106,7 +115,7 @@ void UsersDialog::Remove(Form& form) {
     Complain(kForbidden);
     return;
   }
-  form.RemoveSelectedItem(kUsers);
+  if (entry) form.RemoveItem(kUsers, IndexOf(form, *entry));
   DeleteUserFiles(session_, name);
   form.SetText(kName, "");
 
@@ -132,10 +141,7 @@ void UsersDialog::Confirm(Form& form) {
 }
 
 void UsersDialog::Complain(std::string_view text) {
-  message_boxes_.Show({.text = text,
-                       .caption = "ERROR!",
-                       .icon = MessageIcon::kNone,
-                       .owner = MessageOwner::kNone});
+  message_boxes_.Show({.text = text, .caption = "ERROR!", .owner = MessageOwner::kNone});
 }
 
 }  // namespace velnor

@@ -4,10 +4,12 @@
 #include <memory>
 #include <type_traits>
 
+#include "shell/win32/wide_path.h"
+
 namespace velnor {
 namespace {
 
-constexpr std::size_t kPathLimit = 1024;
+constexpr DWORD kPathLimit = 1024;
 
 struct LibraryCloser {
   void operator()(HMODULE library) const { FreeLibrary(library); }
@@ -22,25 +24,6 @@ std::wstring Wide(std::string_view text) {
   const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
   wide.resize(static_cast<std::size_t>(length));
   return wide;
-}
-
-// Nothing when the code page lacks a letter of the text.
-std::optional<std::string> Narrow(const std::wstring& wide) {
-  BOOL lossy = FALSE;
-  std::string text(wide.size() * 2, '\0');  // no code page of a system has longer letters but UTF-8
-  const int length =
-      WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.c_str(), static_cast<int>(wide.size()),
-                          text.data(), static_cast<int>(text.size()), nullptr, &lossy);
-  if (length <= 0 || lossy != FALSE) return std::nullopt;
-  text.resize(static_cast<std::size_t>(length));
-  return text;
-}
-
-std::wstring ShortPath(const std::wstring& path) {
-  std::wstring text(kPathLimit, L'\0');
-  const DWORD length = GetShortPathNameW(path.c_str(), text.data(), kPathLimit);
-  text.resize(length < kPathLimit ? length : 0);
-  return text;
 }
 
 }  // namespace
@@ -65,8 +48,7 @@ std::optional<std::string> PickFile(HWND owner, const FileKind& kind) {
   question.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   if (open_file_dialog(&question) == FALSE) return std::nullopt;
   path.resize(path.find(L'\0'));
-  const std::optional<std::string> narrow = Narrow(path);
-  return narrow ? narrow : Narrow(ShortPath(path));
+  return NarrowPath(path);
 }
 
 }  // namespace velnor

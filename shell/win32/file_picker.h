@@ -12,9 +12,9 @@
 
 namespace velnor {
 
-// Lets the person choose a file that there is, over `owner`, and waits. Its path in the machine's
-// own code page; a path with letters outside of it in the short form that the system keeps for it.
-// Nothing when none was chosen, or when there is no such dialog. The current folder stays.
+// Lets the person choose a file that there is, over `owner`, and waits. Its path as the program
+// writes it; nothing when none was chosen, or when there is no such dialog. The current folder
+// stays.
 std::optional<std::string> PickFile(HWND owner, const FileKind& kind);
 
 }  // namespace velnor

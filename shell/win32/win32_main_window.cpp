@@ -5,6 +5,7 @@
 
 #include "shell/win32/dialog_host.h"
 #include "shell/win32/file_picker.h"
+#include "shell/win32/wide_path.h"
 
 namespace velnor {
 namespace {
@@ -21,15 +22,6 @@ constexpr UINT kHelpPartialKey = 0x105;
 // The system rejects this background mode, so statics keep the opaque one they have; the colour
 // under their text is that of the surface.
 constexpr int kNoBackgroundMode = 255;
-
-std::string StartUpFolder() {
-  constexpr DWORD kLimit = 300;
-  std::string folder(kLimit, '\0');
-  const DWORD length = GetCurrentDirectoryA(kLimit, folder.data());
-  if (length == 0 || length >= kLimit) return ".\\";  // too long to be told: the same folder
-  folder.resize(length);
-  return folder + '\\';
-}
 
 std::string Today() {
   SYSTEMTIME now;

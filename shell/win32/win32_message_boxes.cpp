@@ -8,7 +8,7 @@ namespace {
 
 // By MessageButtons and by MessageIcon.
 constexpr std::array<UINT, 2> kButtons = {MB_OK, MB_YESNO};
-constexpr std::array<UINT, 3> kIcons = {MB_ICONINFORMATION, MB_ICONQUESTION, 0};
+constexpr std::array<UINT, 2> kIcons = {MB_ICONINFORMATION, MB_ICONQUESTION};
 
 }  // namespace
 

@@ -34,14 +34,14 @@ constexpr std::array<WPARAM, 4> kScrollCodes = {SB_LINEUP, SB_LINEDOWN, SB_PAGEU
 
 // List boxes and combo boxes do the same things under different message numbers.
 struct ListMessages {
-  UINT count, add, reset, selection, select, text_length, text;
+  UINT count, reserve, add, reset, selection, select, text_length, text;
 };
-constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,  LB_ADDSTRING, LB_RESETCONTENT,
-                                           LB_GETCURSEL, LB_SETCURSEL, LB_GETTEXTLEN,
-                                           LB_GETTEXT};
-constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,  CB_ADDSTRING, CB_RESETCONTENT,
-                                            CB_GETCURSEL, CB_SETCURSEL, CB_GETLBTEXTLEN,
-                                            CB_GETLBTEXT};
+constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,     LB_INITSTORAGE, LB_ADDSTRING,
+                                           LB_RESETCONTENT, LB_GETCURSEL,   LB_SETCURSEL,
+                                           LB_GETTEXTLEN,   LB_GETTEXT};
+constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,     CB_INITSTORAGE, CB_ADDSTRING,
+                                            CB_RESETCONTENT, CB_GETCURSEL,   CB_SETCURSEL,
+                                            CB_GETLBTEXTLEN, CB_GETLBTEXT};
 
 const ListMessages& MessagesOf(HWND control) {
   char name[16] = {};
@@ -51,16 +51,20 @@ const ListMessages& MessagesOf(HWND control) {
 }
 
 // A list box that scrolls sideways has to be told how wide its widest item is.
-void WidenTo(HWND list, std::string_view item) {
+void WidenTo(HWND list, std::span<const std::string_view> items) {
   constexpr LRESULT kMargin = 8;
   const HDC context = GetDC(list);
   const HGDIOBJ previous =
       SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
-  SIZE size = {};
-  GetTextExtentPoint32A(context, item.data(), static_cast<int>(item.size()), &size);
+  LRESULT widest = 0;
+  for (const std::string_view item : items) {
+    SIZE size = {};
+    GetTextExtentPoint32A(context, item.data(), static_cast<int>(item.size()), &size);
+    widest = std::max<LRESULT>(widest, size.cx);
+  }
   SelectObject(context, previous);
   ReleaseDC(list, context);
-  const LRESULT width = size.cx + kMargin;
+  const LRESULT width = widest + kMargin;
   if (width > SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0)) {
     SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
   }
@@ -78,6 +82,39 @@ bool IsFrame(HWND control) {
 }
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
+
+// Adds texts at the places the list gives them.
+void Append(HWND list, std::span<const std::string_view> texts) {
+  const ListMessages& messages = MessagesOf(list);
+  std::size_t bytes = 0;
+  for (const std::string_view text : texts) bytes += text.size() + 1;
+  SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
+  std::string item;  // ended by a NUL, as the platform reads it
+  for (const std::string_view text : texts) {
+    item = text;
+    SendMessageA(list, messages.add, 0, ToParameter(item.c_str()));
+  }
+  if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
+}
+
+// While it lives, a list is not drawn; then it is, once. A hidden one is left alone: nothing of it
+// is drawn anyway, and allowing it to be drawn again would show it.
+class DrawnAtTheEnd {
+ public:
+  explicit DrawnAtTheEnd(HWND list) : list_(IsShown(list) ? list : nullptr) {
+    if (list_ != nullptr) SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
+  }
+  DrawnAtTheEnd(const DrawnAtTheEnd&) = delete;
+  DrawnAtTheEnd& operator=(const DrawnAtTheEnd&) = delete;
+  ~DrawnAtTheEnd() {
+    if (list_ == nullptr) return;
+    SendMessageA(list_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list_, nullptr, TRUE);
+  }
+
+ private:
+  HWND list_;
+};
 
 }  // namespace
 
@@ -102,10 +139,15 @@ int WindowForm::ItemCount(int id) const {
   return static_cast<int>(std::max<LRESULT>(count, 0));
 }
 
-void WindowForm::AddItem(int id, std::string_view text) {
-  const HWND control = Control(id);
-  SendMessageA(control, MessagesOf(control).add, 0, ToParameter(std::string(text).c_str()));
-  if ((GetWindowLongA(control, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(control, text);
+void WindowForm::FillItems(int id, std::span<const std::string_view> texts) {
+  const DrawnAtTheEnd drawn_at_the_end(Control(id));
+  ClearItems(id);
+  Append(Control(id), texts);
+}
+
+void WindowForm::AddItems(int id, std::span<const std::string_view> texts) {
+  const DrawnAtTheEnd drawn_at_the_end(Control(id));
+  Append(Control(id), texts);
 }
 
 void WindowForm::ClearItems(int id) {
@@ -140,9 +182,12 @@ std::optional<std::string> WindowForm::SelectedText(int id) const {
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
-  const HWND control = Control(id);
-  const LRESULT selection = SendMessageA(control, LB_GETCURSEL, 0, 0);
-  if (selection >= 0) SendMessageA(control, LB_DELETESTRING, static_cast<WPARAM>(selection), 0);
+  const LRESULT selection = SendMessageA(Control(id), LB_GETCURSEL, 0, 0);
+  RemoveItem(id, static_cast<int>(selection));
+}
+
+void WindowForm::RemoveItem(int id, int index) {
+  if (index >= 0) SendMessageA(Control(id), LB_DELETESTRING, static_cast<WPARAM>(index), 0);
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }

@@ -22,12 +22,14 @@ class WindowForm : public Form {
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   int ItemCount(int id) const override;
-  void AddItem(int id, std::string_view text) override;
+  void FillItems(int id, std::span<const std::string_view> texts) override;
+  void AddItems(int id, std::span<const std::string_view> texts) override;
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
+  void RemoveItem(int id, int index) override;
   void Focus(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -76,6 +77,21 @@ TEST_F(FakeFormTest, TheSelectionStaysOnItsItem) {
   form_.AddItem(109, "figs");
   form_.AddItem(109, "plums");
   EXPECT_EQ(form_.SelectedText(109), "pears");
+}
+
+TEST_F(FakeFormTest, FillingReplacesAndAddingAdds) {
+  const std::vector<std::string_view> fruits = {"pears", "figs"};
+  form_.AddItem(109, "plums");
+  form_.Choose(109, "plums");
+  form_.AddItems(109, fruits);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"figs", "pears", "plums"}));
+  EXPECT_EQ(form_.SelectedText(109), "plums");
+  form_.FillItems(109, fruits);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"figs", "pears"}));
+  EXPECT_EQ(form_.SelectedText(109), std::nullopt);
+  EXPECT_EQ(form_.Fills(109), 3);
+  form_.FillItems(109, {});
+  EXPECT_EQ(form_.ItemCount(109), 0);
 }
 
 TEST_F(FakeFormTest, ReadsNoMoreThanTheLimit) {

@@ -67,6 +67,7 @@ TEST_F(PeopleTest, ANameNeedsASign) {
   ASSERT_EQ(boxes_.shown.size(), 1U);
   EXPECT_EQ(boxes_.shown[0].text, "The name of the user must\ncontain at least 1 sign");
   EXPECT_EQ(boxes_.shown[0].caption, "ERROR!");
+  EXPECT_EQ(boxes_.shown[0].icon, MessageIcon::kInformation);
   EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kNone);
   EXPECT_EQ(users_.ItemCount(700), 0);
 }
@@ -112,7 +113,7 @@ TEST_F(PeopleTest, ARegisteredNameIsTakenAgainAndItsFilesBecomeEmpty) {
 TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   Start();
   Register("Ann");
-  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt", "bilans.ASC.new"}) {
+  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt"}) {
     folder_.Write(std::string("Ann/") + file, "x");
   }
   OpenUsers();
@@ -130,6 +131,32 @@ TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
   users_.Press(1);
   EXPECT_EQ(Registry(), "");
+}
+
+// The box has no owner: the dialog behind it can be used.
+TEST_F(PeopleTest, TheQuestionIsAboutTheNameAndTheEntryItWasAskedFor) {
+  Start();
+  for (const char* const name : {"Ann", "Cid"}) Register(name);
+  OpenUsers();
+  users_.Choose(700, "Ann");
+  boxes_.while_open = [this] { users_.Choose(700, "Cid"); };
+  users_.Press(703);
+  EXPECT_EQ(users_.Items(700), (Texts{"Cid"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Cid", "users.ASC"}));
+}
+
+TEST_F(PeopleTest, AUserAddedBehindTheQuestionDoesNotLeaveTheListInsteadOfTheRemovedOne) {
+  Start();
+  for (const char* const name : {"Bob", "Cid"}) Register(name);
+  OpenUsers();
+  users_.Choose(700, "Bob");
+  boxes_.while_open = [this] {
+    users_.SetText(701, "Ann");
+    users_.Press(702);
+  };
+  users_.Press(703);
+  EXPECT_EQ(users_.Items(700), (Texts{"Ann", "Cid"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "Cid", "users.ASC"}));
 }
 
 TEST_F(PeopleTest, NoRemovesNothing) {

@@ -16,7 +16,8 @@ constexpr std::uint32_t kPlain = control_style::kPlain;
 const std::string kTooShort = "ATTENTION! The name of product must be 4-signs long miniumum!";
 const std::string kIncomplete = "Product wasn`t added to database\nSome data are incorrect";
 const std::string kLetters =
-    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+    "New product was NOT added to database\nCheck your data. There might be letters instead of "
+    "numbers";
 const std::string kAdded = "New product was added to database";
 
 class AddProductTest : public ProgramTest {
@@ -307,6 +308,17 @@ TEST_F(RemoveProductTest, TheProductIsGoneFromTheListsAtOnce) {
   form_.Choose(124, "fruits");
   form_.Choose(125, "fresh");
   EXPECT_EQ(form_.ItemCount(126), 29);
+}
+
+// The dialog behind the question can be used.
+TEST_F(RemoveProductTest, WhatIsSelectedWhenTheQuestionIsAnsweredGoes) {
+  folder_.Write("data.txt", kPie + kFig);
+  Open();
+  dialog_.Choose(739, "apple pie");
+  boxes_.while_open = [this] { dialog_.Choose(739, "figs"); };
+  dialog_.Press(1);
+  EXPECT_EQ(folder_.Read("data.txt"), kPie);
+  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie"}));
 }
 
 TEST_F(RemoveProductTest, NoRemovesNothing) {

@@ -28,6 +28,13 @@ bool FakeForm::Control::IsSorted() const {
          (control_class == ControlClass::kComboBox && (style & control_style::kSortedCombo) != 0);
 }
 
+void FakeForm::Control::Insert(const std::string& item) {
+  const auto place = IsSorted() ? std::ranges::lower_bound(items, item, ComesBefore) : items.end();
+  const auto index = place - items.begin();
+  items.insert(place, item);
+  if (selection >= index) ++selection;
+}
+
 void FakeForm::AddMainWindowControls() {
   for (const ControlRow& row : MainWindowControls()) {
     const bool taken = controls_.contains(row.id);
@@ -63,6 +70,8 @@ void FakeForm::Press(int id) { Notify(id, kButtonClicked); }
 
 const std::vector<std::string>& FakeForm::Items(int id) const { return Find(id)->items; }
 
+int FakeForm::Fills(int id) const { return Find(id)->fills; }
+
 std::set<int> FakeForm::ShownKeys() const {
   std::set<int> keys;
   for (const auto& [key, control] : controls_) {
@@ -97,16 +106,16 @@ int FakeForm::ItemCount(int id) const {
   return control == nullptr ? 0 : static_cast<int>(control->items.size());
 }
 
-void FakeForm::AddItem(int id, std::string_view text) {
+void FakeForm::FillItems(int id, std::span<const std::string_view> texts) {
+  ClearItems(id);
+  AddItems(id, texts);
+}
+
+void FakeForm::AddItems(int id, std::span<const std::string_view> texts) {
   Control* const control = Find(id);
   if (control == nullptr) return;
-  const std::string item(text);
-  const auto place = control->IsSorted()
-                         ? std::ranges::lower_bound(control->items, item, ComesBefore)
-                         : control->items.end();
-  const auto index = place - control->items.begin();
-  control->items.insert(place, item);
-  if (control->selection >= index) ++control->selection;
+  for (const std::string_view text : texts) control->Insert(std::string(text));
+  ++control->fills;
 }
 
 void FakeForm::ClearItems(int id) {
@@ -132,10 +141,16 @@ std::optional<std::string> FakeForm::SelectedText(int id) const {
 }
 
 void FakeForm::RemoveSelectedItem(int id) {
+  const Control* const control = Find(id);
+  if (control != nullptr) RemoveItem(id, control->selection);
+}
+
+void FakeForm::RemoveItem(int id, int index) {
   Control* const control = Find(id);
-  if (control == nullptr || control->selection < 0) return;
-  control->items.erase(control->items.begin() + control->selection);
-  control->selection = -1;
+  if (control == nullptr || index < 0 || index >= ItemCount(id)) return;
+  control->items.erase(control->items.begin() + index);
+  if (control->selection == index) control->selection = -1;
+  if (control->selection > index) --control->selection;
 }
 
 void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }

@@ -40,6 +40,8 @@ class FakeForm final : public Form {
   std::string Text(int id) const { return ReadText(id, std::string::npos); }
   const std::vector<std::string>& Items(int id) const;
   std::set<int> ShownKeys() const;
+  // How often the list was filled or added to: every time, a person sees it drawn.
+  int Fills(int id) const;
   // Of a multi-line edit, counted from 0. It shows kVisibleLines of them.
   int FirstVisibleLine(int id) const;
   static constexpr int kVisibleLines = 30;
@@ -49,12 +51,14 @@ class FakeForm final : public Form {
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   int ItemCount(int id) const override;
-  void AddItem(int id, std::string_view text) override;
+  void FillItems(int id, std::span<const std::string_view> texts) override;
+  void AddItems(int id, std::span<const std::string_view> texts) override;
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
+  void RemoveItem(int id, int index) override;
   void Focus(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
@@ -67,11 +71,13 @@ class FakeForm final : public Form {
     std::uint32_t style;
     std::string text;
     std::vector<std::string> items;
+    int fills = 0;
     int selection = -1;
     int first_line = 0;
     bool shown = false;
 
     bool IsSorted() const;
+    void Insert(const std::string& item);
   };
 
   Control* Find(int key);

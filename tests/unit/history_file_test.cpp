@@ -99,7 +99,8 @@ TEST(HistoryReaderTest, ReadsPastWhatIsNoEntryAndCountsIt) {
       "2026-11-21;13:05:09;food;x;1;g;1e999;1;1;1",
   };
   for (const std::string& line : bad) {
-    const std::string bytes = good + line + '\n' + good;
+    std::string bytes = good;
+    bytes.append(line).append("\n").append(good);
     HistoryReader reader(bytes);
     EXPECT_TRUE(reader.Next()) << line;
     EXPECT_TRUE(reader.Next()) << line;

@@ -218,7 +218,7 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
                                    ",12345.75,12345.75,12345.75,12345.75,12345.75," +
                                    std::string(row.main_category) + ',' + std::string(subcategory));
       ASSERT_EQ(plan.products.size(), 1U) << row.main_category << ' ' << subcategory;
-      ASSERT_TRUE(AppendUserProduct(path, plan.products[0].AsRecord()));
+      ASSERT_TRUE(AddUserProduct(path, plan.products[0].AsRecord()));
       food_.user_products.Load(path);
       ASSERT_EQ(food_.user_products.products().size(), 1U);
       EXPECT_EQ(food_.user_products.products()[0].carbohydrate, "12345.75");
@@ -227,7 +227,7 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
         EXPECT_EQ(std::ranges::count(listed, name), 1) << row.main_category << ' ' << subcategory;
         EXPECT_EQ(FindProduct(food_, layout, name), food_.user_products.products().data());
       }
-      ASSERT_TRUE(RemoveUserProducts(path, name));
+      ASSERT_TRUE(RemoveUserProduct(path, name));
       food_.user_products.Load(path);
       EXPECT_TRUE(food_.user_products.products().empty());
     }
