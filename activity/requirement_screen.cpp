@@ -103,26 +103,26 @@ RequirementBounds RequirementScreen::DayBounds() const {
 
 void RequirementScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kHeadingFont);
-  canvas.DrawText({10, 30}, "Daily request");
+  canvas.WriteText({10, 30}, "Daily request");
   canvas.SetTextColour(kOrange);
-  canvas.DrawText({540, 65}, "User settings");
+  canvas.WriteText({540, 65}, "User settings");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kIntroduction);
+  WriteTexts(canvas, kIntroduction);
   canvas.SetTextColour(kRed);
   const int age = ParseInteger(profile_.age);
   if (age < kYoungestGrouped) {
-    DrawTexts(canvas, kChildNote);
+    WriteTexts(canvas, kChildNote);
   } else if (profile_.IsAthlete()) {
-    DrawTexts(canvas, kAthleteNote);
+    WriteTexts(canvas, kAthleteNote);
   }
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kLabels);
+  WriteTexts(canvas, kLabels);
   canvas.SetFont(kSetupsFont);
   canvas.SetTextColour(kDarkBlue);
   const PlacedText& setups = limits_active_ ? kActive : kInactive;
-  canvas.DrawText(setups.at, setups.text);
+  canvas.WriteText(setups.at, setups.text);
   ShowRequirement();
   ShowLimits();
 }

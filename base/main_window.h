@@ -40,6 +40,12 @@ class MainWindow {
   // leaves none that gets them.
   virtual void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
 
+  // The same for a dialog that works on the data of the user who is logged in.
+  virtual void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
+  // Closes the open ones among these as their cancel buttons do, also one that waits for the answer
+  // to a box of its own, which goes with it.
+  virtual void CloseSessionDialogs() = 0;
+
   // Opens the dialog template `resource_id` and waits until it is closed.
   virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
 

@@ -57,7 +57,8 @@ void AddProductDialog::OnCommand(Form& form, int id, int notification) {
 void AddProductDialog::OfferSubcategories(Form& form) {
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  std::vector<std::string_view> names = ListSubcategories(food_, Layout::kOverview, main_category);
+  std::vector<std::string_view> names =
+      ListSubcategories(food_, Matching::kOverview, main_category);
   std::erase_if(names, [](std::string_view name) { return name.size() <= 1; });
   form.FillItems(kSubcategory, names);
 }
@@ -86,7 +87,7 @@ void AddProductDialog::Add(Form& form) {
   } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
     message_boxes_.Show({.text = kNotNumbers});
   } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
-                                       carbohydrate})) {
+                                    carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
     form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");

@@ -33,7 +33,7 @@ constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein
 constexpr std::size_t kNumberLimit = 30;
 constexpr std::size_t kLineLimit = 150;
 
-constexpr std::string_view kNothing = "0";
+constexpr std::string_view kZero = "0";
 
 // The system's own text, as it stands.
 constexpr std::string_view kTooLight = "Choose some product from the list or change weight!";
@@ -100,12 +100,12 @@ void FoodListPanel::ClearList() {
   const TotalTexts totals = Totals(kNumberLimit);
   const DayTotals amounts = {ParseNumber(totals.kcal), ParseNumber(totals.protein),
                              ParseNumber(totals.fat), ParseNumber(totals.carbohydrate)};
-  if (ChangeDay(-amounts, true)) Empty(kNothing);
+  if (ChangeDay(-amounts, true)) Empty(kZero);
 }
 
 void FoodListPanel::ClearDay() {
   if (day_.Clear()) {
-    Empty(kNothing);
+    Empty(kZero);
   } else {
     ReportFailedWrite();
   }

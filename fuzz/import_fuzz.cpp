@@ -31,10 +31,8 @@ void RequireSound(const ImportPlan& plan) {
 }
 
 void RequireEqual(const ProductRecord& read, const ProductRecord& planned) {
-  Require(read.main_category == planned.main_category && read.subcategory == planned.subcategory &&
-              read.name == planned.name && read.mass == planned.mass && read.kcal == planned.kcal &&
-              read.protein == planned.protein && read.fat == planned.fat &&
-              read.carbohydrate == planned.carbohydrate,
+  Require(std::ranges::all_of(kProductFields,
+                              [&](auto field) { return read.*field == planned.*field; }),
           "what was planned is read back");
   Require(read.name.size() >= kShortestProductName && read.name.size() <= kRemovableNameLimit,
           "a name can be added and removed");

@@ -36,13 +36,13 @@ void ReportScreen::Paint(Canvas& canvas) {
   const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, report->title);
+  canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
   shown_.path = Path();
   shown_.bytes = LoadReport(shown_.path);
   if (HasRest(shown_.path)) {
-    canvas.DrawText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
+    canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
   }
   // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
   // so it gets none when it has the right one.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
-#include <limits>
 
 #include "base/file_calls.h"
 #include "base/text_file.h"
@@ -57,8 +56,7 @@ std::size_t WholeNamesEnd(std::string_view text) {
 }  // namespace
 
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path) {
-  const std::optional<std::string> read =
-      ReadFileToRewrite(path, std::numeric_limits<std::size_t>::max());
+  const std::optional<std::string> read = ReadFileToRewrite(path, kWholeFile);
   if (!read) return std::nullopt;
   const std::string& text = *read;
   const std::size_t end = WholeNamesEnd(text);

@@ -23,11 +23,7 @@ const std::string kHeadings = "name,kcal,protein,fat,carbohydrate\n";
 std::string LineOf(const ImportedProduct& product) {
   std::string line;
   const ProductRecord record = product.AsRecord();
-  for (const std::string_view field :
-       {record.main_category, record.subcategory, record.name, record.mass, record.kcal,
-        record.protein, record.fat, record.carbohydrate}) {
-    line.append(field) += ';';
-  }
+  for (const auto field : kProductFields) line.append(record.*field) += ';';
   return line;
 }
 
