@@ -62,9 +62,13 @@ class UserProductTable {
   // The products in use, in the order of the file.
   std::span<const ProductRecord> products() const { return products_; }
 
+  // How many more lines the file can have that are read.
+  std::size_t free_slots() const { return free_slots_; }
+
  private:
   std::string text_;
   std::vector<ProductRecord> products_;
+  std::size_t free_slots_ = kSlots;
 };
 
 // Splits a line of the user products file at ";" into the eight fields. Missing fields are empty,

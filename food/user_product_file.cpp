@@ -25,17 +25,23 @@ std::optional<std::string_view> NameField(std::string_view line) {
 }  // namespace
 
 bool AddUserProduct(const std::string& path, const ProductRecord& product) {
+  return AddUserProducts(path, {&product, 1});
+}
+
+bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
-  std::string line;
+  std::string lines;
   // Someone who edited the file by hand may have left its last line open.
-  if (!text->empty() && text->back() != '\n') line += '\n';
-  for (const auto field : kProductFields) {
-    line += product.*field;
-    line += ';';
+  if (!text->empty() && text->back() != '\n') lines += '\n';
+  for (const ProductRecord& product : products) {
+    for (const auto field : kProductFields) {
+      lines += product.*field;
+      lines += ';';
+    }
+    lines += '\n';
   }
-  line += '\n';
-  return AppendToFile(path, line);
+  return AppendToFile(path, lines);
 }
 
 std::vector<std::string> ReadUserProductNames(const std::string& path) {

@@ -26,7 +26,7 @@ void UserProductTable::Load(const std::string& path) {
   products_.clear();
   text_ = ReadFile(path, kReadLimit);
   LineReader lines(text_, kLineLimit);
-  for (std::size_t slot = 0; slot < kSlots; ++slot) {
+  for (free_slots_ = kSlots; free_slots_ > 0; --free_slots_) {
     const std::optional<std::string_view> line = lines.Next();
     if (!line) break;
     if (line->size() > kShortLine) products_.push_back(SplitProductLine(*line));

@@ -6,6 +6,7 @@
 #include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
 #include "shell/win32/fault_barrier.h"
+#include "shell/win32/file_picker.h"
 #include "shell/win32/wide_path.h"
 
 namespace velnor {
@@ -220,6 +221,16 @@ void Win32MainWindow::CloseSessionDialogs() {
 
 void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
   RunModalDialog(instance_, window_, resource_id, dialog);
+}
+
+// The dialog waits like a box of its own; the window behind it has to as well, or the program could
+// be left while the person is choosing.
+std::optional<std::string> Win32MainWindow::ChooseFile(const FileKind& kind) {
+  const HWND active = GetActiveWindow();
+  EnableWindow(window_, FALSE);
+  std::optional<std::string> path = PickFile(active != nullptr ? active : window_, kind);
+  EnableWindow(window_, TRUE);
+  return path;
 }
 
 void Win32MainWindow::OpenHelp(std::string_view file_name) {

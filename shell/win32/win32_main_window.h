@@ -38,6 +38,7 @@ class Win32MainWindow final : public MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override;
   void OpenHelp(std::string_view file_name) override;
 
  private:

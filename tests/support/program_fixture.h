@@ -37,6 +37,10 @@ class FakeMainWindow final : public MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override {
+    log.push_back("choose " + std::string(kind.patterns));
+    return file_to_choose;
+  }
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
   }
@@ -45,6 +49,7 @@ class FakeMainWindow final : public MainWindow {
   void UseForm(FakeForm& form);
 
   std::vector<std::string> log;
+  std::optional<std::string> file_to_choose;  // what the person will choose
   std::function<void()> on_paint_now;
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::shared_ptr<Dialog> opened;  // the last one
