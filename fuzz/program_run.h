@@ -104,6 +104,7 @@ class ProgramRun final : private MainWindow {
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void RunDialog(int resource_id, Dialog& dialog) override;
   void OpenHelp(std::string_view) override {}
+  [[nodiscard]] bool OpenInBrowser(const std::string&) override { return true; }
 
   void RequireNumbers(const RecordingCanvas& canvas) const;
 

@@ -36,6 +36,7 @@ class Win32MainWindow final : public MainWindow {
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void RunDialog(int resource_id, Dialog& dialog) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);

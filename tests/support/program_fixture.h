@@ -38,7 +38,12 @@ class FakeMainWindow final : public MainWindow {
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
   }
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override {
+    log.push_back("browse " + path);
+    return has_browser;
+  }
 
+  bool has_browser = true;
   std::vector<std::string> log;
   std::function<void()> on_paint_now;
   std::map<int, bool> menu;        // command to whether it can be chosen
