@@ -74,8 +74,9 @@ std::string DrawCaloriePlot(const PlotInput& input, std::span<const DiaryDay> da
   drawing.Path(beyond, "beyond");
   const ThinnedValues line = ThinOut(WeekMeans(eaten, input.range), shape, input.range);
   const SvgPath curve = CurveThrough(line.values, time, panel, line.step);
-  drawing.Path(curve, "casing");
-  drawing.Path(curve, "smooth");
+  const bool is_dense = buckets.size() < static_cast<std::size_t>(input.range.Days());
+  drawing.Path(curve, is_dense ? "casing thin" : "casing");
+  drawing.Path(curve, is_dense ? "smooth thin" : "smooth");
   DrawTimeAxis(drawing, shape, panel, time);
   if (is_empty) DrawNothing(drawing, shape, panel, "Nothing was entered in these days");
   return drawing.Finish();

@@ -125,7 +125,7 @@ std::string MonthRow(const MonthSum& month) {
 
 constexpr std::string_view kMonthsHead =
     "<h3 class=\"month\">Earlier months</h3>\n<p class=\"note\">Their days are in the two tables "
-    "beside this page.</p>\n<div class=\"card month\"><table><thead><tr>"
+    "beside this page.</p>\n<div class=\"card month\"><table class=\"months\"><thead><tr>"
     "<th scope=\"col\">Month</th><th scope=\"col\">Days</th><th scope=\"col\">kcal a day</th>"
     "<th scope=\"col\" class=\"grams-column\">Protein, g</th>"
     "<th scope=\"col\" class=\"grams-column\">Fat, g</th>"

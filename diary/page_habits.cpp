@@ -26,7 +26,8 @@ std::string Weekdays(const DiaryContent& content) {
                    NumberText(means[i].kcal) + " kcal.";
   }
   std::string text = "<figure>\n<figcaption><h3>Weekdays</h3><p>" + lead + ".</p></figcaption>\n";
-  for (const PlotShape& shape : kPlotShapes) {
+  for (const PlotShape& any_shape : kPlotShapes) {
+    const PlotShape shape = WithoutRightAxis(any_shape);
     text += DrawWeekdayPlot(
         shape, {.id = "weekdays", .title = "Weekdays compared", .description = description}, means,
         content.Needed(kCaloriesLower));

@@ -67,17 +67,20 @@ class RangePanel {
 
  private:
   // Both shapes of a plot. `draw` gets the input of each.
-  std::string Draw(std::string_view id, std::string_view title, const std::string& lead,
-                   const auto& draw) const {
+  std::string Draw(const PlotHead& head, bool has_right_axis, const auto& draw) const {
     std::string text;
-    for (const PlotShape& shape : kPlotShapes) {
-      const PlotHead head = {.id = std::string(id) + std::string(row_.id),
-                             .title = std::string(title) + ", " + DayWords(range_.first) + " to " +
-                                      DayWords(range_.last),
-                             .description = lead};
+    for (const PlotShape& any_shape : kPlotShapes) {
+      const PlotShape shape = has_right_axis ? any_shape : WithoutRightAxis(any_shape);
       text += draw(PlotInput{shape, head, range_});
     }
     return text;
+  }
+
+  PlotHead Head(std::string_view id, std::string_view title, const std::string& lead) const {
+    return {.id = std::string(id) + std::string(row_.id),
+            .title =
+                std::string(title) + ", " + DayWords(range_.first) + " to " + DayWords(range_.last),
+            .description = lead};
   }
 
   double MeanKcal() const {
@@ -114,7 +117,7 @@ class RangePanel {
     const std::span<const DiaryDay> days =
         DaysOf(content_.table, {range_.first - kWeekDays + 1, range_.last});
     return Figure("Calories", lead, rows.first(needed_.IsKnown() ? 3 : 2),
-                  Draw("kcal", "Calories", lead, [&](const PlotInput& input) {
+                  Draw(Head("kcal", "Calories", lead), false, [&](const PlotInput& input) {
                     return DrawCaloriePlot(input, days, needed_);
                   }));
   }
@@ -135,7 +138,7 @@ class RangePanel {
     constexpr std::array<KeyRow, 3> kKey = {
         {{"blue", "protein, below"}, {"vermilion", "fat"}, {"purple", "carbohydrate, above"}}};
     return Figure("Where the energy comes from", lead, kKey,
-                  Draw("share", "Protein, fat and carbohydrate", lead,
+                  Draw(Head("share", "Protein, fat and carbohydrate", lead), false,
                        [&](const PlotInput& input) { return DrawSharePlot(input, days_); }));
   }
 
@@ -153,6 +156,7 @@ class RangePanel {
         lead += ", BMI " + NumberText(weights.back().value / square, 1);
       }
       lead += ". ";
+      lead += BeyondText(weights);
     }
     lead += content_.trend.empty()
                 ? "A trend needs " + std::to_string(kLeastTrendPoints) + " weights."
@@ -160,9 +164,21 @@ class RangePanel {
                       " weights that no single day can bend.";
     constexpr std::array<KeyRow, 2> kKey = {
         {{"blue dot", "a weight"}, {"vermilion line", "trend"}}};
-    return Figure("Weight", lead, kKey, Draw("weight", "Weight", lead, [&](const PlotInput& input) {
+    return Figure("Weight", lead, kKey,
+                  Draw(Head("weight", "Weight", lead), true, [&](const PlotInput& input) {
                     return DrawWeightPlot(input, content_.weights, content_.trend, content_.height);
                   }));
+  }
+
+  std::string BeyondText(std::span<const DayValue> weights) const {
+    const std::optional<ValueAxis> axis =
+        WeightAxis(kPlotShapes.front(), range_, weights, content_.trend);
+    const auto beyond =
+        static_cast<std::size_t>(std::ranges::count_if(weights, [&](const DayValue& weight) {
+          return weight.value > axis->high || weight.value < axis->low;
+        }));
+    if (beyond == 0) return {};
+    return CountText(beyond, "weight", "weights") + " beyond the scale, marked at its end. ";
   }
 
   std::string Deficit() const {
@@ -178,12 +194,11 @@ class RangePanel {
         " kcal, and burned by activities, less what was eaten, added up over the days with foods.";
     const std::optional<TrendChange> change = ChangeWithin(content_.trend, range_);
     const std::string facts =
-        "<dl class=\"facts\">" + Fact("Eaten", NumberText(MeanKcal()) + " kcal a day") +
-        Fact("Needed and burned",
-             NumberText(needed_.Middle()) + " + " + NumberText(burned / count) + " kcal a day") +
-        Fact("Sum of the deficit", SignedNumberText(sum) + " kcal, as much as " +
-                                       NumberText(std::abs(sum) / kFatEnergy, 1) +
-                                       " kg of body fat") +
+        "<dl class=\"facts\">" + Fact("Eaten a day", NumberText(MeanKcal()) + " kcal") +
+        Fact("Needed and burned a day",
+             NumberText(needed_.Middle()) + " + " + NumberText(burned / count) + " kcal") +
+        Fact("Sum of the deficit", SignedNumberText(sum) + " kcal",
+             "the energy of " + NumberText(std::abs(sum) / kFatEnergy, 1) + " kg of body fat") +
         Fact("Trend of the weight",
              change ? SignedNumberText(change->kilograms, 1) + " kg" : std::string("not known")) +
         "</dl>\n";
@@ -192,13 +207,15 @@ class RangePanel {
          {"vermilion line", "trend of the weight"}}};
     return Figure(
         "Deficit and weight", lead, kKey,
-        Draw("deficit", "Sum of the deficit, and weight", lead, [&](const PlotInput& input) {
-          return DrawDeficitPlot(input, sums, content_.trend);
-        }) + facts);
+        Draw(Head("deficit", "Sum of the deficit, and weight", lead), false,
+             [&](const PlotInput& input) { return DrawDeficitPlot(input, sums, content_.trend); }) +
+            facts);
   }
 
-  static std::string Fact(std::string_view what, const std::string& value) {
-    return "<div><dt>" + std::string(what) + "</dt><dd>" + value + "</dd></div>";
+  static std::string Fact(std::string_view what, const std::string& value,
+                          const std::string& more = "") {
+    return "<div><dt>" + std::string(what) + "</dt><dd>" + value +
+           (more.empty() ? "" : "<small>" + more + "</small>") + "</dd></div>";
   }
 
   const DiaryContent& content_;

@@ -10,11 +10,12 @@ namespace {
 constexpr std::string_view kRules = R"(
 *{box-sizing:border-box}
 html{-webkit-text-size-adjust:100%;text-size-adjust:100%}
-body{margin:0;background:var(--page);color:var(--ink);overflow-wrap:anywhere;
+body{margin:0;background:var(--page);color:var(--ink);overflow-wrap:break-word;
  font:16px/1.5 system-ui,-apple-system,"Segoe UI",Roboto,"Liberation Sans",Arial,sans-serif;
  font-variant-numeric:tabular-nums}
 main,header,footer{max-width:1000px;margin:0 auto;padding:0 20px}
 header{padding-top:44px;padding-bottom:8px}
+h1,h3,.deeds,.rank span{overflow-wrap:anywhere}
 h1{font-size:34px;line-height:1.15;font-weight:650;letter-spacing:-.02em;margin:0 0 6px}
 h2{font-size:21px;line-height:1.3;font-weight:650;letter-spacing:-.01em;margin:52px 0 16px}
 h3{font-size:16px;line-height:1.35;font-weight:650;margin:0}
@@ -66,6 +67,7 @@ svg.narrow{display:none}
 svg path{fill:none;stroke-linecap:butt;stroke-linejoin:round}
 .label,.unit,.nothing{fill:var(--soft)}
 .number{fill:var(--ink);paint-order:stroke;stroke:var(--card);stroke-width:4px;stroke-linejoin:round;font-weight:600}
+.narrow .number{font-size:10.5px}
 .nothing{font-size:15px}
 svg .grid{stroke:var(--rule)}
 svg .axis{stroke:var(--axis)}
@@ -77,6 +79,8 @@ svg .fat{stroke:var(--vermilion)}
 svg .carbohydrate{stroke:var(--purple)}
 svg .casing{stroke:var(--card);stroke-width:6;stroke-linecap:round}
 svg .smooth{stroke:var(--vermilion);stroke-width:2.8;stroke-linecap:round}
+svg .thin.casing{stroke-width:3.6}
+svg .thin.smooth{stroke-width:1.6}
 svg .sum{stroke:var(--purple);stroke-width:2.8;stroke-linecap:round}
 svg .points{stroke:var(--blue);stroke-width:6;stroke-linecap:round}
 svg .points.small{stroke-width:3.6}
@@ -85,6 +89,7 @@ svg .beyond{fill:var(--blue)}
 .facts{display:grid;grid-template-columns:repeat(4,minmax(0,1fr));gap:12px 24px;margin:18px 0 0}
 .facts dt{font-size:13.5px;color:var(--soft)}
 .facts dd{margin:0;font-weight:650}
+.facts dd small{display:block;font-size:13.5px;font-weight:400;color:var(--soft)}
 .pair{display:grid;grid-template-columns:repeat(2,minmax(0,1fr));gap:16px;margin-top:16px}
 .pair .card+.card{margin-top:0}
 .rank{list-style:none;margin:12px 0 0;padding:0;font-size:15px}
@@ -108,11 +113,13 @@ summary .burned,summary .weight{text-align:right}
 summary .soft{font-size:14px}
 .foods{padding:0 18px 16px}
 table{border-collapse:collapse;width:100%;font-size:14px}
-th{font-weight:400;color:var(--soft);font-size:13px;text-align:right;padding:4px 0 4px 14px;border-bottom:1px solid var(--rule)}
+th{font-weight:400;color:var(--soft);font-size:13px;text-align:right;padding:4px 0 4px 14px;white-space:nowrap;border-bottom:1px solid var(--rule)}
 td{text-align:right;padding:5px 0 5px 14px;vertical-align:baseline;border-bottom:1px solid var(--rule);white-space:nowrap}
 tr:last-child td{border-bottom:0}
 th:first-child,td:first-child{padding-left:0;text-align:left}
-.name{text-align:left;white-space:normal;width:99%}
+td.name{white-space:normal;overflow-wrap:anywhere;min-width:7em}
+.name{text-align:left;width:99%}
+.months td:last-child{white-space:normal}
 .time{color:var(--soft)}
 .deeds{list-style:none;margin:10px 0 0;padding:0;font-size:14px;color:var(--soft)}
 footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
@@ -128,7 +135,7 @@ footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
  .tile{padding:14px 16px}
  .tile .value{font-size:23px}
  svg.wide{display:none}
- svg.narrow{display:block}
+ svg.narrow{display:block;max-width:460px;margin:0 auto}
  summary{grid-template-columns:minmax(0,1fr) auto 14px;padding:10px 16px}
  summary::after{grid-column:3}
  summary .grams,summary .burned,summary .weight{text-align:left;grid-row:2;font-size:13.5px}
@@ -145,6 +152,8 @@ footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
  body{background:none;font-size:12.5px}
  main,header,footer{max-width:none;padding-left:0;padding-right:0}
  header{padding-top:0}
+ .today{grid-template-columns:minmax(0,1fr);gap:16px}
+ .meters{grid-template-columns:repeat(2,minmax(0,1fr));gap:12px 28px}
  h2{margin-top:26px;break-after:avoid}
  h3{break-after:avoid}
  .files,.ranges,summary::after{display:none}
@@ -154,8 +163,11 @@ footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
  svg.narrow{display:none}
  .month>p{break-after:avoid}
  .big{font-size:32px}
+ .tile{padding:12px 14px}
  .tile .value{font-size:20px}
- summary{padding:4px 14px;font-size:12.5px}
+ .card,figure{padding:14px 16px}
+ summary{grid-template-columns:82px 84px minmax(0,1fr) 96px 70px;padding:4px 14px;font-size:12.5px}
+ summary .soft{font-size:12px}
  .rail,.key i{-webkit-print-color-adjust:exact;print-color-adjust:exact}
  footer{padding-top:20px;padding-bottom:0}
 }

@@ -77,7 +77,7 @@ std::string MeanTile(const DiaryContent& content, int days) {
   }
   const std::optional<double> mean = MeanOf(values);
   return Tile("Mean of " + std::to_string(days) + " days", mean ? NumberText(*mean) : "\u2013",
-              mean ? "kcal a day" : "", CountText(values.size(), "day", "days") + " with foods");
+              mean ? "kcal" : "", CountText(values.size(), "day", "days") + " with foods");
 }
 
 std::string WeightTile(const DiaryContent& content) {
@@ -128,8 +128,8 @@ std::string OverviewSection(const DiaryContent& content) {
   const Streak current = CurrentStreak(content.table.days, content.today);
   const Streak longest = LongestStreak(content.table.days);
   const std::string record = longest.days == 0 ? "none yet"
-                                               : "the most: " + NumberText(longest.days) + ", to " +
-                                                     DayWords(longest.last);
+                                               : "longest: " + NumberText(longest.days) +
+                                                     ", until " + DayWords(longest.last);
   return "<div class=\"tiles\">\n" +
          Tile("In a row with an entry", NumberText(current.days),
               current.days == 1 ? "day" : "days", record) +

@@ -13,7 +13,15 @@ constexpr double kLetterWidth = 7.5;  // about, of a label
 constexpr double kTickLength = 5;
 constexpr double kPointPitch = 2;  // between the points of a line
 
+constexpr double kEdge = 4;         // beside the field
+constexpr double kTelephone = 500;  // wide at the most
+
 }  // namespace
+
+PlotShape WithoutRightAxis(PlotShape shape) {
+  if (shape.width <= kTelephone) shape.right = shape.width - kEdge;
+  return shape;
+}
 
 double PlotPanel::Y(double value) const {
   const double share = (std::clamp(value, axis.low, axis.high) - axis.low) / (axis.high - axis.low);
@@ -93,6 +101,13 @@ void DrawBeyond(SvgPath& path, double x, const PlotPanel& panel) {
   path.MoveTo({x - 4, panel.top - 3});
   path.LineTo({x + 4, panel.top - 3});
   path.LineTo({x, panel.top - 10});
+  path.Close();
+}
+
+void DrawBelow(SvgPath& path, double x, const PlotPanel& panel) {
+  path.MoveTo({x - 4, panel.bottom - 10});
+  path.LineTo({x + 4, panel.bottom - 10});
+  path.LineTo({x, panel.bottom - 3});
   path.Close();
 }
 

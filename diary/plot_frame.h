@@ -34,10 +34,14 @@ struct PlotShape {
 
 // clang-format off
 inline constexpr std::array<PlotShape, 2> kPlotShapes = {{
-    {"wide",   880, 290, 58, 824, 30, 258, 400, 11, 5},
-    {"narrow", 400, 280, 54, 350, 30, 248, 130,  5, 5},
+    {"wide",   880, 290, 56, 836, 30, 258, 400, 11, 5},
+    {"narrow", 340, 262, 52, 298, 30, 230, 110,  4, 5},
 }};
 // clang-format on
+
+// The shape for a plot without an axis on the right: on a telephone the field reaches to the edge.
+// On a screen it stays, so that the same day lies in one place in all plots.
+PlotShape WithoutRightAxis(PlotShape shape);
 
 // A part of the field with an axis of values of its own.
 struct PlotPanel {
@@ -84,6 +88,8 @@ ThinnedValues ThinOut(std::span<const DayValue> values, const PlotShape& shape,
 
 // A small mark at the top of the field, for what lies beyond it.
 void DrawBeyond(SvgPath& path, double x, const PlotPanel& panel);
+// The same at its bottom.
+void DrawBelow(SvgPath& path, double x, const PlotPanel& panel);
 
 // "Nothing ..." in the middle of the field.
 void DrawNothing(SvgDrawing& drawing, const PlotShape& shape, const PlotPanel& panel,

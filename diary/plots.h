@@ -35,9 +35,15 @@ std::string DrawCaloriePlot(const PlotInput& input, std::span<const DiaryDay> da
 std::string DrawSharePlot(const PlotInput& input, std::span<const DiaryDay> days);
 
 // Weights as points, their trend as a line; the body mass index on the right when the height, in m,
-// is known. Both series of the whole diary.
+// is known. Weights beyond the axis are marked at its ends. Both series of the whole diary.
 std::string DrawWeightPlot(const PlotInput& input, std::span<const DayValue> weights,
                            std::span<const DayValue> trend, std::optional<double> height);
+
+// The axis of that plot: around the trend, and the weights near it. Nothing when none lies in the
+// range.
+std::optional<ValueAxis> WeightAxis(const PlotShape& shape, const DayRange& range,
+                                    std::span<const DayValue> weights,
+                                    std::span<const DayValue> trend);
 
 // The sum of the deficit above, the trend of the weight below, on one axis of time.
 std::string DrawDeficitPlot(const PlotInput& input, std::span<const DayValue> deficit,

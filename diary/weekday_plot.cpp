@@ -10,8 +10,9 @@ namespace {
 constexpr double kBarShare = 0.5;  // of a weekday's place
 constexpr double kDateBelow = 20;
 constexpr double kNumberAbove = 7;
-constexpr double kRoomAbove = 1.1;  // for the numbers over the bars
-constexpr double kLeastTop = 500;   // kcal
+constexpr double kRoomAbove = 1.1;       // for the numbers over the bars
+constexpr double kWidestNumber = 10000;  // has no room over its bar
+constexpr double kLeastTop = 500;        // kcal
 
 }  // namespace
 
@@ -37,7 +38,7 @@ std::string DrawWeekdayPlot(const PlotShape& shape, const PlotHead& head,
   }
   drawing.Path(bars, "bar", place * kBarShare);
   for (std::size_t i = 0; i < means.size(); ++i) {
-    if (means[i].days == 0) continue;
+    if (means[i].days == 0 || top >= kWidestNumber) continue;
     const double x = shape.left + (static_cast<double>(i) + 0.5) * place;
     drawing.Text({x, panel.Y(means[i].kcal) - kNumberAbove}, TextAnchor::kMiddle,
                  NumberText(means[i].kcal), "number");

@@ -11,6 +11,7 @@ constexpr double kLabelGap = 8;
 constexpr double kBaseLine = 4.5;
 constexpr double kUnitAbove = 14;
 constexpr double kPointDistance = 3;  // kg, from the trend, that still decides on the axis
+constexpr double kSmallPoints = 4;    // a day's place, from which on points are small
 constexpr double kLeastSpan = 2;      // kg
 constexpr double kLeastMass = 0.1;    // of the index
 constexpr double kGreatestMass = 1000;
@@ -66,39 +67,55 @@ void DrawMassIndex(SvgDrawing& drawing, const PlotShape& shape, const PlotPanel&
 void DrawTrend(SvgDrawing& drawing, std::span<const DayValue> trend, const PlotInput& input,
                const TimeAxis& time, const PlotPanel& panel) {
   const ThinnedValues line = ThinOut(trend, input.shape, input.range);
-  const SvgPath curve = CurveThrough(line.values, time, panel, kMostTrendDays + line.step);
-  drawing.Path(curve, "casing");
-  drawing.Path(curve, "smooth");
+  drawing.Path(CurveThrough(line.values, time, panel, kMostTrendDays + line.step), "smooth");
+}
+
+void DrawPoints(SvgDrawing& drawing, std::span<const DayValue> points, const TimeAxis& time,
+                const PlotPanel& panel) {
+  SvgPath dots;
+  SvgPath beyond;
+  for (const DayValue& point : points) {
+    const double x = time.Middle(point.day);
+    if (point.value > panel.axis.high) {
+      DrawBeyond(beyond, x, panel);
+    } else if (point.value < panel.axis.low) {
+      DrawBelow(beyond, x, panel);
+    } else {
+      dots.Dot({x, panel.Y(point.value)});
+    }
+  }
+  drawing.Path(dots, time.DayWidth() < kSmallPoints ? "points small" : "points");
+  drawing.Path(beyond, "beyond");
 }
 
 }  // namespace
+
+std::optional<ValueAxis> WeightAxis(const PlotShape& shape, const DayRange& range,
+                                    std::span<const DayValue> weights,
+                                    std::span<const DayValue> trend) {
+  const std::vector<DayValue> points = Within(weights, range);
+  if (points.empty()) return std::nullopt;
+  const Span span = SpanOf(points, Within(trend, range));
+  return ChooseAxis(span.low, span.high, shape.most_steps);
+}
 
 std::string DrawWeightPlot(const PlotInput& input, std::span<const DayValue> weights,
                            std::span<const DayValue> trend, std::optional<double> height) {
   const PlotShape& shape = input.shape;
   const TimeAxis time = TimeAxisOf(shape, input.range);
-  const std::vector<DayValue> points = Within(weights, input.range);
   SvgDrawing drawing(DrawingHead(shape, input.head));
   PlotPanel panel = {.top = shape.top, .bottom = shape.bottom};
-  if (points.empty()) {
+  const std::optional<ValueAxis> axis = WeightAxis(shape, input.range, weights, trend);
+  if (!axis) {
     DrawTimeAxis(drawing, shape, panel, time);
     DrawNothing(drawing, shape, panel, "No weight was saved in these days");
     return drawing.Finish();
   }
-  const Span span = SpanOf(points, Within(trend, input.range));
-  panel.axis = ChooseAxis(span.low, span.high, shape.most_steps);
+  panel.axis = *axis;
   DrawValueAxis(drawing, shape, panel, "kg");
   if (height) DrawMassIndex(drawing, shape, panel, *height);
-  SvgPath dots;
-  SvgPath beyond;
-  for (const DayValue& point : points) {
-    if (point.value > panel.axis.high) DrawBeyond(beyond, time.Middle(point.day), panel);
-    if (point.value < panel.axis.low || point.value > panel.axis.high) continue;
-    dots.Dot({time.Middle(point.day), panel.Y(point.value)});
-  }
-  drawing.Path(dots, input.range.Days() > 200 ? "points small" : "points");
-  drawing.Path(beyond, "beyond");
   DrawTrend(drawing, trend, input, time, panel);
+  DrawPoints(drawing, Within(weights, input.range), time, panel);
   DrawTimeAxis(drawing, shape, panel, time);
   return drawing.Finish();
 }
@@ -117,11 +134,13 @@ std::string DrawDeficitPlot(const PlotInput& input, std::span<const DayValue> de
   if (deficit.empty()) {
     DrawNothing(drawing, shape, sums, "Nothing was entered in these days");
   } else {
-    const auto [low, high] = std::ranges::minmax_element(deficit, {}, &DayValue::value);
+    std::vector<DayValue> thousands(deficit.begin(), deficit.end());
+    for (DayValue& value : thousands) value.value /= 1000;
+    const auto [low, high] = std::ranges::minmax_element(thousands, {}, &DayValue::value);
     sums.axis = ChooseAxis(std::min(0.0, low->value), std::max(0.0, high->value), 3);
-    DrawValueAxis(drawing, shape, sums, "kcal, sum of the deficit");
+    DrawValueAxis(drawing, shape, sums, "1000 kcal, sum of the deficit");
     drawing.Line({shape.left, sums.Y(0)}, {shape.right, sums.Y(0)}, "axis");
-    const ThinnedValues line = ThinOut(deficit, shape, input.range);
+    const ThinnedValues line = ThinOut(thousands, shape, input.range);
     drawing.Path(CurveThrough(line.values, time, sums, line.step), "sum");
   }
   const std::vector<DayValue> inside = Within(trend, input.range);
