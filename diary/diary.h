@@ -14,11 +14,11 @@
 namespace velnor {
 
 struct DiaryInputs {
-  std::string_view history;       // the bytes of its file
-  UserProfile profile;            // for the height
-  RequirementBounds requirement;  // upper calories of 0: none is known
-  std::string_view date_text;     // today, as DateText writes it
-  std::string_view user_name;
+  std::string_view history = {};       // the bytes of its file
+  UserProfile profile = {};            // for the height
+  RequirementBounds requirement = {};  // upper calories of 0: none is known
+  std::string_view date_text = {};     // today, as DateText writes it
+  std::string_view user_name = {};
 };
 
 struct DiaryFiles {

@@ -34,10 +34,10 @@ inline constexpr std::array<PageColour, 13> kPageColours = {{
     {"blue", "#0072b2", "#56b4e9", ColourUse::kMark},
     {"vermilion", "#d04f00", "#f0843c", ColourUse::kMark},
     {"purple", "#b0538a", "#d98bb8", ColourUse::kMark},
-    {"green", "#00875f", "#4fd3a8", ColourUse::kMark},
-    {"band", "#d5ede4", "#1d4237", ColourUse::kDecoration},
+    {"green", "#00904f", "#5fd98a", ColourUse::kMark},
+    {"band", "#dff1ea", "#1d4237", ColourUse::kDecoration},
     {"axis", "#7b828a", "#7d868f", ColourUse::kMark},
-    {"track", "#e9eae6", "#2a3036", ColourUse::kDecoration},
+    {"track", "#ecede9", "#2a3036", ColourUse::kDecoration},
 }};
 
 }  // namespace velnor
