@@ -165,8 +165,8 @@ std::optional<std::string> FigureText(std::string_view text) {
 bool IsKnown(const FoodTable& food, const ProductCategory& category) {
   return std::ranges::any_of(food.categories, [&](const CategoryRecord& row) {
     return row.main_category == category.main_category &&
-           std::ranges::any_of(row.subcategories, [&](std::string_view slot) {
-             return !IsUnusedSlot(slot) && !slot.empty() && slot == category.subcategory;
+           std::ranges::any_of(row.subcategories, [&](const auto& slot) {
+             return slot && !slot->empty() && *slot == category.subcategory;
            });
   });
 }

@@ -39,7 +39,7 @@ void RequireEqual(const ProductRecord& read, const ProductRecord& planned) {
 }
 
 void RequireListed(const FoodTable& food, const ProductRecord& product) {
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
+  for (const Matching layout : {Matching::kCounter, Matching::kOverview}) {
     const auto listed = ListProducts(food, layout, product.main_category, product.subcategory);
     Require(std::ranges::find(listed, product.name) != listed.end(), "the product is listed");
     Require(FindProduct(food, layout, product.name) != nullptr, "the product is found");

@@ -218,7 +218,7 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
       food_.user_products.Load(path);
       ASSERT_EQ(food_.user_products.products().size(), 1U);
       EXPECT_EQ(food_.user_products.products()[0].carbohydrate, "12345.75");
-      for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
+      for (const Matching layout : {Matching::kCounter, Matching::kOverview}) {
         const auto listed = ListProducts(food_, layout, row.main_category, subcategory);
         EXPECT_EQ(std::ranges::count(listed, name), 1) << row.main_category << ' ' << subcategory;
         EXPECT_EQ(FindProduct(food_, layout, name), food_.user_products.products().data());
