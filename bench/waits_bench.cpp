@@ -115,17 +115,18 @@ void PrintRow(const Row& row) {
   char text[200];
   const double waits = Median(*row.waits);
   const double floor = Median(*row.floor);
-  std::snprintf(text, sizeof text, "| %s | %.1f | %.1f | %.1f | %.1f | %.2f | %.1f | %s |",
+  std::snprintf(text, sizeof text,
+                "| %s | %.1f | %.1f | %.1f | %.1f | %.2f | %.1f | %.1f | %.1f | %s |",
                 row.what.c_str(), waits, NinetyNinth(*row.waits), floor, NinetyNinth(*row.floor),
-                waits / floor, floor * row.bound.times_floor + row.bound.more_ms,
-                Verdict(row).c_str());
+                waits / floor, floor * row.bound.times_floor + row.bound.more_ms, Least(*row.waits),
+                Least(*row.floor), Verdict(row).c_str());
   std::puts(text);
 }
 
 void PrintWaits(const std::vector<Row>& rows) {
   std::puts("\n## What a person waits for\n");
-  std::puts("| ms | waits | p99 | floor | p99 | ratio | at most | |");
-  std::puts("|---|---|---|---|---|---|---|---|");
+  std::puts("| ms | waits | p99 | floor | p99 | ratio | at most | least | its floor | |");
+  std::puts("|---|---|---|---|---|---|---|---|---|---|");
   for (const Row& row : rows) PrintRow(row);
 }
 
