@@ -28,7 +28,6 @@ struct Font {
   int height = 0;  // of the character cell, pixels
   int weight = 0;  // 0 = the platform's regular weight, 700 = bold
   bool italic = false;
-  bool smooth = true;  // the edges of its letters: what is very small is clearer without
   bool operator==(const Font&) const = default;
 };
 

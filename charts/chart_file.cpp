@@ -1,9 +1,5 @@
 #include "charts/chart_file.h"
 
-#include <optional>
-
-#include "base/text_file.h"
-
 namespace velnor {
 namespace {
 
@@ -43,10 +39,10 @@ ChartSeries LoadChartFile(const std::string& path) {
   return SeriesOf(ReadFile(path, kChartSlots * (kLineLimit + 1)));
 }
 
-bool UpdateChartFile(const std::string& path, std::string_view date,
-                     std::span<const std::string> fields) {
+std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
+                                          std::span<const std::string> fields) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
-  if (!text) return false;
+  if (!text) return std::nullopt;
   const ChartSeries series = SeriesOf(*text);
 
   std::string day(date);
@@ -65,12 +61,18 @@ bool UpdateChartFile(const std::string& path, std::string_view date,
       // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
       if (slot.size() < kLineLimit) lines += '\n';
     }
-    return ReplaceFile(path, WithCrLf(lines + day));
+    return FileBytes{path, WithCrLf(lines + day)};
   }
-  if (!IsEmptySlot(series.slots[kFullSlot])) return ReplaceFile(path, WithCrLf(day));
+  if (!IsEmptySlot(series.slots[kFullSlot])) return FileBytes{path, WithCrLf(day)};
   // Someone who edited the file by hand may have left its last line open.
   const bool open = !text->empty() && text->back() != '\n';
-  return AppendToFile(path, open ? '\n' + day : day);
+  return FileBytes{path, *text + WithCrLf(open ? '\n' + day : day)};
+}
+
+bool UpdateChartFile(const std::string& path, std::string_view date,
+                     std::span<const std::string> fields) {
+  const std::optional<FileBytes> file = UpdatedChartFile(path, date, fields);
+  return file && ReplaceFile(file->path, file->bytes);
 }
 
 }  // namespace velnor

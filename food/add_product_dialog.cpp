@@ -39,10 +39,18 @@ bool BeginsWithDigit(const std::string& text) {
 
 }  // namespace
 
-AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+                                   std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void AddProductDialog::OnOpen(Form& form) {
+  form.LimitText(kName, kRemovableNameLimit);
+  for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
+    form.LimitText(id, kNumberLimit);
+  }
   form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
   form.FillItems(kMainCategory, ListMainCategories(food_));
@@ -93,6 +101,7 @@ void AddProductDialog::Add(Form& form) {
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(path_);
+  on_changed_();
 }
 
 }  // namespace velnor

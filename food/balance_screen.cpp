@@ -20,9 +20,9 @@ constexpr Pen kTickPen{kGrey, 2};
 constexpr int kBandWidth = 7;
 constexpr int kMarkWidth = 3;
 
-// Small enough for each label to end before its figure begins.
+// Small, for each label to end before its figure begins.
 constexpr Font kHeadFont{12, 0, false};
-constexpr Font kEatenFont{10, 0, false};
+constexpr Font kEatenFont{11, 0, false};
 
 constexpr int kHeadY = 23;
 constexpr int kTickDistance = 100;
@@ -112,7 +112,7 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
   PaintMark(canvas, ScaleX(scale, eaten), axis_y, ColourOf(standing));
   if (IsOutOfScale(scale, eaten)) {
     canvas.SetTextColour(kRed);
-    canvas.WriteText({650, scale.norm_y + 5}, "OUT OF SCALE");
+    canvas.WriteText({650, scale.out_of_scale_y}, "OUT OF SCALE");
     canvas.SetTextColour(kBlack);
   }
   canvas.SetFont(kEatenFont);

@@ -158,20 +158,25 @@ void Program::OpenUsers() {
 }
 
 void Program::OpenProfile() {
-  window_.OpenSessionDialog(kProfileResource,
-                     std::make_unique<ProfileDialog>(session_, profile_, window_, message_boxes_));
+  window_.OpenSessionDialog(kProfileResource, std::make_unique<ProfileDialog>(
+                                                  session_, profile_, window_, message_boxes_));
 }
 
 void Program::OpenAddProduct() {
-  window_.OpenDialog(kAddProductResource,
-                     std::make_unique<AddProductDialog>(food_, session_.BaseFile(kUserProductsFile),
-                                                        message_boxes_));
+  window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
+                                              food_, session_.BaseFile(kUserProductsFile),
+                                              message_boxes_, [this] { OnProductsChanged(); }));
 }
 
 void Program::OpenRemoveProduct() {
-  window_.OpenDialog(kRemoveProductResource,
-                     std::make_unique<RemoveProductDialog>(
-                         food_, session_.BaseFile(kUserProductsFile), message_boxes_));
+  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
+                                                 food_, session_.BaseFile(kUserProductsFile),
+                                                 message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OnProductsChanged() {
+  counter_.OnProductsChanged();
+  overview_.OnProductsChanged();
 }
 
 void Program::OpenSearch() {
@@ -180,13 +185,13 @@ void Program::OpenSearch() {
 
 void Program::OpenCalorieRecord() {
   window_.OpenSessionDialog(kCalorieRecordResource,
-                     std::make_unique<CalorieRecordDialog>(session_, exchanges_,
-                                                           food_list_.Totals(kCalorieTotalLimit)));
+                            std::make_unique<CalorieRecordDialog>(
+                                session_, exchanges_, food_list_.Totals(kCalorieTotalLimit)));
 }
 
 void Program::OpenRecipeRecord() {
   window_.OpenSessionDialog(kRecipeRecordResource,
-                     std::make_unique<RecipeRecordDialog>(session_, food_list_));
+                            std::make_unique<RecipeRecordDialog>(session_, food_list_));
 }
 
 void Program::ClearDay() {
@@ -196,19 +201,19 @@ void Program::ClearDay() {
 
 void Program::OpenWeightRecord() {
   window_.OpenSessionDialog(kWeightRecordResource,
-                     std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
+                            std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
 }
 
 void Program::OpenWhrRecord() {
   window_.OpenSessionDialog(kWhrRecordResource,
-                     std::make_unique<WhrRecordDialog>(session_, whr_.result()));
+                            std::make_unique<WhrRecordDialog>(session_, whr_.result()));
 }
 
 void Program::OpenBurnedRecord() {
-  window_.OpenSessionDialog(kBurnedRecordResource,
-                     std::make_unique<BurnedRecordDialog>(session_,
-                                                          burned_.RecordOf(session_.date_text),
-                                                          burned_.counted_activity()));
+  window_.OpenSessionDialog(
+      kBurnedRecordResource,
+      std::make_unique<BurnedRecordDialog>(session_, burned_.RecordOf(session_.date_text),
+                                           burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {

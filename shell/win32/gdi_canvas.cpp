@@ -17,7 +17,7 @@ HFONT MakeFont(const Font& font) {
   description.lfWeight = font.weight;
   description.lfItalic = font.italic ? TRUE : FALSE;
   description.lfCharSet = kCentralEuropean;
-  description.lfQuality = font.smooth ? ANTIALIASED_QUALITY : NONANTIALIASED_QUALITY;
+  description.lfQuality = ANTIALIASED_QUALITY;
   return CreateFontIndirectA(&description);
 }
 

@@ -40,6 +40,7 @@ class Win32MainWindow final : public MainWindow {
   void RunDialog(int resource_id, Dialog& dialog) override;
   std::optional<std::string> ChooseFile(const FileKind& kind) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);

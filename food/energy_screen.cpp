@@ -1,4 +1,4 @@
-#include "activity/energy_screen.h"
+#include "food/energy_screen.h"
 
 #include <cmath>
 #include <string>
@@ -9,7 +9,6 @@ namespace velnor {
 namespace {
 
 constexpr int kBmr = 181;
-constexpr std::size_t kBmrLimit = 10;
 
 // The system's own text, as it stands.
 constexpr std::string_view kNoBmr =
@@ -17,7 +16,7 @@ constexpr std::string_view kNoBmr =
 
 // Small enough for a label to end before its figure, and a remark before the edge of the window.
 constexpr Font kLabelFont{12, 0, false};
-constexpr Font kRemarkFont{10, 0, false};
+constexpr Font kRemarkFont{11, 0, false};
 
 constexpr Colour kWhite{255, 255, 255};
 
@@ -124,7 +123,7 @@ void EnergyScreen::Paint(Canvas& canvas) {
 }
 
 void EnergyScreen::Count() {
-  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrLimit)));
+  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrTextLimit)));
   if (typed == 0) {
     message_boxes_.Show({.text = kNoBmr});
     return;
