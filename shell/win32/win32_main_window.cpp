@@ -83,6 +83,7 @@ LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wp
 }
 
 LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (own_menus_ && own_menus_->OnMessage(message, wparam, lparam)) return 0;
   switch (message) {
     case WM_CREATE:
       return OnCreate() ? 0 : -1;
@@ -132,6 +133,8 @@ bool Win32MainWindow::OnCreate() {
   program_.emplace(StartUpFolder(), Today(), *form_, *this, *message_boxes_);
   menu_ = LoadMenuA(instance_, MAKEINTRESOURCEA(kMenuResource));
   SetMenu(window_, menu_);
+  own_menus_.emplace(window_, *program_);
+  own_menus_->AddToTitleBarMenu();
   resources_.LoadBackgrounds(instance_);
   if (!form_->CreateControls(instance_, resources_)) return false;
   program_->Start();

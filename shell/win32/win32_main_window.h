@@ -11,6 +11,7 @@
 #include "base/main_window.h"
 #include "shell/program.h"
 #include "shell/win32/gdi_canvas.h"
+#include "shell/win32/own_menus.h"
 #include "shell/win32/win32_message_boxes.h"
 #include "shell/win32/window_form.h"
 
@@ -59,6 +60,7 @@ class Win32MainWindow final : public MainWindow {
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;
+  std::optional<OwnMenus> own_menus_;
 };
 
 }  // namespace velnor
