@@ -17,7 +17,7 @@ HFONT MakeFont(const Font& font) {
   description.lfWeight = font.weight;
   description.lfItalic = font.italic ? TRUE : FALSE;
   description.lfCharSet = kCentralEuropean;
-  description.lfQuality = font.smooth ? ANTIALIASED_QUALITY : NONANTIALIASED_QUALITY;
+  description.lfQuality = ANTIALIASED_QUALITY;
   return CreateFontIndirectA(&description);
 }
 
@@ -124,7 +124,7 @@ void GdiCanvas::SetPen(const Pen& pen) {
   pen_ = next;
 }
 
-void GdiCanvas::DrawText(Point at, std::string_view text) {
+void GdiCanvas::WriteText(Point at, std::string_view text) {
   TextOutA(context_, at.x, at.y, text.data(), static_cast<int>(text.size()));
 }
 

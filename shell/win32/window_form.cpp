@@ -22,6 +22,8 @@ static_assert(kButtonClicked == BN_CLICKED);
 static_assert(kSelectionChanged == LBN_SELCHANGE);
 static_assert(kSelectionChanged == CBN_SELCHANGE);
 static_assert(kEditUpdated == EN_UPDATE);
+static_assert(kEditEntered == EN_SETFOCUS);
+static_assert(kEditLeft == EN_KILLFOCUS);
 
 constexpr std::array kClassNames = {"button", "combobox", "edit", "listbox", "static"};
 
@@ -133,6 +135,10 @@ void WindowForm::SetText(int id, std::string_view text) {
   SetWindowTextA(Control(id), std::string(text).c_str());
 }
 
+void WindowForm::LimitText(int id, std::size_t limit) {
+  SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
+}
+
 int WindowForm::ItemCount(int id) const {
   const HWND control = Control(id);
   const LRESULT count = SendMessageA(control, MessagesOf(control).count, 0, 0);
@@ -192,6 +198,10 @@ void WindowForm::RemoveItem(int id, int index) {
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
 
+void WindowForm::SetDefaultButton(int id) {
+  SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
+}
+
 void WindowForm::Scroll(int id, ScrollStep step) {
   SendMessageA(Control(id), EM_SCROLL, kScrollCodes[static_cast<std::size_t>(step)], 0);
 }
@@ -221,6 +231,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }
