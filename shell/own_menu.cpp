@@ -1,14 +1,15 @@
 #include "shell/own_menu.h"
 
 #include <algorithm>
-#include <array>
 
 #include "shell/program.h"
 
 namespace velnor {
 namespace {
 
-constexpr std::array<OwnMenuItem, 0> kItems = {};
+constexpr OwnMenuItem kItems[] = {
+    {kImportItem, "Import products...", false, [](Program& p) { p.OpenImportProducts(); }},
+};
 
 }  // namespace
 

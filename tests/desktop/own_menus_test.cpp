@@ -9,6 +9,8 @@
 namespace velnor::desktop {
 namespace {
 
+constexpr int kImportItem = 0x140;
+
 struct ExpectedItem {
   int id;
   const char* text;
@@ -16,6 +18,7 @@ struct ExpectedItem {
 };
 // What both menus hold.
 const std::vector<ExpectedItem> kExpected = {
+    {kImportItem, "Import products...", false},
 };
 
 class OwnMenus : public testing::Test {
@@ -82,6 +85,38 @@ TEST_F(OwnMenus, HoldTheSameItemsGreyWithoutAUser) {
   EXPECT_EQ(TitleBarLines(app_), Expected(true));
   EXPECT_EQ(ContextLines(OpenMenu::AtPoint(app_, 300, 70)), Expected(true));
   EXPECT_EQ(ContextLines(OpenMenu::ByKeyboard(app_)), Expected(true));
+}
+
+TEST_F(OwnMenus, EachOpensWhatWasChosen) {
+  for (const auto choose : {ChooseFromTitleBarMenu, ChooseFromContextMenu}) {
+    ASSERT_TRUE(choose(app_, kImportItem));
+    const Window import = app_.WaitForPopup();
+    EXPECT_NE(import.Control(802), nullptr);
+    import.Command(IDCANCEL);
+    ASSERT_TRUE(WaitUntilGone(import.handle()));
+  }
+}
+
+// An edit opens the platform's menu, a list none.
+TEST_F(OwnMenus, EditsAndListsKeepWhatThePlatformDoes) {
+  app_.main().Command(231);
+  app_.Settle();
+  const auto right_click_on = [this](int id) {
+    RECT place = {};
+    GetWindowRect(app_.main().Control(id), &place);
+    RightClickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  };
+  right_click_on(128);
+  ASSERT_TRUE(WaitUntil([this] { return MenuIsOpen(app_); }));
+  PressKey(VK_ESCAPE);
+  ASSERT_TRUE(WaitUntil([this] { return !MenuIsOpen(app_); }));
+  right_click_on(126);
+  right_click_on(124);
+  app_.Settle();
+  EXPECT_FALSE(MenuIsOpen(app_));
+  // Beside them there is ours.
+  const OpenMenu menu = OpenMenu::AtPoint(app_, 200, 70);
+  EXPECT_EQ(ContextLines(menu), Expected(false));
 }
 
 }  // namespace
