@@ -60,6 +60,10 @@ class MainWindow {
   // Asks the platform to open a help file of the start-up folder. What a platform without such a
   // file, or without a viewer for it, does is its own affair.
   virtual void OpenHelp(std::string_view file_name) = 0;
+
+  // Opens a page, a file with its whole path, in the person's browser and returns at once. False
+  // when the platform knows no browser or cannot start it.
+  [[nodiscard]] virtual bool OpenInBrowser(const std::string& path) = 0;
 };
 
 }  // namespace velnor

@@ -43,6 +43,7 @@ class Win32MainWindow final : public MainWindow {
   std::optional<std::string> ChooseFile(const FileKind& kind) override;
   bool OpenGuideFile(std::string_view name) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);

@@ -48,10 +48,15 @@ class FakeMainWindow final : public MainWindow {
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
   }
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override {
+    log.push_back("browse " + path);
+    return has_browser;
+  }
 
   // The dialog opened last has these controls.
   void UseForm(FakeForm& form);
 
+  bool has_browser = true;
   std::vector<std::string> log;
   std::optional<std::string> file_to_choose;  // what the person will choose
   std::function<void()> on_paint_now;
