@@ -53,6 +53,7 @@ class PlainForm final : public Form {
   void RemoveItem(int, int) override {}
   void Focus(int) override {}
   void LimitText(int, std::size_t) override {}
+  void TakeNumbers(int) override {}
   void SetDefaultButton(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}

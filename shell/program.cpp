@@ -10,6 +10,7 @@
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
+#include "food/import_products_dialog.h"
 #include "food/recipe_record_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
@@ -166,6 +167,12 @@ void Program::OpenAddProduct() {
   window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
                                               food_, session_.BaseFile(kUserProductsFile),
                                               message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OpenImportProducts() {
+  window_.OpenDialog(kImportProductsResource,
+                     std::make_unique<ImportProductsDialog>(
+                         food_, session_.BaseFile(kUserProductsFile), window_, message_boxes_));
 }
 
 void Program::OpenRemoveProduct() {

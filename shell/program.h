@@ -65,6 +65,7 @@ class Program {
   void OpenUsers();
   void OpenProfile();
   void OpenAddProduct();
+  void OpenImportProducts();
   void OpenRemoveProduct();
   void OpenSearch();
   void OpenCalorieRecord();
