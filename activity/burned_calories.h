@@ -11,8 +11,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kBurnedFile = "erg.txt";
-
 struct Burned {
   float kcal = 0;
   float fat = 0;  // g
@@ -58,14 +56,14 @@ class BurnedTotal {
   struct DayLine {
     std::string date;
     std::string kcal;
-    bool is_readable = false;
-    bool is_empty = false;  // the file, or there is none
+    bool is_readable = false;  // never without a user
+    bool is_empty = false;     // the file, or there is none
   };
 
-  std::string Path() const { return session_.UserFile(kBurnedFile); }
   DayLine Read() const;
   // Reads, making the file when there is none, and knows the total from then on.
   DayLine Take();
+  void Write(std::string_view bytes);
 
   const SessionState& session_;
   float kcal_ = 0;

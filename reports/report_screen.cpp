@@ -27,9 +27,9 @@ ReportScreen::ReportScreen(const SessionState& session, Form& form, MainWindow& 
                            MessageBoxes& message_boxes)
     : session_(session), form_(form), window_(window), message_boxes_(message_boxes) {}
 
-std::string ReportScreen::Path() const {
+std::optional<std::string> ReportScreen::Path() const {
   const ReportFile* const report = FindReport(session_.screen);
-  return report == nullptr ? "" : session_.UserFile(report->file_name);
+  return report == nullptr ? std::nullopt : session_.UserFile(report->file_name);
 }
 
 void ReportScreen::Paint(Canvas& canvas) {
@@ -40,8 +40,8 @@ void ReportScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
   shown_.path = Path();
-  shown_.bytes = LoadReport(shown_.path);
-  if (HasRest(shown_.path)) {
+  shown_.bytes = shown_.path ? LoadReport(*shown_.path) : "";
+  if (shown_.path && HasRest(*shown_.path)) {
     canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
   }
   // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
@@ -51,15 +51,15 @@ void ReportScreen::Paint(Canvas& canvas) {
 }
 
 void ReportScreen::Clear() {
-  const std::string path = Path();
-  if (path.empty() || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  ClearReport(path);
+  const std::optional<std::string> path = Path();
+  if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
+  PassOver(ClearReport(*path));
   window_.Invalidate();
 }
 
 void ReportScreen::Save() {
-  const std::string path = Path();
-  if (path.empty()) return;
+  const std::optional<std::string> path = Path();
+  if (!path) return;
   // Until the screen is painted, the edit holds the report of the screen before.
   if (shown_.path != path) window_.PaintNow();
   // The box lets repaints through, and every repaint reloads the file: what the person has written
@@ -67,7 +67,7 @@ void ReportScreen::Save() {
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const std::string shown = shown_.bytes;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  SaveReport(path, shown, text);
+  PassOver(SaveReport(*path, shown, text));
   window_.Invalidate();
 }
 

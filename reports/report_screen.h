@@ -4,6 +4,7 @@
 #ifndef VELNOR_REPORTS_REPORT_SCREEN_H_
 #define VELNOR_REPORTS_REPORT_SCREEN_H_
 
+#include <optional>
 #include <string>
 
 #include "base/canvas.h"
@@ -34,12 +35,12 @@ class ReportScreen {
   // What the edit was last filled with. The file alone decides what is shown; this only tells, when
   // the text is saved over it, which of its bytes the person has had before them.
   struct Shown {
-    std::string path;
+    std::optional<std::string> path;
     std::string bytes;
   };
 
-  // The path of the current screen's report; empty when it shows none.
-  std::string Path() const;
+  // The path of the current screen's report; nothing when it shows none, or nobody is logged in.
+  std::optional<std::string> Path() const;
 
   const SessionState& session_;
   Form& form_;

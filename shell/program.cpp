@@ -134,7 +134,7 @@ void Program::LogOut() {
   message_boxes_.Show({.text = "BYE, SEE YOU SOON!"});
   ApplyMenuState(MenuState::kAfterLogout, window_);
   window_.CloseSessionDialogs();
-  session_.user_name.clear();
+  session_.user.reset();
   session_.screen = kHomeScreen;
   window_.PaintNow();
 }
@@ -158,8 +158,8 @@ void Program::OpenUsers() {
 }
 
 void Program::OpenProfile() {
-  window_.OpenSessionDialog(kProfileResource,
-                     std::make_unique<ProfileDialog>(session_, profile_, window_, message_boxes_));
+  window_.OpenSessionDialog(kProfileResource, std::make_unique<ProfileDialog>(
+                                                  session_, profile_, window_, message_boxes_));
 }
 
 void Program::OpenAddProduct() {
@@ -180,13 +180,13 @@ void Program::OpenSearch() {
 
 void Program::OpenCalorieRecord() {
   window_.OpenSessionDialog(kCalorieRecordResource,
-                     std::make_unique<CalorieRecordDialog>(session_, exchanges_,
-                                                           food_list_.Totals(kCalorieTotalLimit)));
+                            std::make_unique<CalorieRecordDialog>(
+                                session_, exchanges_, food_list_.Totals(kCalorieTotalLimit)));
 }
 
 void Program::OpenRecipeRecord() {
   window_.OpenSessionDialog(kRecipeRecordResource,
-                     std::make_unique<RecipeRecordDialog>(session_, food_list_));
+                            std::make_unique<RecipeRecordDialog>(session_, food_list_));
 }
 
 void Program::ClearDay() {
@@ -196,23 +196,23 @@ void Program::ClearDay() {
 
 void Program::OpenWeightRecord() {
   window_.OpenSessionDialog(kWeightRecordResource,
-                     std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
+                            std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
 }
 
 void Program::OpenWhrRecord() {
   window_.OpenSessionDialog(kWhrRecordResource,
-                     std::make_unique<WhrRecordDialog>(session_, whr_.result()));
+                            std::make_unique<WhrRecordDialog>(session_, whr_.result()));
 }
 
 void Program::OpenBurnedRecord() {
-  window_.OpenSessionDialog(kBurnedRecordResource,
-                     std::make_unique<BurnedRecordDialog>(session_,
-                                                          burned_.RecordOf(session_.date_text),
-                                                          burned_.counted_activity()));
+  window_.OpenSessionDialog(
+      kBurnedRecordResource,
+      std::make_unique<BurnedRecordDialog>(session_, burned_.RecordOf(session_.date_text),
+                                           burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {
-  day_.StartDayIfNew();
+  PassOver(day_.StartDayIfNew());
   requirement_.OnLogin();
   food_list_.Empty("");
 }
