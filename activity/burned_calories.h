@@ -4,12 +4,16 @@
 #ifndef VELNOR_ACTIVITY_BURNED_CALORIES_H_
 #define VELNOR_ACTIVITY_BURNED_CALORIES_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "base/session.h"
 
 namespace velnor {
+
+// Characters of the typed minutes that count.
+inline constexpr std::size_t kMinutesLimit = 8;
 
 struct Burned {
   float kcal = 0;

@@ -25,6 +25,7 @@ BurnedRecordDialog::BurnedRecordDialog(const SessionState& session, BurnedRecord
     : session_(session), shown_(std::move(shown)), counted_activity_(counted_activity) {}
 
 void BurnedRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kDate, kOther}) form.LimitText(id, kTextLimit);
   form.SetText(kDate, shown_.date);
   form.SetText(kMinutes, shown_.minutes);
   form.SetText(kCalories, shown_.kcal);

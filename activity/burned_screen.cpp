@@ -16,7 +16,6 @@ constexpr int kCalories = 163;
 constexpr int kFat = 164;
 constexpr int kTotal = 180;
 
-constexpr std::size_t kMinutesLimit = 8;
 constexpr std::size_t kCaloriesLimit = 14;
 
 constexpr std::string_view kZero = "0";

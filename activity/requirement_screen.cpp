@@ -12,7 +12,6 @@ namespace velnor {
 namespace {
 
 constexpr int kFirstEdit = 166;  // of eight, in the order of Limit
-constexpr std::size_t kTypedLimit = 5;
 
 constexpr std::string_view kUnavailable = " unavailable";
 
@@ -151,7 +150,7 @@ void RequirementScreen::ShowLimits() {
 void RequirementScreen::Activate() {
   PersonalLimits typed;
   for (std::size_t limit = 0; limit < kLimitCount; ++limit) {
-    typed.texts[limit] = form_.ReadText(kFirstEdit + static_cast<int>(limit), kTypedLimit);
+    typed.texts[limit] = form_.ReadText(kFirstEdit + static_cast<int>(limit), kLimitTextLimit);
   }
   if (const std::optional<std::string_view> fault = FindFault(typed)) {
     message_boxes_.Show({.text = *fault});

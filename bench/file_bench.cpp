@@ -52,6 +52,8 @@ class PlainForm final : public Form {
   void RemoveSelectedItem(int) override {}
   void RemoveItem(int, int) override {}
   void Focus(int) override {}
+  void LimitText(int, std::size_t) override {}
+  void SetDefaultButton(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}
   void HideAll() override {}

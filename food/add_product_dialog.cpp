@@ -22,9 +22,6 @@ constexpr int kCalories = 740;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;
-constexpr std::size_t kShortestName = 4;
-
-constexpr std::string_view kUsualMass = "100";
 
 // The system's own texts, as they stand.
 constexpr std::string_view kNameTooShort =
@@ -42,11 +39,19 @@ bool BeginsWithDigit(const std::string& text) {
 
 }  // namespace
 
-AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+                                   std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void AddProductDialog::OnOpen(Form& form) {
-  form.SetText(kMass, kUsualMass);
+  form.LimitText(kName, kRemovableNameLimit);
+  for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
+    form.LimitText(id, kNumberLimit);
+  }
+  form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
   form.FillItems(kMainCategory, ListMainCategories(food_));
 }
@@ -82,7 +87,7 @@ void AddProductDialog::Add(Form& form) {
 
   // Mass and calories are taken as they come, and of the nutrients only the first character is
   // looked at. A file that cannot be written is not reported; the entries stay for another try.
-  if (name.size() < kShortestName) {
+  if (name.size() < kShortestProductName) {
     message_boxes_.Show({.text = kNameTooShort});
     message_boxes_.Show({.text = kIncomplete});
   } else if (incomplete) {
@@ -92,10 +97,11 @@ void AddProductDialog::Add(Form& form) {
   } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                     carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
-    form.SetText(kMass, kUsualMass);
+    form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(path_);
+  on_changed_();
 }
 
 }  // namespace velnor

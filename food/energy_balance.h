@@ -3,7 +3,12 @@
 #ifndef VELNOR_FOOD_ENERGY_BALANCE_H_
 #define VELNOR_FOOD_ENERGY_BALANCE_H_
 
+#include <cstddef>
+
 namespace velnor {
+
+// Characters of the typed basal metabolic rate that count.
+inline constexpr std::size_t kBmrTextLimit = 10;
 
 // All in kcal, single precision.
 struct EnergyFigures {

@@ -9,15 +9,15 @@ namespace velnor {
 namespace {
 
 constexpr int kBmr = 181;
-constexpr std::size_t kBmrLimit = 10;
 
 // The system's own text, as it stands.
 constexpr std::string_view kNoBmr =
     "Put the value of Your BMR factor!\nIf You don`t know it use our built-in calculator.";
 
-// Small enough for a label to end before its figure, and a remark before the edge of the window.
+// Small, for a label to end before its figure, and narrow, for a remark to end before the edge of
+// the window.
 constexpr Font kLabelFont{12, 0, false};
-constexpr Font kRemarkFont{11, 0, false};
+constexpr Font kRemarkFont{11, 0, false, true};
 
 constexpr Colour kWhite{255, 255, 255};
 
@@ -124,7 +124,7 @@ void EnergyScreen::Paint(Canvas& canvas) {
 }
 
 void EnergyScreen::Count() {
-  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrLimit)));
+  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrTextLimit)));
   if (typed == 0) {
     message_boxes_.Show({.text = kNoBmr});
     return;

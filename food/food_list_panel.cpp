@@ -30,7 +30,7 @@ constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein
                            kRatioFat,          kRatioCarbohydrate, kCarbohydrateExchange,
                            kProteinFatExchange};
 
-constexpr std::size_t kNumberLimit = 30;
+constexpr std::size_t kNumberLimit = kListedFigureLimit;
 constexpr std::size_t kLineLimit = 150;
 
 constexpr std::string_view kZero = "0";

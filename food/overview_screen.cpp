@@ -12,7 +12,7 @@ constexpr PickerControls kControls = {.matching = Matching::kOverview,
                                       .protein = 113,
                                       .fat = 114,
                                       .carbohydrate = 115,
-                                      .weight_limit = 4,
+                                      .weight_limit = kOverviewWeightLimit,
                                       .name_limit = UserProductTable::kLineLimit};
 
 constexpr int kRatioProtein = 116;

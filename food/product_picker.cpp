@@ -49,6 +49,16 @@ void ProductPicker::OnProductChosen() {
   ShowChosenProduct();
 }
 
+void ProductPicker::OnProductsChanged() {
+  const std::optional<std::string> selected = form_.SelectedText(controls_.products);
+  OnSubcategoryChosen();
+  for (int i = 0; selected && i < form_.ItemCount(controls_.products); ++i) {
+    if (form_.ItemText(controls_.products, i) != *selected) continue;
+    form_.SelectItem(controls_.products, i);
+    return;
+  }
+}
+
 void ProductPicker::OnWeightChanged() {
   if (!selected_) return;
   const std::string weight = form_.ReadText(controls_.weight, controls_.weight_limit);

@@ -18,6 +18,8 @@ constexpr std::size_t kTotalLimit = 14;
 }  // namespace
 
 void RecipeRecordDialog::OnOpen(Form& form) {
+  form.LimitText(kName, kNameLimit);
+  form.LimitText(kRecipe, kRecipeLimit);
   form.Focus(kRecipe);
   form.SetText(kDate, session_.date_text);
 }

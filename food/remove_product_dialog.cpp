@@ -13,8 +13,12 @@ constexpr int kNames = 739;
 }  // namespace
 
 RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
-                                         MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+                                         MessageBoxes& message_boxes,
+                                         std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
   form.FillItems(kNames, Views(ReadUserProductNames(path_)));
@@ -36,6 +40,7 @@ void RemoveProductDialog::Remove(Form& form) {
   // A file that cannot be written is not reported; what it still holds stays in the list.
   if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
   food_.user_products.Load(path_);
+  on_changed_();
 }
 
 }  // namespace velnor

@@ -24,9 +24,10 @@ ProductRecord SplitProductLine(std::string_view line) {
 
 void UserProductTable::Load(const std::string& path) {
   products_.clear();
+  ++generation_;
   text_ = ReadFile(path, kReadLimit);
   LineReader lines(text_, kLineLimit);
-  for (std::size_t slot = 0; slot < kSlots; ++slot) {
+  for (free_slots_ = kSlots; free_slots_ > 0; --free_slots_) {
     const std::optional<std::string_view> line = lines.Next();
     if (!line) break;
     if (line->size() > kShortLine) products_.push_back(SplitProductLine(*line));

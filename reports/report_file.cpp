@@ -1,6 +1,7 @@
 #include "reports/report_file.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 #include <optional>
 
@@ -35,7 +36,13 @@ std::string LoadReport(const std::string& path) {
 
 bool ClearReport(const std::string& path) {
   // One byte tells a file from what only looks like one.
-  return ReadFileToRewrite(path, 1).has_value() && ReplaceFile(path, "");
+  const std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), 1);
+  if (!kept || !ReadFileToRewrite(path, 1)) return false;
+  // What cannot be taken back comes last: an empty file of kept bytes that stays says nothing.
+  const FileBytes files[] = {{path, ""}, {RestPath(path), ""}};
+  if (kept->empty() ? !ReplaceFile(path, "") : !ReplaceFiles(files)) return false;
+  std::remove(RestPath(path).c_str());
+  return true;
 }
 
 bool SaveReport(const std::string& path, std::string_view shown, std::string_view text) {

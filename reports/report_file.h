@@ -32,8 +32,8 @@ inline constexpr std::size_t kReportLimit = 29'999;
 // that is missing or cannot be read shows nothing.
 std::string LoadReport(const std::string& path);
 
-// Makes the file empty, and makes an empty one when it is missing. False when it stays as it was,
-// which is what a file does that cannot be read.
+// Makes the file empty, and makes an empty one when it is missing. What was kept at RestPath goes
+// with it. False when both stay as they were, which is what files do that cannot be read.
 [[nodiscard]] bool ClearReport(const std::string& path);
 
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person

@@ -39,11 +39,17 @@ void ReportScreen::Paint(Canvas& canvas) {
   canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
-  shown_.path = Path();
-  shown_.bytes = shown_.path ? LoadReport(*shown_.path) : "";
-  if (shown_.path && HasRest(*shown_.path)) {
+  const std::optional<std::string> path = Path();
+  if (path && HasRest(*path)) {
     canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
   }
+  if (!path || path != unsaved_path_) ShowFile();
+}
+
+void ReportScreen::ShowFile() {
+  unsaved_path_.reset();
+  shown_.path = Path();
+  shown_.bytes = shown_.path ? LoadReport(*shown_.path) : "";
   // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
   // so it gets none when it has the right one.
   const std::string text = WithCrLf(shown_.bytes);
@@ -53,7 +59,7 @@ void ReportScreen::Paint(Canvas& canvas) {
 void ReportScreen::Clear() {
   const std::optional<std::string> path = Path();
   if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  PassOver(ClearReport(*path));
+  if (ClearReport(*path)) unsaved_path_.reset();
   window_.Invalidate();
 }
 
@@ -65,9 +71,15 @@ void ReportScreen::Save() {
   // The box lets repaints through, and every repaint reloads the file: what the person has written
   // is taken before.
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
-  const std::string shown = shown_.bytes;
+  const Shown shown = shown_;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  PassOver(SaveReport(*path, shown, text));
+  if (SaveReport(*path, shown.bytes, text)) {
+    unsaved_path_.reset();
+  } else {
+    unsaved_path_ = path;
+    shown_ = shown;
+    if (form_.ReadText(kTextEdit, kWholeText) != text) form_.SetText(kTextEdit, text);
+  }
   window_.Invalidate();
 }
 

@@ -163,15 +163,20 @@ void Program::OpenProfile() {
 }
 
 void Program::OpenAddProduct() {
-  window_.OpenDialog(kAddProductResource,
-                     std::make_unique<AddProductDialog>(food_, session_.BaseFile(kUserProductsFile),
-                                                        message_boxes_));
+  window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
+                                              food_, session_.BaseFile(kUserProductsFile),
+                                              message_boxes_, [this] { OnProductsChanged(); }));
 }
 
 void Program::OpenRemoveProduct() {
-  window_.OpenDialog(kRemoveProductResource,
-                     std::make_unique<RemoveProductDialog>(
-                         food_, session_.BaseFile(kUserProductsFile), message_boxes_));
+  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
+                                                 food_, session_.BaseFile(kUserProductsFile),
+                                                 message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OnProductsChanged() {
+  counter_.OnProductsChanged();
+  overview_.OnProductsChanged();
 }
 
 void Program::OpenSearch() {

@@ -92,6 +92,8 @@ class Program {
  private:
   // What begins with the login of a user: the day's balance, the user's limits.
   void StartUserDay();
+  // After a product of the user's own came or went.
+  void OnProductsChanged();
 
   SessionState session_;
   Form& form_;

@@ -26,6 +26,9 @@ constexpr UserFile kUserFiles[] = {
     {kCarbohydrateExchangeFile, kLater, kStays, kNoReport},
     {kProteinFatExchangeFile,   kLater, kStays, kNoReport},
     {kHistoryFile,              kLater, kGoes,  kNoReport},
+    {kDiaryPageFile,            kLater, kGoes,  kNoReport},
+    {kDiaryDaysFile,            kLater, kGoes,  kNoReport},
+    {kDiaryDeedsFile,           kLater, kGoes,  kNoReport},
 };
 // clang-format on
 

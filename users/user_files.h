@@ -24,6 +24,9 @@ inline constexpr std::string_view kBurnedFile = "erg.txt";
 inline constexpr std::string_view kCarbohydrateExchangeFile = "z1.ASC";
 inline constexpr std::string_view kProteinFatExchangeFile = "z2.ASC";
 inline constexpr std::string_view kHistoryFile = "dziennik.csv";
+inline constexpr std::string_view kDiaryPageFile = "dziennik.html";
+inline constexpr std::string_view kDiaryDaysFile = "dziennik-dni.csv";
+inline constexpr std::string_view kDiaryDeedsFile = "dziennik-potrawy.csv";
 
 struct UserFile {
   std::string_view name;

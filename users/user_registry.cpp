@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/code_page.h"
 #include "base/file_calls.h"
 #include "base/text_file.h"
 #include "users/user_files.h"
@@ -72,6 +73,23 @@ std::string RegistryBytes(const UserRegistry& registry) {
 std::size_t CountForbiddenSigns(std::string_view name) {
   return static_cast<std::size_t>(std::ranges::count_if(
       name, [](char c) { return kForbiddenSigns.find(c) != std::string_view::npos; }));
+}
+
+std::optional<std::string> FindNamesake(const SessionState& session,
+                                        const std::vector<std::string>& registered,
+                                        const std::string& name) {
+  const std::string lower = ToLowerCase(name);
+  const auto differs_in_case = [&](const std::string& other) {
+    return other != name && ToLowerCase(other) == lower;
+  };
+  if (std::ranges::find(registered, name) != registered.end()) return std::nullopt;
+  const auto user = std::ranges::find_if(registered, differs_in_case);
+  if (user != registered.end()) return *user;
+  for (const FolderEntry& entry :
+       ListFolder(session.base_folder).value_or(std::vector<FolderEntry>())) {
+    if (entry.is_folder && differs_in_case(entry.name)) return entry.name;
+  }
+  return std::nullopt;
 }
 
 void CreateUserFiles(const SessionState& session, const std::string& user) {

@@ -39,6 +39,13 @@ std::string RegistryBytes(const UserRegistry& registry);
 // How many of the characters of `name` a user's name must not contain; 0 for a good name.
 std::size_t CountForbiddenSigns(std::string_view name);
 
+// The name that keeps `name` from being a user's: one of `registered`, or that of a folder that is
+// there, which differs from it in small and capital letters alone. The platform knows one folder
+// for both. Nothing when there is none, or when `name` itself is registered.
+std::optional<std::string> FindNamesake(const SessionState& session,
+                                        const std::vector<std::string>& registered,
+                                        const std::string& name);
+
 // The following take the name of a user as it was typed. A name that IsFolderName refuses does
 // nothing; removing without a name means the files of the start-up folder itself.
 

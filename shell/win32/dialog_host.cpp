@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/win32/caption_icon.h"
 #include "shell/win32/fault_barrier.h"
 #include "shell/win32/window_form.h"
 
@@ -53,7 +54,7 @@ class Host final : public WindowForm {
 
   Dialog* dialog_;
   std::unique_ptr<Dialog> owned_dialog_;  // a modal dialog belongs to its caller
-  std::function<void(HWND)> on_close_;        // null for a modal dialog
+  std::function<void(HWND)> on_close_;    // null for a modal dialog
   int running_handlers_ = 0;
   bool window_is_gone_ = false;
 };
@@ -105,6 +106,7 @@ void KeepListsOffButtons(HWND dialog) {
 INT_PTR OpenDialog(HWND window, Opening& opening) {
   Host* const host = opening.MakeHost(window);
   SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
+  SetCaptionIcon(window);
   KeepListsOffButtons(window);
   const HWND focus_before = GetFocus();
   host->Open();

@@ -38,7 +38,9 @@ class Win32MainWindow final : public MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
