@@ -28,6 +28,7 @@ struct Font {
   int height = 0;  // of the character cell, pixels
   int weight = 0;  // 0 = the platform's regular weight, 700 = bold
   bool italic = false;
+  bool narrow = false;  // its letters have five sixths of the face's own width
   bool operator==(const Font&) const = default;
 };
 

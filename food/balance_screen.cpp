@@ -20,9 +20,9 @@ constexpr Pen kTickPen{kGrey, 2};
 constexpr int kBandWidth = 7;
 constexpr int kMarkWidth = 3;
 
-// Small, for each label to end before its figure begins.
+// Small and narrow, for each label to end before its figure begins.
 constexpr Font kHeadFont{12, 0, false};
-constexpr Font kEatenFont{11, 0, false};
+constexpr Font kEatenFont{11, 0, false, true};
 
 constexpr int kHeadY = 23;
 constexpr int kTickDistance = 100;

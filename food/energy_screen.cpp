@@ -14,9 +14,10 @@ constexpr int kBmr = 181;
 constexpr std::string_view kNoBmr =
     "Put the value of Your BMR factor!\nIf You don`t know it use our built-in calculator.";
 
-// Small enough for a label to end before its figure, and a remark before the edge of the window.
+// Small, for a label to end before its figure, and narrow, for a remark to end before the edge of
+// the window.
 constexpr Font kLabelFont{12, 0, false};
-constexpr Font kRemarkFont{11, 0, false};
+constexpr Font kRemarkFont{11, 0, false, true};
 
 constexpr Colour kWhite{255, 255, 255};
 

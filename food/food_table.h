@@ -62,6 +62,9 @@ class UserProductTable {
   // The products in use, in the order of the file.
   std::span<const ProductRecord> products() const { return products_; }
 
+  // Another number after every Load: what was taken from the products before has gone.
+  unsigned generation() const { return generation_; }
+
   // How many more lines the file can have that are read.
   std::size_t free_slots() const { return free_slots_; }
 
@@ -69,6 +72,7 @@ class UserProductTable {
   std::string text_;
   std::vector<ProductRecord> products_;
   std::size_t free_slots_ = kSlots;
+  unsigned generation_ = 0;
 };
 
 // Splits a line of the user products file at ";" into the eight fields. Missing fields are empty,

@@ -73,7 +73,7 @@ void ImportProductsDialog::OnCommand(Form& form, int id, int notification) {
 // One of them is always chosen: products without a category would be in no list.
 void ImportProductsDialog::OfferSubcategories(Form& form) {
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
-  form.FillItems(kSubcategory, ListSubcategories(food_, Layout::kCounter, main_category));
+  form.FillItems(kSubcategory, ListSubcategories(food_, Matching::kCounter, main_category));
   form.SelectItem(kSubcategory, 0);
 }
 

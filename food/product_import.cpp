@@ -163,11 +163,10 @@ std::optional<std::string> FigureText(std::string_view text) {
 }
 
 bool IsKnown(const FoodTable& food, const ProductCategory& category) {
+  if (category.subcategory.empty()) return false;  // what no list of the counter offers
   return std::ranges::any_of(food.categories, [&](const CategoryRecord& row) {
     return row.main_category == category.main_category &&
-           std::ranges::any_of(row.subcategories, [&](std::string_view slot) {
-             return !IsUnusedSlot(slot) && !slot.empty() && slot == category.subcategory;
-           });
+           std::ranges::find(row.subcategories, category.subcategory) != row.subcategories.end();
   });
 }
 

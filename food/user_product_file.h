@@ -16,8 +16,6 @@ namespace velnor {
 // In the start-up folder, shared by all users.
 inline constexpr std::string_view kUserProductsFile = "data.txt";
 
-// Characters of a name by which its product can be removed.
-inline constexpr std::size_t kRemovableNameLimit = 59;
 // Characters of a name that a product has at least.
 inline constexpr std::size_t kShortestProductName = 4;
 // What a product's figures are for where nothing else is said, in grams.

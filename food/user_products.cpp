@@ -24,6 +24,7 @@ ProductRecord SplitProductLine(std::string_view line) {
 
 void UserProductTable::Load(const std::string& path) {
   products_.clear();
+  ++generation_;
   text_ = ReadFile(path, kReadLimit);
   LineReader lines(text_, kLineLimit);
   for (free_slots_ = kSlots; free_slots_ > 0; --free_slots_) {

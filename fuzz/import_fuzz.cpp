@@ -39,10 +39,10 @@ void RequireEqual(const ProductRecord& read, const ProductRecord& planned) {
 }
 
 void RequireListed(const FoodTable& food, const ProductRecord& product) {
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-    const auto listed = ListProducts(food, layout, product.main_category, product.subcategory);
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+    const auto listed = ListProducts(food, matching, product.main_category, product.subcategory);
     Require(std::ranges::find(listed, product.name) != listed.end(), "the product is listed");
-    Require(FindProduct(food, layout, product.name) != nullptr, "the product is found");
+    Require(FindProduct(food, matching, product.name) != nullptr, "the product is found");
   }
 }
 

@@ -4,10 +4,10 @@
 #include <iterator>
 
 #include "activity/burned_calories.h"
-#include "activity/energy_balance.h"
 #include "activity/personal_limits.h"
 #include "body/weight_text.h"
 #include "body/whr.h"
+#include "food/energy_balance.h"
 #include "food/nutrition.h"
 
 namespace velnor {

@@ -11,6 +11,16 @@ constexpr BYTE kCentralEuropean = 238;  // EASTEUROPE_CHARSET: code page 1250 le
 
 COLORREF ToColorRef(Colour colour) { return RGB(colour.red, colour.green, colour.blue); }
 
+int MeanWidth(HFONT font) {
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ previous = SelectObject(screen, font);
+  TEXTMETRICA metrics = {};
+  GetTextMetricsA(screen, &metrics);
+  SelectObject(screen, previous);
+  ReleaseDC(nullptr, screen);
+  return metrics.tmAveCharWidth;
+}
+
 HFONT MakeFont(const Font& font) {
   LOGFONTA description = {};
   description.lfHeight = font.height;
@@ -18,6 +28,11 @@ HFONT MakeFont(const Font& font) {
   description.lfItalic = font.italic ? TRUE : FALSE;
   description.lfCharSet = kCentralEuropean;
   description.lfQuality = ANTIALIASED_QUALITY;
+  const HFONT made = CreateFontIndirectA(&description);
+  if (!font.narrow || made == nullptr) return made;
+  // A width can only be asked for in pixels, and whose face has which is known from the font alone.
+  description.lfWidth = (MeanWidth(made) * 5 + 3) / 6;
+  DeleteObject(made);
   return CreateFontIndirectA(&description);
 }
 

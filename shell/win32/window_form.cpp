@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/win32/list_order.h"
 #include "shell/win32/number_field.h"
 
 namespace velnor {
@@ -87,16 +88,31 @@ bool IsFrame(HWND control) {
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
-// Adds texts at the places the list gives them.
+bool IsSortedListBox(HWND list) {
+  return &MessagesOf(list) == &kListBoxMessages &&
+         (GetWindowLongA(list, GWL_STYLE) & LBS_SORT) != 0;
+}
+
+// Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
+// its own order and has not to look for the place of each.
 void Append(HWND list, std::span<const std::string_view> texts) {
+  constexpr auto kAtTheEnd = static_cast<WPARAM>(-1);
   const ListMessages& messages = MessagesOf(list);
   std::size_t bytes = 0;
   for (const std::string_view text : texts) bytes += text.size() + 1;
   SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
-  std::string item;  // ended by a NUL, as the platform reads it
-  for (const std::string_view text : texts) {
-    item = text;
-    SendMessageA(list, messages.add, 0, ToParameter(item.c_str()));
+  std::optional<std::vector<std::string>> ordered;
+  if (IsSortedListBox(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+    ordered = OrderOfList(list, texts);
+  }
+  if (ordered) {
+    for (const std::string& text : *ordered) {
+      SendMessageA(list, LB_INSERTSTRING, kAtTheEnd, ToParameter(text.c_str()));
+    }
+  } else {
+    for (const std::string_view text : texts) {
+      SendMessageA(list, messages.add, 0, ToParameter(std::string(text).c_str()));
+    }
   }
   if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
 }

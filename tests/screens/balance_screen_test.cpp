@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/support/day_fixture.h"
+#include "tests/support/legibility.h"
 
 namespace velnor {
 namespace {
@@ -19,7 +20,7 @@ constexpr int kClear = 165;
 constexpr Font kTitle{18, 700, true};
 constexpr Font kBody{14, 0, false};
 constexpr Font kHead{12, 0, false};
-constexpr Font kEaten{11, 0, false};
+constexpr Font kEaten{11, 0, false, true};
 constexpr Colour kGrey{79, 79, 79};
 constexpr Colour kLightGrey{205, 205, 205};
 constexpr Colour kGreen{0, 205, 0};
@@ -148,6 +149,14 @@ TEST_F(BalanceScreenTest, PaintsItsTexts) {
   }
   EXPECT_EQ(std::vector<DrawnText>(canvas.texts.begin() + 3, canvas.texts.end()), expected);
   EXPECT_EQ(form_.ShownKeys(), (std::set<int>{kClear}));
+}
+
+TEST_F(BalanceScreenTest, LabelsEndBeforeTheirFigures) {
+  const RecordingCanvas canvas = Paint("\r\n1850.5\r\n72.5\r\n60.25\r\n330.75");
+  for (const int y : {145, 270, 402, 530}) {
+    const DrawnText label = TextAt(canvas, {60, y});
+    EXPECT_LE(60 + WidestExtent(label.font, label.text), 110) << label.text;
+  }
 }
 
 TEST_F(BalanceScreenTest, DrawsFourScalesWithTheirNormsAndMarks) {

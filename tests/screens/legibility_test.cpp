@@ -268,6 +268,8 @@ TEST(MeasureTest, ExtentsAreNeverTooSmallAndHardlyTooLarge) {
   };
   constexpr Line kLines[] = {
       {{11, 0, false}, "OUT OF SCALE", 75},
+      {{11, 0, false, true}, "OUT OF SCALE", 65},
+      {{11, 0, false, true}, "eaten[kcal]", 45},
       {{12, 0, false}, "They`ll help You define proper relation between fat and body weight.", 327},
       {{14, 0, false}, "They`ll help You define proper relation between fat and body weight.", 371},
       {{14, 0, false}, "SCORE: OUT OF SCALE!!! - IT`S NOT ENOUGHT TO SAY YOU`RE FAT...!!!", 407},

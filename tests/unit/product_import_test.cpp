@@ -207,8 +207,8 @@ TEST_F(ProductImportTest, WhatIsNoTableIsRefused) {
 TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
   const std::string path = folder_.path() + "data.txt";
   for (const CategoryRecord& row : food_.categories) {
-    for (const std::string_view subcategory : row.subcategories) {
-      if (IsUnusedSlot(subcategory) || subcategory.empty()) continue;
+    for (const std::string_view subcategory :
+         ListSubcategories(food_, Matching::kCounter, row.main_category)) {
       const std::string name = std::string(59, 'q');
       const ImportPlan plan = Plan("name,kcal,protein,fat,carbohydrate,mass,main,sub\n" + name +
                                    ",12345.75,12345.75,12345.75,12345.75,12345.75," +
@@ -218,10 +218,10 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
       food_.user_products.Load(path);
       ASSERT_EQ(food_.user_products.products().size(), 1U);
       EXPECT_EQ(food_.user_products.products()[0].carbohydrate, "12345.75");
-      for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-        const auto listed = ListProducts(food_, layout, row.main_category, subcategory);
+      for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+        const auto listed = ListProducts(food_, matching, row.main_category, subcategory);
         EXPECT_EQ(std::ranges::count(listed, name), 1) << row.main_category << ' ' << subcategory;
-        EXPECT_EQ(FindProduct(food_, layout, name), food_.user_products.products().data());
+        EXPECT_EQ(FindProduct(food_, matching, name), food_.user_products.products().data());
       }
       ASSERT_TRUE(RemoveUserProduct(path, name));
       food_.user_products.Load(path);
