@@ -29,6 +29,9 @@ bool AddUserProduct(const std::string& path, const ProductRecord& product);
 // The same with many products, all of them or none.
 bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products);
 
+// Characters of a product's name that removing looks at: longer names are never removed.
+inline constexpr std::size_t kRemovableNameLimit = 59;
+
 // The names (third fields) in the first 1000 lines of the file, in its order. A line is taken in
 // pieces of at most 299 characters; one without a third field has no name.
 std::vector<std::string> ReadUserProductNames(const std::string& path);
