@@ -3,18 +3,52 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 #include "activity/activity_table.h"
+#include "activity/burned_record_dialog.h"
 
 namespace velnor {
 namespace {
 
 constexpr int kActivities = 159;
 constexpr int kMinutes = 160;
+constexpr int kCount = 161;
+constexpr int kSaveReport = 162;
 constexpr int kCalories = 163;
 constexpr int kFat = 164;
+constexpr int kAdd = 177;
+constexpr int kRemove = 178;
+constexpr int kClear = 179;
 constexpr int kTotal = 180;
+
+// Nothing can be taken off the total: the button is there and never shown.
+constexpr ControlRow HiddenButton(int key, const char* text, Rectangle place) {
+  ControlRow row = Button(key, text, place);
+  row.is_shown = false;
+  return row;
+}
+
+constexpr ControlRow kControls[] = {
+    ListBox(kActivities, {25, 100, 330, 350}, "choose activity"),
+    NumberField(kMinutes, {380, 100, 50, 23}, kMinutesLimit, "time[min]"),
+    MainButton(kCount, "Count", {460, 95, 100, 35}),
+    Button(kSaveReport, "Save raport", {380, 180, 100, 35}),
+    LongFigure(kCalories, {235, 470, 73, 23}),
+    LongFigure(kFat, {235, 510, 73, 23}),
+    Button(kAdd, "ADD", {320, 465, 150, 23}),
+    HiddenButton(kRemove, "REMOVE", {320, 490, 150, 23}),
+    Button(kClear, "CLEAR", {320, 515, 150, 23}),
+    LongFigure(kTotal, {600, 490, 73, 23}),
+};
+
+constexpr ControlEvent<BurnedScreen> kEvents[] = {
+    {kCount, kButtonClicked, &BurnedScreen::Count},
+    {kSaveReport, kButtonClicked, &BurnedScreen::OpenRecord},
+    {kAdd, kButtonClicked, &BurnedScreen::Add},
+    {kClear, kButtonClicked, &BurnedScreen::Clear},
+};
 
 constexpr std::size_t kCaloriesLimit = 14;
 
@@ -44,11 +78,29 @@ constexpr PlacedText kStrongTexts[] = {
 
 }  // namespace
 
-BurnedScreen::BurnedScreen(BurnedTotal& total, Form& form, MainWindow& window,
-                           MessageBoxes& message_boxes)
-    : total_(total), form_(form), window_(window), message_boxes_(message_boxes) {}
+BurnedScreen::BurnedScreen(const SessionState& session, BurnedTotal& total, Form& form,
+                           MainWindow& window, MessageBoxes& message_boxes)
+    : session_(session),
+      total_(total),
+      form_(form),
+      window_(window),
+      message_boxes_(message_boxes) {}
 
-void BurnedScreen::Paint(Canvas& canvas) {
+std::span<const ControlRow> BurnedScreen::Controls() { return kControls; }
+
+bool BurnedScreen::OnControl(int id, int notification) {
+  return RunEvent<BurnedScreen>(*this, kEvents, id, notification);
+}
+
+void BurnedScreen::Refresh() {
+  std::vector<std::string_view> names;
+  std::ranges::transform(Activities(), std::back_inserter(names), &ActivityRecord::name);
+  form_.FillItems(kActivities, names);
+  const std::string total = total_.RefreshForToday();
+  form_.SetText(kTotal, total.empty() ? kZero : total);
+}
+
+void BurnedScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
   canvas.WriteText({10, 30}, "burned calories counting");
   canvas.DrawLine({5, 55}, {695, 55});
@@ -56,12 +108,6 @@ void BurnedScreen::Paint(Canvas& canvas) {
   WriteTexts(canvas, kBodyTexts);
   canvas.SetFont(kStrongFont);
   WriteTexts(canvas, kStrongTexts);
-
-  std::vector<std::string_view> names;
-  std::ranges::transform(Activities(), std::back_inserter(names), &ActivityRecord::name);
-  form_.FillItems(kActivities, names);
-  const std::string total = total_.RefreshForToday();
-  form_.SetText(kTotal, total.empty() ? kZero : total);
 }
 
 void BurnedScreen::Count() {
@@ -83,8 +129,14 @@ void BurnedScreen::Clear() {
   window_.Invalidate();
 }
 
-BurnedRecord BurnedScreen::RecordOf(const std::string& date) const {
-  return {.date = date,
+void BurnedScreen::OpenRecord() {
+  window_.OpenSessionDialog(
+      kBurnedRecordResource,
+      std::make_unique<BurnedRecordDialog>(session_, RecordOfToday(), counted_activity_));
+}
+
+BurnedRecord BurnedScreen::RecordOfToday() const {
+  return {.date = session_.date_text,
           .activity = counted_activity_,
           .minutes = form_.ReadText(kMinutes, kRecordFigureLimit),
           .kcal = form_.ReadText(kCalories, kRecordFigureLimit),

@@ -84,7 +84,7 @@ constexpr PlacedText kWarning[] = {
 
 }  // namespace
 
-void PaintWeightExchanges(Canvas& canvas) {
+void ExchangesScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
   canvas.WriteText({10, 30}, "WEIGHT EXCHANGERS");
   canvas.SetTextColour(kRed);

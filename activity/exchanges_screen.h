@@ -4,11 +4,18 @@
 #ifndef VELNOR_ACTIVITY_EXCHANGES_SCREEN_H_
 #define VELNOR_ACTIVITY_EXCHANGES_SCREEN_H_
 
-#include "base/canvas.h"
+#include <span>
+
+#include "base/control.h"
+#include "base/screen.h"
 
 namespace velnor {
 
-void PaintWeightExchanges(Canvas& canvas);
+class ExchangesScreen final : public Screen {
+ public:
+  static std::span<const ControlRow> Controls() { return {}; }
+  void Paint(Canvas& canvas) const override;
+};
 
 }  // namespace velnor
 

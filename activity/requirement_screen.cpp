@@ -5,13 +5,43 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
-#include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
+constexpr int kCalories = 120;
+constexpr int kProtein = 121;
+constexpr int kFat = 122;
+constexpr int kCarbohydrate = 123;
 constexpr int kFirstEdit = 166;  // of eight, in the order of Limit
+constexpr int kActivate = 174;
+constexpr int kClear = 175;
+
+constexpr ControlRow LimitField(Limit limit, Rectangle place, const char* label) {
+  return NumberField(kFirstEdit + static_cast<int>(limit), place, kLimitTextLimit, label);
+}
+
+constexpr ControlRow kControls[] = {
+    Figure(kCalories, {170, 355, 100, 23}),
+    Figure(kProtein, {170, 390, 100, 23}),
+    Figure(kFat, {170, 425, 100, 23}),
+    Figure(kCarbohydrate, {170, 460, 100, 23}),
+    LimitField(kCaloriesLower, {500, 355, 100, 23}, "calorie[kcal], lower limit"),
+    LimitField(kCaloriesUpper, {630, 355, 100, 23}, "calorie[kcal], upper limit"),
+    LimitField(kProteinLower, {500, 390, 100, 23}, "proteins[g], lower limit"),
+    LimitField(kProteinUpper, {630, 390, 100, 23}, "proteins[g], upper limit"),
+    LimitField(kFatLower, {500, 425, 100, 23}, "fat[g], lower limit"),
+    LimitField(kFatUpper, {630, 425, 100, 23}, "fat[g], upper limit"),
+    LimitField(kCarbohydrateLower, {500, 460, 100, 23}, "carbohydrates[g], lower limit"),
+    LimitField(kCarbohydrateUpper, {630, 460, 100, 23}, "carbohydrates[g], upper limit"),
+    MainButton(kActivate, "Activate", {540, 255, 140, 30}),
+    Button(kClear, "Clear", {540, 290, 140, 30}),
+};
+
+constexpr ControlEvent<RequirementScreen> kEvents[] = {
+    {kActivate, kButtonClicked, &RequirementScreen::Activate},
+    {kClear, kButtonClicked, &RequirementScreen::Clear},
+};
 
 constexpr std::string_view kUnavailable = " unavailable";
 
@@ -79,31 +109,28 @@ std::string RangeText(const Range& range) {
 
 }  // namespace
 
-RequirementScreen::RequirementScreen(const SessionState& session, const UserProfile& profile,
+RequirementScreen::RequirementScreen(DayRequirement& requirement, const UserProfile& profile,
                                      Form& form, MainWindow& window, MessageBoxes& message_boxes)
-    : session_(session),
+    : requirement_(requirement),
       profile_(profile),
       form_(form),
       window_(window),
       message_boxes_(message_boxes) {}
 
-PersonalLimits RequirementScreen::ReadLimits() const {
-  const std::optional<std::string> path = session_.UserFile(kLimitsFile);
-  return path ? ReadPersonalLimits(*path) : PersonalLimits();
+std::span<const ControlRow> RequirementScreen::Controls() { return kControls; }
+
+bool RequirementScreen::OnControl(int id, int notification) {
+  return RunEvent<RequirementScreen>(*this, kEvents, id, notification);
 }
 
-void RequirementScreen::OnLogin() {
-  limits_ = ReadLimits();
-  limits_active_ = limits_.ShowAsActive();
+void RequirementScreen::OnChosen() { requirement_.Update(); }
+
+void RequirementScreen::Refresh() {
+  ShowRequirement();
+  ShowLimits();
 }
 
-void RequirementScreen::Update() { UpdateRequirement(profile_, ReadLimits(), requirement_); }
-
-RequirementBounds RequirementScreen::DayBounds() const {
-  return limits_active_ ? BoundsOf(limits_) : BoundsOf(requirement_);
-}
-
-void RequirementScreen::Paint(Canvas& canvas) {
+void RequirementScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kHeadingFont);
   canvas.WriteText({10, 30}, "Daily request");
   canvas.SetTextColour(kOrange);
@@ -123,27 +150,27 @@ void RequirementScreen::Paint(Canvas& canvas) {
   WriteTexts(canvas, kLabels);
   canvas.SetFont(kSetupsFont);
   canvas.SetTextColour(kDarkBlue);
-  const PlacedText& setups = limits_active_ ? kActive : kInactive;
+  const PlacedText& setups = requirement_.limits_active() ? kActive : kInactive;
   canvas.WriteText(setups.at, setups.text);
-  ShowRequirement();
-  ShowLimits();
 }
 
 void RequirementScreen::ShowRequirement() {
-  struct Field {
-    int id;
-    const Range& range;
+  const DailyRequirement& requirement = requirement_.requirement();
+  const bool available = requirement.IsKnown() && !requirement_.limits_active();
+  const auto show = [&](int id, const Range& range) {
+    form_.SetText(id, available ? RangeText(range) : std::string(kUnavailable));
   };
-  for (const Field& field : {Field{120, requirement_.calories}, Field{121, requirement_.protein},
-                             Field{122, requirement_.fat}, Field{123, requirement_.carbohydrate}}) {
-    const bool available = requirement_.IsKnown() && !limits_active_;
-    form_.SetText(field.id, available ? RangeText(field.range) : std::string(kUnavailable));
-  }
+  show(kCalories, requirement.calories);
+  show(kProtein, requirement.protein);
+  show(kFat, requirement.fat);
+  show(kCarbohydrate, requirement.carbohydrate);
 }
 
 void RequirementScreen::ShowLimits() {
+  const LimitTexts nothing;
+  const LimitTexts& texts = requirement_.limits_active() ? requirement_.limits().texts : nothing;
   for (std::size_t limit = 0; limit < kLimitCount; ++limit) {
-    form_.SetText(kFirstEdit + static_cast<int>(limit), limits_active_ ? limits_.texts[limit] : "");
+    form_.SetText(kFirstEdit + static_cast<int>(limit), texts[limit]);
   }
 }
 
@@ -156,14 +183,12 @@ void RequirementScreen::Activate() {
     message_boxes_.Show({.text = *fault});
     return;
   }
-  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WritePersonalLimits(*path, typed));
-  limits_ = ReadLimits();
+  requirement_.Activate(typed);
   window_.Invalidate();
 }
 
 void RequirementScreen::Clear() {
-  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WriteNoLimits(*path));
-  limits_active_ = false;
+  requirement_.Clear();
   window_.Invalidate();
 }
 

@@ -15,9 +15,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/control.h"
 #include "base/form.h"
 #include "bench/bare_worker.h"
-#include "shell/controls.h"
 #include "shell/screens.h"
 
 namespace velnor::bench {
@@ -45,12 +45,12 @@ struct BareWindow {
 
 HFONT FontOf(const ControlRow& row) {
   constexpr BYTE kCentralEuropean = 238;
-  const Font font = ControlFont(row);
+  const Font font = row.font;
   LOGFONTA description = {};
   description.lfHeight = font.height;
   description.lfWeight = font.weight;
   description.lfCharSet = kCentralEuropean;
-  description.lfQuality = font.smooth ? ANTIALIASED_QUALITY : NONANTIALIASED_QUALITY;
+  description.lfQuality = ANTIALIASED_QUALITY;
   return CreateFontIndirectA(&description);
 }
 
@@ -63,14 +63,14 @@ void MakeChildren(BareWindow& self, HWND window, const ScreenRow* screen) {
     const HWND child = CreateWindowExA(
         row.has_sunken_edge() ? WS_EX_CLIENTEDGE : frame, class_name, row.text,
         WS_CHILD | row.style, row.place.x, row.place.y, row.place.width, row.place.height, window,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), nullptr, nullptr);
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id())), nullptr, nullptr);
     self.children.push_back(child);
     if (self.works) SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(FontOf(row)), FALSE);
-    if (!by_key.emplace(row.id, child).second) by_key.emplace(SecondControl(row.id), child);
+    by_key.emplace(row.key, child);
   }
   if (self.works) self.worker.Begin(window, by_key);
   if (screen == nullptr) return;
-  for (const int key : screen->controls) self.shown.push_back(by_key.at(key));
+  for (const int key : ShownKeys(*screen)) self.shown.push_back(by_key.at(key));
 }
 
 // Each in the format of the display and selected for good.

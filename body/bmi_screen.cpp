@@ -2,28 +2,50 @@
 
 #include <cmath>
 #include <cstddef>
+#include <memory>
 
 #include "base/number_text.h"
 #include "body/bmi_scale.h"
 #include "body/bmi_verdicts.h"
+#include "body/weight_record_dialog.h"
 
 namespace velnor {
 namespace {
+
+constexpr int kCount = 102;
+constexpr int kSaveReport = 103;
+
+constexpr ControlRow kControls[] = {
+    kWeightField,
+    MainButton(kCount, "Count BMI", {100, 180, 100, 35}),
+    Button(kSaveReport, "Save raport", {100, 220, 100, 35}),
+};
+
+constexpr ControlEvent<BmiScreen> kEvents[] = {
+    {kCount, kButtonClicked, &BmiScreen::Count},
+    {kSaveReport, kButtonClicked, &BmiScreen::OpenRecord},
+};
 
 constexpr Font kValueFont{17, 0, true};
 constexpr int kDigits = 6;
 constexpr std::size_t kShownCharacters = 5;
 
-constexpr PlacedText kTitle[] = {
+constexpr PlacedText kHeading[] = {
     {{10, 30}, "BMI"},
     {{10, 45}, "(Body Mass Index)"},
 };
 
 }  // namespace
 
-BmiScreen::BmiScreen(const UserProfile& profile, WeightText& weight, const Form& form,
-                     MainWindow& window)
-    : profile_(profile), weight_(weight), form_(form), window_(window) {}
+BmiScreen::BmiScreen(const SessionState& session, const UserProfile& profile, WeightText& weight,
+                     const Form& form, MainWindow& window)
+    : session_(session), profile_(profile), weight_(weight), form_(form), window_(window) {}
+
+std::span<const ControlRow> BmiScreen::Controls() { return kControls; }
+
+bool BmiScreen::OnControl(int id, int notification) {
+  return RunEvent<BmiScreen>(*this, kEvents, id, notification);
+}
 
 void BmiScreen::Count() {
   weight_.TakeFrom(form_);
@@ -34,9 +56,14 @@ void BmiScreen::Count() {
   window_.InvalidateWithoutErasing();
 }
 
+void BmiScreen::OpenRecord() {
+  window_.OpenSessionDialog(kWeightRecordResource,
+                            std::make_unique<WeightRecordDialog>(session_, weight_, result_));
+}
+
 void BmiScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
-  WriteTexts(canvas, kTitle);
+  WriteTexts(canvas, kHeading);
   PaintInputs(canvas);
   canvas.SetFont(kValueFont);
   canvas.WriteText({10, 280}, "BMI =  ");

@@ -3,29 +3,38 @@
 #ifndef VELNOR_BODY_BMI_SCREEN_H_
 #define VELNOR_BODY_BMI_SCREEN_H_
 
-#include "base/canvas.h"
+#include <span>
+
+#include "base/control.h"
 #include "base/form.h"
 #include "base/main_window.h"
+#include "base/screen.h"
+#include "base/session.h"
 #include "body/bmi.h"
 #include "body/weight_text.h"
 #include "users/profile.h"
 
 namespace velnor {
 
-class BmiScreen {
+class BmiScreen final : public Screen {
  public:
-  BmiScreen(const UserProfile& profile, WeightText& weight, const Form& form, MainWindow& window);
+  BmiScreen(const SessionState& session, const UserProfile& profile, WeightText& weight,
+            const Form& form, MainWindow& window);
 
-  void Paint(Canvas& canvas) const;
+  static std::span<const ControlRow> Controls();
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
 
-  // The button: takes the weight over and counts with it.
+  // The buttons. Count takes the weight over and counts with it.
   void Count();
+  void OpenRecord();
 
   const BmiResult& result() const { return result_; }
 
  private:
   void PaintInputs(Canvas& canvas) const;
 
+  const SessionState& session_;
   const UserProfile& profile_;
   WeightText& weight_;
   const Form& form_;

@@ -8,6 +8,15 @@
 namespace velnor {
 namespace {
 
+constexpr int kCount = 176;
+
+constexpr ControlRow kControls[] = {
+    kWeightField,
+    MainButton(kCount, "Count BMR", {100, 180, 100, 35}),
+};
+
+constexpr ControlEvent<BmrScreen> kEvents[] = {{kCount, kButtonClicked, &BmrScreen::Count}};
+
 constexpr Font kLabelFont{17, 0, true};
 constexpr Font kValueFont{18, 700, false};
 constexpr Font kParagraphFont{16, 0, false};
@@ -34,6 +43,12 @@ constexpr PlacedText kParagraph[] = {
 BmrScreen::BmrScreen(const UserProfile& profile, WeightText& weight, const Form& form,
                      MainWindow& window)
     : profile_(profile), weight_(weight), form_(form), window_(window) {}
+
+std::span<const ControlRow> BmrScreen::Controls() { return kControls; }
+
+bool BmrScreen::OnControl(int id, int notification) {
+  return RunEvent<BmrScreen>(*this, kEvents, id, notification);
+}
 
 void BmrScreen::Count() {
   weight_.TakeFrom(form_);

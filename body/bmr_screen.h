@@ -3,20 +3,25 @@
 #ifndef VELNOR_BODY_BMR_SCREEN_H_
 #define VELNOR_BODY_BMR_SCREEN_H_
 
-#include "base/canvas.h"
+#include <span>
+
+#include "base/control.h"
 #include "base/form.h"
 #include "base/main_window.h"
+#include "base/screen.h"
 #include "body/bmr.h"
 #include "body/weight_text.h"
 #include "users/profile.h"
 
 namespace velnor {
 
-class BmrScreen {
+class BmrScreen final : public Screen {
  public:
   BmrScreen(const UserProfile& profile, WeightText& weight, const Form& form, MainWindow& window);
 
-  void Paint(Canvas& canvas) const;
+  static std::span<const ControlRow> Controls();
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
 
   // The button: takes the weight over, counts with it and repaints at once.
   void Count();

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 
+#include "base/control.h"
 #include "base/form.h"
 
 namespace velnor {
@@ -20,6 +21,10 @@ struct WeightText {
 
   void TakeFrom(const Form& form) { text = form.ReadText(kEdit, kLimit); }
 };
+
+// The row of that edit, in the tables of both screens.
+inline constexpr ControlRow kWeightField =
+    NumberField(WeightText::kEdit, {170, 90, 60, 23}, WeightText::kLimit, "Put Your weight [kg]");
 
 }  // namespace velnor
 

@@ -2,21 +2,37 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <span>
 
 #include "base/number_text.h"
 #include "body/verdict.h"
+#include "body/whr_record_dialog.h"
 
 namespace velnor {
 namespace {
 
 constexpr int kWaist = 104;
 constexpr int kHip = 105;
+constexpr int kCount = 106;
+constexpr int kSaveReport = 107;
+
+constexpr ControlRow kControls[] = {
+    NumberField(kWaist, {200, 90, 50, 23}, WhrResult::kLimit, "Waist circumference [cm]"),
+    NumberField(kHip, {200, 120, 50, 23}, WhrResult::kLimit, "Hip circumference [cm]"),
+    MainButton(kCount, "Count WHR", {100, 220, 100, 35}),
+    Button(kSaveReport, "Save raport", {100, 260, 100, 35}),
+};
+
+constexpr ControlEvent<WhrScreen> kEvents[] = {
+    {kCount, kButtonClicked, &WhrScreen::Count},
+    {kSaveReport, kButtonClicked, &WhrScreen::OpenRecord},
+};
 
 constexpr Font kValueFont{22, 0, true};
 constexpr int kDigits = 5;
 
-constexpr PlacedText kTitle[] = {
+constexpr PlacedText kHeading[] = {
     {{10, 30}, "WHR coefficient"},
     {{10, 45}, "( waist-hip ratio )"},
 };
@@ -58,8 +74,15 @@ bool IsNoted(const UserProfile& profile) {
 
 }  // namespace
 
-WhrScreen::WhrScreen(const UserProfile& profile, const Form& form, MainWindow& window)
-    : profile_(profile), form_(form), window_(window) {}
+WhrScreen::WhrScreen(const SessionState& session, const UserProfile& profile, const Form& form,
+                     MainWindow& window)
+    : session_(session), profile_(profile), form_(form), window_(window) {}
+
+std::span<const ControlRow> WhrScreen::Controls() { return kControls; }
+
+bool WhrScreen::OnControl(int id, int notification) {
+  return RunEvent<WhrScreen>(*this, kEvents, id, notification);
+}
 
 void WhrScreen::Count() {
   result_.waist = form_.ReadText(kWaist, WhrResult::kLimit);
@@ -69,9 +92,14 @@ void WhrScreen::Count() {
   window_.InvalidateWithoutErasing();
 }
 
+void WhrScreen::OpenRecord() {
+  window_.OpenSessionDialog(kWhrRecordResource,
+                            std::make_unique<WhrRecordDialog>(session_, result_));
+}
+
 void WhrScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
-  WriteTexts(canvas, kTitle);
+  WriteTexts(canvas, kHeading);
   PaintInputs(canvas);
   if (IsNoted(profile_)) {
     canvas.SetTextColour(kRed);

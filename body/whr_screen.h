@@ -3,28 +3,37 @@
 #ifndef VELNOR_BODY_WHR_SCREEN_H_
 #define VELNOR_BODY_WHR_SCREEN_H_
 
-#include "base/canvas.h"
+#include <span>
+
+#include "base/control.h"
 #include "base/form.h"
 #include "base/main_window.h"
+#include "base/screen.h"
+#include "base/session.h"
 #include "body/whr.h"
 #include "users/profile.h"
 
 namespace velnor {
 
-class WhrScreen {
+class WhrScreen final : public Screen {
  public:
-  WhrScreen(const UserProfile& profile, const Form& form, MainWindow& window);
+  WhrScreen(const SessionState& session, const UserProfile& profile, const Form& form,
+            MainWindow& window);
 
-  void Paint(Canvas& canvas) const;
+  static std::span<const ControlRow> Controls();
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
 
-  // The button: takes both circumferences over and counts with them.
+  // The buttons. Count takes both circumferences over and counts with them.
   void Count();
+  void OpenRecord();
 
   const WhrResult& result() const { return result_; }
 
  private:
   void PaintInputs(Canvas& canvas) const;
 
+  const SessionState& session_;
   const UserProfile& profile_;
   const Form& form_;
   MainWindow& window_;

@@ -114,14 +114,22 @@ std::optional<Message> RefusalOf(const Chart& chart, const ChartSeries& series) 
 
 }  // namespace
 
-void ChartScreen::Paint(Canvas& canvas, const Chart& chart, const RequirementBounds& bounds) {
-  PaintTexts(canvas, chart);
-  PaintAxes(canvas, chart);
+void ChartScreen::OnChosen() {
+  if (chart_.lower_bound) requirement_.Update();
+}
+
+void ChartScreen::Refresh() {
+  series_ = LoadSeries(chart_, session_);
+  refusal_ = RefusalOf(chart_, series_);
+  is_drawn_ = !refusal_;
+}
+
+void ChartScreen::Paint(Canvas& canvas) const {
+  PaintTexts(canvas, chart_);
+  PaintAxes(canvas, chart_);
   PaintGrid(canvas);
-  if (chart.lower_bound) PaintBand(canvas, chart, *chart.lower_bound, bounds);
-  const ChartSeries series = LoadSeries(chart, session_);
-  refusal_ = RefusalOf(chart, series);
-  if (!refusal_) Plot(canvas, chart, series);
+  if (chart_.lower_bound) PaintBand(canvas, chart_, *chart_.lower_bound, requirement_.Bounds());
+  if (is_drawn_) Plot(canvas, chart_, series_);
   canvas.SetPen(kAxisPen);
 }
 

@@ -9,6 +9,13 @@
 namespace velnor {
 namespace {
 
+constexpr int kClear = 165;
+
+constexpr ControlRow kControls[] = {Button(kClear, "Clear", {705, 23, 80, 25})};
+
+constexpr ControlEvent<BalanceScreen> kEvents[] = {
+    {kClear, kButtonClicked, &BalanceScreen::ClearDay}};
+
 constexpr Colour kGrey{79, 79, 79};
 constexpr Colour kLightGrey{205, 205, 205};
 constexpr Colour kGreen{0, 205, 0};
@@ -126,12 +133,29 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
 
 }  // namespace
 
-void PaintBalance(Canvas& canvas, DayBalance& day, const DailyRequirement& requirement) {
-  day.MakeExchangeFiles();
-  const DayTotals totals = day.ReadTotals().value_or(DayTotals{});
-  PaintHead(canvas, day.ReadExchanges());
+std::span<const ControlRow> BalanceScreen::Controls() { return kControls; }
+
+void BalanceScreen::OnChosen() { requirement_.Update(); }
+
+bool BalanceScreen::OnControl(int id, int notification) {
+  return RunEvent<BalanceScreen>(*this, kEvents, id, notification);
+}
+
+void BalanceScreen::ClearDay() {
+  food_list_.ClearDay();
+  window_.Invalidate();
+}
+
+void BalanceScreen::Refresh() {
+  day_.MakeExchangeFiles();
+  totals_ = day_.ReadTotals().value_or(DayTotals{});
+  exchanges_ = day_.ReadExchanges();
+}
+
+void BalanceScreen::Paint(Canvas& canvas) const {
+  PaintHead(canvas, exchanges_);
   for (const BalanceScale& scale : BalanceScales()) {
-    PaintScale(canvas, scale, totals.*scale.eaten, requirement);
+    PaintScale(canvas, scale, totals_.*scale.eaten, requirement_.requirement());
   }
 }
 

@@ -3,15 +3,42 @@
 #ifndef VELNOR_FOOD_BALANCE_SCREEN_H_
 #define VELNOR_FOOD_BALANCE_SCREEN_H_
 
-#include "activity/requirement.h"
-#include "base/canvas.h"
+#include <span>
+
+#include "activity/day_requirement.h"
+#include "base/control.h"
+#include "base/main_window.h"
+#include "base/screen.h"
 #include "food/day_balance.h"
+#include "food/food_list_panel.h"
 
 namespace velnor {
 
-// Draws the day as its files hold it now, after starting them afresh when they are of another day.
-// A day that cannot be read is drawn as nothing eaten.
-void PaintBalance(Canvas& canvas, DayBalance& day, const DailyRequirement& requirement);
+class BalanceScreen final : public Screen {
+ public:
+  BalanceScreen(DayBalance& day, FoodListPanel& food_list, DayRequirement& requirement,
+                MainWindow& window)
+      : day_(day), food_list_(food_list), requirement_(requirement), window_(window) {}
+
+  static std::span<const ControlRow> Controls();
+  void OnChosen() override;
+  // Takes the day as its files hold it now, after starting them afresh when they are of another
+  // day. A day that cannot be read is drawn as nothing eaten.
+  void Refresh() override;
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
+
+  // The button: nothing has been eaten today.
+  void ClearDay();
+
+ private:
+  DayBalance& day_;
+  FoodListPanel& food_list_;
+  DayRequirement& requirement_;
+  MainWindow& window_;
+  DayTotals totals_;
+  DayExchanges exchanges_;
+};
 
 }  // namespace velnor
 

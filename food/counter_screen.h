@@ -4,21 +4,44 @@
 #ifndef VELNOR_FOOD_COUNTER_SCREEN_H_
 #define VELNOR_FOOD_COUNTER_SCREEN_H_
 
-#include "base/canvas.h"
+#include <span>
+
+#include "activity/day_requirement.h"
+#include "base/control.h"
+#include "base/main_window.h"
+#include "base/session.h"
+#include "food/food_list_panel.h"
 #include "food/product_picker.h"
 
 namespace velnor {
 
 class CounterScreen final : public ProductPicker {
  public:
-  CounterScreen(const FoodTable& food, Form& form);
+  CounterScreen(const SessionState& session, const FoodTable& food, const Exchanges& exchanges,
+                FoodListPanel& list, DayRequirement& requirement, Form& form, MainWindow& window);
 
-  // Draws the fixed texts and offers the main categories.
-  void Paint(Canvas& canvas);
+  static std::span<const ControlRow> Controls();
+  void OnChosen() override;
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
+
+  // The buttons.
+  void OpenSearch();
+  void AddToList();
+  void RemoveFromList();
+  void ClearList();
+  void OpenCalorieRecord();
+  void OpenRecipeRecord();
 
  private:
   void ShowNoProduct() override;
   void ShowAmounts(const NutrientAmounts& amounts) override;
+
+  const SessionState& session_;
+  const Exchanges& exchanges_;
+  FoodListPanel& list_;
+  DayRequirement& requirement_;
+  MainWindow& window_;
 };
 
 }  // namespace velnor

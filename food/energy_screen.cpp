@@ -9,6 +9,14 @@ namespace velnor {
 namespace {
 
 constexpr int kBmr = 181;
+constexpr int kCount = 182;
+
+constexpr ControlRow kControls[] = {
+    NumberField(kBmr, {200, 150, 50, 23}, kBmrTextLimit, "Put Your BMR value [kcal]"),
+    MainButton(kCount, "COUNT ENERGY BALANCE / REFRESH", {299, 150, 310, 25}),
+};
+
+constexpr ControlEvent<EnergyScreen> kEvents[] = {{kCount, kButtonClicked, &EnergyScreen::Count}};
 
 // The system's own text, as it stands.
 constexpr std::string_view kNoBmr =
@@ -105,13 +113,23 @@ EnergyScreen::EnergyScreen(const DayBalance& day, BurnedTotal& burned, Form& for
                            MainWindow& window, MessageBoxes& message_boxes)
     : day_(day), burned_(burned), form_(form), window_(window), message_boxes_(message_boxes) {}
 
-EnergyFigures EnergyScreen::Figures() const {
+std::span<const ControlRow> EnergyScreen::Controls() { return kControls; }
+
+bool EnergyScreen::OnControl(int id, int notification) {
+  return RunEvent<EnergyScreen>(*this, kEvents, id, notification);
+}
+
+EnergyFigures EnergyScreen::ReadFigures() const {
   return {bmr_, burned_.kcal(), static_cast<float>(day_.ReadKcalOfAnyDay())};
 }
 
-void EnergyScreen::Paint(Canvas& canvas) {
+void EnergyScreen::Refresh() {
   burned_.Refresh();
-  const EnergyFigures figures = Figures();
+  figures_ = ReadFigures();
+  form_.SetText(kBmr, Rounded(bmr_, kBmrDigits));
+}
+
+void EnergyScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
   canvas.WriteText({10, 30}, "Energy balance");
   canvas.WriteText({300, 470}, "DIFFERENCE [kcal] = ");
@@ -119,8 +137,7 @@ void EnergyScreen::Paint(Canvas& canvas) {
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
   WriteTexts(canvas, kIntroduction);
-  PaintScales(canvas, ShownOut(figures), ShownEaten(figures));
-  form_.SetText(kBmr, Rounded(bmr_, kBmrDigits));
+  PaintScales(canvas, ShownOut(figures_), ShownEaten(figures_));
 }
 
 void EnergyScreen::Count() {
@@ -130,7 +147,7 @@ void EnergyScreen::Count() {
     return;
   }
   bmr_ = typed;
-  difference_ = EnergyDifference(Figures());
+  difference_ = EnergyDifference(ReadFigures());
   window_.Invalidate();
 }
 

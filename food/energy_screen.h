@@ -4,39 +4,46 @@
 #ifndef VELNOR_FOOD_ENERGY_SCREEN_H_
 #define VELNOR_FOOD_ENERGY_SCREEN_H_
 
+#include <span>
+
 #include "activity/burned_calories.h"
-#include "food/energy_balance.h"
-#include "base/canvas.h"
+#include "base/control.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
+#include "base/screen.h"
 #include "food/day_balance.h"
+#include "food/energy_balance.h"
 
 namespace velnor {
 
-class EnergyScreen {
+class EnergyScreen final : public Screen {
  public:
   EnergyScreen(const DayBalance& day, BurnedTotal& burned, Form& form, MainWindow& window,
                MessageBoxes& message_boxes);
 
-  // Draws what the day's files hold now. What stands in the field of the basal metabolic rate gives
+  static std::span<const ControlRow> Controls();
+  // Takes what the day's files hold now. What stands in the field of the basal metabolic rate gives
   // way to the last one counted with.
-  void Paint(Canvas& canvas);
+  void Refresh() override;
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
 
   // The button: counts the difference with the typed rate. Text that is no number, or 0, is
   // answered with a message and changes nothing.
   void Count();
 
  private:
-  EnergyFigures Figures() const;
+  EnergyFigures ReadFigures() const;
 
   const DayBalance& day_;
   BurnedTotal& burned_;
   Form& form_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
-  float bmr_ = 0;         // kcal, the last one counted with
-  float difference_ = 0;  // kcal, the last one counted
+  float bmr_ = 0;          // kcal, the last one counted with
+  float difference_ = 0;   // kcal, the last one counted
+  EnergyFigures figures_;  // that are drawn
 };
 
 }  // namespace velnor

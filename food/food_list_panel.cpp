@@ -4,26 +4,12 @@
 #include <optional>
 
 #include "base/number_text.h"
+#include "food/counter_controls.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kWeight = 128;
-constexpr int kKcal = 129;
-constexpr int kProtein = 130;
-constexpr int kFat = 131;
-constexpr int kCarbohydrate = 132;
-constexpr int kList = 134;
-constexpr int kTotalWeight = 137;
-constexpr int kTotalKcal = 138;
-constexpr int kTotalProtein = 139;
-constexpr int kTotalFat = 140;
-constexpr int kTotalCarbohydrate = 141;
-constexpr int kRatioProtein = 142;
-constexpr int kRatioFat = 143;
-constexpr int kRatioCarbohydrate = 144;
-constexpr int kCarbohydrateExchange = 183;
-constexpr int kProteinFatExchange = 184;
+using namespace counter;  // NOLINT(google-build-using-namespace): the names of its controls
 
 constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein,
                            kTotalFat,          kTotalCarbohydrate, kRatioProtein,

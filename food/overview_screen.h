@@ -3,9 +3,11 @@
 #ifndef VELNOR_FOOD_OVERVIEW_SCREEN_H_
 #define VELNOR_FOOD_OVERVIEW_SCREEN_H_
 
+#include <span>
 #include <string_view>
 
-#include "base/canvas.h"
+#include "base/control.h"
+#include "base/main_window.h"
 #include "food/product_picker.h"
 
 namespace velnor {
@@ -13,10 +15,14 @@ namespace velnor {
 class OverviewScreen final : public ProductPicker {
  public:
   // `exchanges` keeps the last exchanges counted, here or elsewhere.
-  OverviewScreen(const FoodTable& food, Exchanges& exchanges, Form& form);
+  OverviewScreen(const FoodTable& food, Exchanges& exchanges, Form& form, MainWindow& window);
 
-  // Draws the fixed texts and offers the main categories.
-  void Paint(Canvas& canvas);
+  static std::span<const ControlRow> Controls();
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
+
+  // The button.
+  void OpenSearch();
 
  private:
   void ShowChosenProduct() override;
@@ -24,6 +30,7 @@ class OverviewScreen final : public ProductPicker {
   void ShowRatio(std::string_view trace);
 
   Exchanges& exchanges_;
+  MainWindow& window_;
 };
 
 }  // namespace velnor

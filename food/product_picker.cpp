@@ -9,7 +9,17 @@
 
 namespace velnor {
 
-void ProductPicker::FillMainCategoryList() {
+bool ProductPicker::OnControl(int id, int notification) {
+  const ControlEvent<ProductPicker> events[] = {
+      {controls_.main_category, kSelectionChanged, &ProductPicker::OnMainCategoryChosen},
+      {controls_.subcategory, kSelectionChanged, &ProductPicker::OnSubcategoryChosen},
+      {controls_.products, kSelectionChanged, &ProductPicker::OnProductChosen},
+      {controls_.weight, kEditUpdated, &ProductPicker::OnWeightChanged},
+  };
+  return RunEvent<ProductPicker>(*this, events, id, notification);
+}
+
+void ProductPicker::Refresh() {
   if (form_.ItemCount(controls_.main_category) > 0) return;
   form_.FillItems(controls_.main_category, ListMainCategories(food_));
 }

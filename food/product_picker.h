@@ -9,6 +9,7 @@
 #include <string>
 
 #include "base/form.h"
+#include "base/screen.h"
 #include "food/food_table.h"
 #include "food/nutrition.h"
 #include "food/product_rules.h"
@@ -30,14 +31,15 @@ struct PickerControls {
   std::size_t name_limit;    // characters of a chosen name that count
 };
 
-class ProductPicker {
+class ProductPicker : public Screen {
  public:
   ProductPicker(const FoodTable& food, const PickerControls& controls, Form& form)
       : food_(food), controls_(controls), form_(form) {}
-  virtual ~ProductPicker() = default;
 
   // Offers the main categories, once: a box that has entries keeps them.
-  void FillMainCategoryList();
+  void Refresh() override;
+  // The events of the picker's own controls.
+  bool OnControl(int id, int notification) override;
 
   // The user chose a main category: offers its subcategories and empties the product list.
   void OnMainCategoryChosen();
@@ -61,7 +63,7 @@ class ProductPicker {
   virtual void ShowChosenProduct() {}  // after the values of a choice stand
   virtual void ShowAmounts(const NutrientAmounts& amounts) = 0;
 
-  const PickerControls& controls() const { return controls_; }
+  const FoodTable& food() const { return food_; }
   Form& form() { return form_; }
 
  private:

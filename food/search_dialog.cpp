@@ -1,5 +1,7 @@
 #include "food/search_dialog.h"
 
+#include <memory>
+
 #include "food/product_search.h"
 
 namespace velnor {
@@ -41,6 +43,10 @@ void SearchDialog::Find(Form& form) {
     form.AddItems(kResults, Views(results));
   }
   form.Focus(kFind);
+}
+
+void OpenSearch(MainWindow& window, const FoodTable& food) {
+  window.OpenDialog(kSearchResource, std::make_unique<SearchDialog>(food));
 }
 
 }  // namespace velnor

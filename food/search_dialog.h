@@ -4,6 +4,7 @@
 #define VELNOR_FOOD_SEARCH_DIALOG_H_
 
 #include "base/dialog.h"
+#include "base/main_window.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -22,6 +23,9 @@ class SearchDialog final : public Dialog {
 
   const FoodTable& food_;
 };
+
+// Opens the dialog.
+void OpenSearch(MainWindow& window, const FoodTable& food);
 
 }  // namespace velnor
 

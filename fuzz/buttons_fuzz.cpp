@@ -20,6 +20,7 @@
 #include "base/number_text.h"
 #include "fuzz/day.h"
 #include "fuzz/dialog_templates.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -38,10 +39,9 @@ Target MainWindowOf(ProgramRun& run) {
   Target target = {run.form(), {}};
   const std::set<int> shown = run.form().ShownKeys();
   for (const ControlRow& row : MainWindowControls()) {
-    const bool is_second = shown.contains(SecondControl(row.id));
-    if (!shown.contains(row.id) && !is_second) continue;
+    if (!shown.contains(row.key)) continue;
     if (row.style == control_style::kGroupBox) continue;
-    target.controls.push_back({row.id, row.control_class, row.style});
+    target.controls.push_back({row.id(), row.control_class, row.style});
   }
   return target;
 }

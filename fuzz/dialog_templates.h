@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "shell/controls.h"
+#include "base/control.h"
 
 namespace velnor {
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "fuzz/dialog_templates.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -151,7 +152,7 @@ void ProgramRun::Settle() {
 RecordingCanvas ProgramRun::Repaint() {
   RecordingCanvas canvas;
   wants_repaint_ = false;
-  program_->HideControls();
+  program_->PreparePaint();
   program_->Paint(canvas);
   if (figures_are_numbers_) RequireNumbers(canvas);
   program_->FinishPaint();
@@ -205,7 +206,7 @@ void ProgramRun::RequireNumbers(const RecordingCanvas& canvas) const {
   }
   for (const ControlRow& row : MainWindowControls()) {
     if (row.control_class != ControlClass::kStatic) continue;
-    Require(!is_no_number(form_.Text(row.id)), "a shown figure is a number");
+    Require(!is_no_number(form_.Text(row.id())), "a shown figure is a number");
   }
 }
 

@@ -1,5 +1,6 @@
 #include "reports/report_screen.h"
 
+#include <cstdint>
 #include <string_view>
 
 #include "base/text_file.h"
@@ -9,6 +10,56 @@ namespace velnor {
 namespace {
 
 constexpr int kTextEdit = 119;
+constexpr int kReadOnlyText = 148;
+constexpr int kClear = 151;
+constexpr int kSave = 152;
+
+constexpr std::uint32_t kEditStyle = control_style::kBorder | control_style::kMultiLine |
+                                     control_style::kScrollVertically |
+                                     control_style::kKeepSelection;
+constexpr std::uint32_t kReadOnlyStyle = control_style::kVerticalScroll |
+                                         control_style::kHorizontalScroll |
+                                         control_style::kMultiLine | control_style::kReadOnly;
+
+constexpr ControlRow kControls[] = {
+    {.key = kTextEdit,
+     .control_class = ControlClass::kEdit,
+     .text = "",
+     .style = kEditStyle,
+     .place = {5, 85, 780, 430},
+     .label = "Report"},
+    {.key = kReadOnlyText,
+     .control_class = ControlClass::kEdit,
+     .text = "",
+     .style = kReadOnlyStyle,
+     .place = {10, 85, 775, 450},
+     .label = "Report",
+     .is_shown = false},
+    Button(kClear, "Clear raport", {580, 23, 115, 29}),
+    Button(kSave, "Save changes", {450, 23, 110, 29}),
+    Button(153, "V", {750, 520, 30, 23}),
+    Button(154, "^", {750, 57, 30, 23}),
+    Button(155, "VV", {710, 520, 30, 23}),
+    Button(156, "^^", {710, 57, 30, 23}),
+    Button(157, "VVV", {650, 520, 45, 23}),
+    Button(158, "^^^", {650, 57, 45, 23}),
+};
+
+constexpr ControlEvent<ReportScreen> kEvents[] = {
+    {kClear, kButtonClicked, &ReportScreen::Clear},
+    {kSave, kButtonClicked, &ReportScreen::Save},
+};
+
+struct ScrollButton {
+  int id;
+  ScrollStep step;
+  int times;
+};
+constexpr ScrollButton kScrollButtons[] = {
+    {153, ScrollStep::kLineDown, 5},  {154, ScrollStep::kLineUp, 5},
+    {155, ScrollStep::kLineDown, 12}, {156, ScrollStep::kLineUp, 12},
+    {157, ScrollStep::kPageDown, 1},  {158, ScrollStep::kPageUp, 1},
+};
 
 constexpr std::string_view kSureToClear =
     "Are You sure You want erase report?\nAll data will be LOST!\n"
@@ -32,18 +83,32 @@ std::optional<std::string> ReportScreen::Path() const {
   return report == nullptr ? std::nullopt : session_.UserFile(report->file_name);
 }
 
-void ReportScreen::Paint(Canvas& canvas) {
+std::span<const ControlRow> ReportScreen::Controls() { return kControls; }
+
+bool ReportScreen::OnControl(int id, int notification) {
+  for (const ScrollButton& button : kScrollButtons) {
+    if (button.id != id || notification != kButtonClicked) continue;
+    for (int i = 0; i < button.times; ++i) form_.Scroll(kTextEdit, button.step);
+    return true;
+  }
+  return RunEvent<ReportScreen>(*this, kEvents, id, notification);
+}
+
+void ReportScreen::Refresh() {
+  const std::optional<std::string> path = Path();
+  has_rest_ = path && HasRest(*path);
+  if (!path || path != unsaved_path_) ShowFile();
+}
+
+void ReportScreen::Paint(Canvas& canvas) const {
   const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
   canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
-  const std::optional<std::string> path = Path();
-  if (path && HasRest(*path)) {
-    canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
-  }
-  if (!path || path != unsaved_path_) ShowFile();
+  if (!has_rest_) return;
+  canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
 }
 
 void ReportScreen::ShowFile() {
@@ -83,12 +148,7 @@ void ReportScreen::Save() {
   window_.Invalidate();
 }
 
-void ReportScreen::Scroll(ScrollStep step, int times) {
-  for (int i = 0; i < times; ++i) form_.Scroll(kTextEdit, step);
-}
-
-bool ReportScreen::OnMouseWheel(bool down) {
-  if (FindReport(session_.screen) == nullptr) return false;
+bool ReportScreen::OnWheel(bool down) {
   form_.Scroll(kTextEdit, down ? ScrollStep::kLineDown : ScrollStep::kLineUp);
   return true;
 }

@@ -5,35 +5,37 @@
 #define VELNOR_REPORTS_REPORT_SCREEN_H_
 
 #include <optional>
+#include <span>
 #include <string>
 
-#include "base/canvas.h"
+#include "base/control.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
+#include "base/screen.h"
 #include "base/session.h"
 
 namespace velnor {
 
-class ReportScreen {
+class ReportScreen final : public Screen {
  public:
   ReportScreen(const SessionState& session, Form& form, MainWindow& window,
                MessageBoxes& message_boxes);
 
-  // The screen was chosen in the menu: a text that could not be saved gives way to the file.
-  void Reload() { unsaved_path_.reset(); }
-
+  static std::span<const ControlRow> Controls();
+  // A text that could not be saved gives way to the file.
+  void OnChosen() override { unsaved_path_.reset(); }
   // Reads the file again and shows what it holds: changes that were not saved are gone. Those that
-  // could not be saved stay until they are, or until the report is reloaded or cleared.
-  void Paint(Canvas& canvas);
+  // could not be saved stay until they are, or until the report is chosen again or cleared.
+  void Refresh() override;
+  void Paint(Canvas& canvas) const override;
+  bool OnControl(int id, int notification) override;
+  // Scrolls one line, whatever the distance.
+  bool OnWheel(bool down) override;
 
-  // The buttons. On a screen without a report, Clear and Save do nothing.
+  // The buttons. Without a report, Clear and Save do nothing.
   void Clear();
   void Save();
-  void Scroll(ScrollStep step, int times);
-
-  // Scrolls one line. False, with nothing done, on a screen without a report.
-  bool OnMouseWheel(bool down);
 
  private:
   // What the edit was last filled with. This tells, when the text is saved over the file, which of
@@ -52,6 +54,7 @@ class ReportScreen {
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   Shown shown_;
+  bool has_rest_ = false;                    // something of the report is kept beside it
   std::optional<std::string> unsaved_path_;  // of the report whose text could not be saved
 };
 

@@ -2,86 +2,137 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
+#include <string_view>
 
+#include "base/text_file.h"
+#include "food/add_product_dialog.h"
+#include "food/remove_product_dialog.h"
+#include "food/user_product_file.h"
 #include "shell/about_box.h"
-#include "shell/program.h"
+#include "shell/parts.h"
 #include "shell/screens.h"
+#include "users/login_dialog.h"
+#include "users/profile_dialog.h"
+#include "users/users_dialog.h"
 
 namespace velnor {
 namespace {
 
 constexpr std::string_view kHelpFile = "Velnor CALORIES COUNTER V 2.6 PORADNIK.HLP";
 
-void OpenLogin(Program& program) { program.OpenLogin(); }
+// What begins with the login of a user: the day's balance, the user's limits, an empty list.
+void StartUserDay(Parts& parts) {
+  PassOver(parts.day.StartDayIfNew());
+  parts.requirement.OnLogin();
+  parts.food_list.Empty("");
+}
 
-void LogOut(Program& program) { program.LogOut(); }
+void OpenLogin(Parts& parts) {
+  const LoginDialog::Events events = {
+      .on_login = [&parts] { ApplyMenuState(MenuState::kLoggedIn, parts.window); },
+      .start_day = [&parts] { StartUserDay(parts); },
+      .on_user_changed = [&parts] { parts.window.CloseSessionDialogs(); }};
+  parts.window.OpenDialog(kLoginResource,
+                          std::make_unique<LoginDialog>(parts.session, parts.profile, parts.window,
+                                                        parts.message_boxes, events));
+}
 
-void OpenUsers(Program& program) { program.OpenUsers(); }
+void LogOut(Parts& parts) {
+  parts.message_boxes.Show({.text = "BYE, SEE YOU SOON!"});
+  ApplyMenuState(MenuState::kAfterLogout, parts.window);
+  parts.window.CloseSessionDialogs();
+  parts.session.user.reset();
+  parts.session.screen = kHomeScreen;
+  parts.window.PaintNow();
+}
 
-void OpenProfile(Program& program) { program.OpenProfile(); }
+void OpenUsers(Parts& parts) {
+  const auto on_removed = [&parts] {
+    ApplyMenuState(MenuState::kUserRemoved, parts.window);
+    parts.window.CloseSessionDialogs();
+  };
+  parts.window.OpenDialog(
+      kUsersResource,
+      std::make_unique<UsersDialog>(parts.session, parts.window, parts.message_boxes, on_removed));
+}
 
-void Exit(Program& program) { program.window().Close(); }
+void OpenProfile(Parts& parts) {
+  parts.window.OpenSessionDialog(
+      kProfileResource, std::make_unique<ProfileDialog>(parts.session, parts.profile, parts.window,
+                                                        parts.message_boxes));
+}
 
-void OpenAboutBox(Program& program) {
+void Exit(Parts& parts) { parts.window.Close(); }
+
+// After a product of the user's own came or went.
+void OnProductsChanged(Parts& parts) {
+  parts.counter_screen.OnProductsChanged();
+  parts.overview_screen.OnProductsChanged();
+}
+
+void OpenAddProduct(Parts& parts) {
+  parts.window.OpenDialog(kAddProductResource,
+                          std::make_unique<AddProductDialog>(
+                              parts.food, parts.session.BaseFile(kUserProductsFile),
+                              parts.message_boxes, [&parts] { OnProductsChanged(parts); }));
+}
+
+void OpenRemoveProduct(Parts& parts) {
+  parts.window.OpenDialog(kRemoveProductResource,
+                          std::make_unique<RemoveProductDialog>(
+                              parts.food, parts.session.BaseFile(kUserProductsFile),
+                              parts.message_boxes, [&parts] { OnProductsChanged(parts); }));
+}
+
+void OpenAboutBox(Parts& parts) {
   AboutBox about_box;
-  program.window().RunDialog(kAboutBoxResource, about_box);
+  parts.window.RunDialog(kAboutBoxResource, about_box);
 }
 
-void OpenHelp(Program& program) { program.window().OpenHelp(kHelpFile); }
+void OpenHelp(Parts& parts) { parts.window.OpenHelp(kHelpFile); }
 
-void SayNotAvailable(Program& program) {
-  program.message_boxes().Show({.text = "Function not yet available"});
+void SayNotAvailable(Parts& parts) {
+  parts.message_boxes.Show({.text = "Function not yet available"});
 }
 
-void OpenAddProduct(Program& program) { program.OpenAddProduct(); }
-
-void OpenRemoveProduct(Program& program) { program.OpenRemoveProduct(); }
-
-struct CommandRow {
-  int id;
-  void (*run)(Program& program);
-};
-
-// The commands that do something other than selecting a screen.
 // clang-format off
 constexpr CommandRow kCommands[] = {
-    {200, OpenLogin},
-    {201, LogOut},
-    {202, OpenUsers},
-    {203, Exit},
-    {204, OpenProfile},
-    {211, SayNotAvailable},
-    {220, SayNotAvailable},
-    {222, SayNotAvailable},
-    {223, SayNotAvailable},
-    {230, SayNotAvailable},
-    {234, SayNotAvailable},
-    {235, SayNotAvailable},
-    {237, SayNotAvailable},
-    {240, OpenAddProduct},
-    {241, OpenRemoveProduct},
-    {250, OpenAboutBox},
-    {251, OpenHelp},
+    {200, OpenLogin,         kWithoutUser},
+    {201, LogOut,            kWithUser},
+    {202, OpenUsers,         kAlways},
+    {203, Exit,              kAlways},
+    {204, OpenProfile,       kWithUser},
+    {211, SayNotAvailable,   kWithUser},
+    {220, SayNotAvailable,   kWithUser},
+    {222, SayNotAvailable,   kWithUser},
+    {223, SayNotAvailable,   kWithUser},
+    {230, SayNotAvailable,   kWithUser},
+    {234, SayNotAvailable,   kWithUser},
+    {235, SayNotAvailable,   kWithUser},
+    {237, SayNotAvailable,   kWithUserAndAfterLogout},
+    {240, OpenAddProduct,    kAlwaysButKeptAtLogout},
+    {241, OpenRemoveProduct, kAlwaysButKeptAtLogout},
+    {250, OpenAboutBox,      kAlways},
+    {251, OpenHelp,          kAlways},
 };
 // clang-format on
 
-// Menu ids; outside of them an id always belongs to a control.
-constexpr int kFirstCommand = 200;
-constexpr int kLastCommand = 274;
-
 }  // namespace
 
-bool RunCommand(Program& program, int id) {
-  if (id < kFirstCommand || id > kLastCommand) return false;
+std::span<const CommandRow> Commands() { return kCommands; }
+
+bool RunCommand(Parts& parts, int id) {
+  if (id == 0) return false;  // screens without a command
   const auto screen = std::ranges::find(Screens(), id, &ScreenRow::command);
   if (screen != Screens().end()) {
-    if (screen->before != nullptr) screen->before(program);
-    program.ShowScreen(screen->id);
+    screen->screen(parts).OnChosen();
+    ShowScreen(parts, screen->id);
     return true;
   }
-  const CommandRow* const command = std::ranges::find(kCommands, id, &CommandRow::id);
+  const auto* const command = std::ranges::find(kCommands, id, &CommandRow::id);
   if (command == std::end(kCommands)) return false;
-  command->run(program);
+  command->run(parts);
   return true;
 }
 

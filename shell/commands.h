@@ -1,15 +1,29 @@
-// The commands of the menu: what each id between the first and the last does.
+// The commands of the menu that do something other than choosing a screen: what each does, and when
+// its item can be chosen.
 
 #ifndef VELNOR_SHELL_COMMANDS_H_
 #define VELNOR_SHELL_COMMANDS_H_
 
+#include <span>
+
+#include "shell/menu_states.h"
+
 namespace velnor {
 
-class Program;
+struct Parts;
 
-// Carries out the menu command `id`. Returns false, having done nothing, when `id` is no command:
-// such an id belongs to a control.
-bool RunCommand(Program& program, int id);
+struct CommandRow {
+  int id;
+  void (*run)(Parts& parts);
+  Availability availability;
+};
+
+// All of them, by id.
+std::span<const CommandRow> Commands();
+
+// Carries out the menu command `id`, be it that of a screen or one of these. Returns false, having
+// done nothing, when `id` is no command: such an id belongs to a control.
+bool RunCommand(Parts& parts, int id);
 
 }  // namespace velnor
 

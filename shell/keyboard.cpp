@@ -4,10 +4,11 @@
 #include <iterator>
 #include <string_view>
 
-#include "base/form.h"
-#include "shell/controls.h"
+#include "base/control.h"
+#include "food/search_dialog.h"
 #include "shell/own_menu.h"
-#include "shell/program.h"
+#include "shell/parts.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -19,59 +20,45 @@ constexpr std::string_view kNoGuide =
     "(on Debian it is in /usr/share/doc/velnor).\n"
     "F1 opens it where it lies beside the program or in the folder of Your data.";
 
-void OpenGuide(Program& program) {
-  const bool opened = std::ranges::any_of(kGuideFiles, [&program](std::string_view name) {
-    return program.window().OpenGuideFile(name);
-  });
-  if (!opened) program.message_boxes().Show({.text = kNoGuide});
+void OpenGuide(Parts& parts) {
+  const bool opened = std::ranges::any_of(
+      kGuideFiles, [&parts](std::string_view name) { return parts.window.OpenGuideFile(name); });
+  if (!opened) parts.message_boxes.Show({.text = kNoGuide});
 }
 
 struct KeyRow {
   KeyPress press;
-  void (*run)(Program& program);
+  void (*run)(Parts& parts);
 };
 
 constexpr KeyRow kKeys[] = {
     {{.key = kF1Key}, OpenGuide},
-    {{.key = 'F', .control = true}, [](Program& p) { p.OpenSearch(); }},
-    {{.key = 'K', .control = true}, [](Program& p) { RunOwnMenuItem(p, kQuickAddItem); }},
-    {{.key = 'D', .control = true}, [](Program& p) { RunOwnMenuItem(p, kDiaryItem); }},
-};
-
-struct MainButton {
-  ScreenId screen;
-  int button;
-};
-
-constexpr MainButton kMainButtons[] = {
-    {1, 102},   // Count BMI
-    {2, 106},   // Count WHR
-    {6, 174},   // Activate
-    {7, 127},   // Add
-    {10, 161},  // Count
-    {18, 176},  // Count BMR
-    {19, 182},  // COUNT ENERGY BALANCE / REFRESH
+    {{.key = 'F', .control = true}, [](Parts& p) { OpenSearch(p.window, p.food); }},
+    {{.key = 'K', .control = true}, [](Parts& p) { RunOwnMenuItem(p, kQuickAddItem); }},
+    {{.key = 'D', .control = true}, [](Parts& p) { RunOwnMenuItem(p, kDiaryItem); }},
 };
 
 }  // namespace
 
-bool RunKey(Program& program, const KeyPress& press) {
+bool RunKey(Parts& parts, const KeyPress& press) {
   const auto* const row = std::ranges::find(kKeys, press, &KeyRow::press);
   if (row == std::end(kKeys)) return false;
-  row->run(program);
+  row->run(parts);
   return true;
 }
 
 int ButtonOfEnter(ScreenId screen, int focused_key) {
-  const std::span<const ControlRow> rows = MainWindowControls();
-  const int id = focused_key & ~SecondControl(0);
-  const auto row = std::ranges::find(rows, id, &ControlRow::id);
-  if (row == rows.end()) return 0;
-  if (row->control_class == ControlClass::kButton) return id;
-  const bool is_field =
-      row->control_class == ControlClass::kEdit && (row->style & control_style::kMultiLine) == 0;
-  const auto* const main = std::ranges::find(kMainButtons, screen, &MainButton::screen);
-  return is_field && main != std::end(kMainButtons) ? main->button : 0;
+  const std::span<const ControlRow> all = MainWindowControls();
+  const auto focused = std::ranges::find(all, focused_key, &ControlRow::key);
+  if (focused == all.end()) return 0;
+  if (focused->control_class == ControlClass::kButton) return focused->id();
+  const ScreenRow* const row = FindScreen(screen);
+  const bool is_field = focused->control_class == ControlClass::kEdit &&
+                        (focused->style & control_style::kMultiLine) == 0;
+  if (row == nullptr || !is_field) return 0;
+  const std::span<const ControlRow> own = row->controls();
+  const auto button = std::ranges::find(own, true, &ControlRow::is_pressed_by_enter);
+  return button == own.end() ? 0 : button->id();
 }
 
 }  // namespace velnor

@@ -8,7 +8,7 @@
 
 namespace velnor {
 
-class Program;
+struct Parts;
 
 // Keys by the platform's numbers; a letter's number is that of the capital.
 inline constexpr int kTabKey = 0x09;
@@ -25,7 +25,7 @@ struct KeyPress {
 };
 
 // Carries out the command of the key. Returns false, having done nothing, when it has none.
-bool RunKey(Program& program, const KeyPress& press);
+bool RunKey(Parts& parts, const KeyPress& press);
 
 // The button that Enter presses while the control `focused_key` of `screen` has the focus: in a
 // field of one line the main button of the screen, on a button that button. 0: none, then the key

@@ -1,14 +1,24 @@
 #include "shell/own_menu.h"
 
 #include <algorithm>
+#include <memory>
 
-#include "shell/program.h"
+#include "food/import_products_dialog.h"
+#include "food/user_product_file.h"
+#include "shell/parts.h"
 
 namespace velnor {
 namespace {
 
+void OpenImportProducts(Parts& parts) {
+  parts.window.OpenDialog(
+      kImportProductsResource,
+      std::make_unique<ImportProductsDialog>(parts.food, parts.session.BaseFile(kUserProductsFile),
+                                             parts.window, parts.message_boxes));
+}
+
 constexpr OwnMenuItem kItems[] = {
-    {kImportItem, "Import products...", false, [](Program& p) { p.OpenImportProducts(); }},
+    {kImportItem, "Import products...", false, OpenImportProducts},
 };
 
 }  // namespace
@@ -19,10 +29,10 @@ bool CanBeChosen(const OwnMenuItem& item, const SessionState& session) {
   return !item.needs_user || session.user.has_value();
 }
 
-bool RunOwnMenuItem(Program& program, int id, std::span<const OwnMenuItem> items) {
+bool RunOwnMenuItem(Parts& parts, int id, std::span<const OwnMenuItem> items) {
   const auto item = std::ranges::find(items, id, &OwnMenuItem::id);
   if (item == items.end()) return false;
-  if (CanBeChosen(*item, program.session())) item->run(program);
+  if (CanBeChosen(*item, parts.session)) item->run(parts);
   return true;
 }
 

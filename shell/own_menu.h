@@ -10,7 +10,7 @@
 
 namespace velnor {
 
-class Program;
+struct Parts;
 
 // The ids of the items, in the range of system commands: above 0, below 0xF000, and multiples of 16
 // because the system keeps the low four bits to itself. Ids of the menu bar may be equal to them.
@@ -24,7 +24,7 @@ struct OwnMenuItem {
   int id;
   const char* text;
   bool needs_user;  // greyed while nobody is logged in
-  void (*run)(Program& program);
+  void (*run)(Parts& parts);
 };
 
 // All items, from top to bottom.
@@ -34,7 +34,7 @@ bool CanBeChosen(const OwnMenuItem& item, const SessionState& session);
 
 // Carries out the item `id` if it can be chosen. Returns false, having done nothing, when no item
 // has that id.
-bool RunOwnMenuItem(Program& program, int id, std::span<const OwnMenuItem> items = OwnMenuItems());
+bool RunOwnMenuItem(Parts& parts, int id, std::span<const OwnMenuItem> items = OwnMenuItems());
 
 }  // namespace velnor
 

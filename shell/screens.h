@@ -1,32 +1,48 @@
-// The screens of the main window: 21 of them, one shown at a time.
+// The registry of the screens of the main window: a row each. One screen is shown at a time.
 
 #ifndef VELNOR_SHELL_SCREENS_H_
 #define VELNOR_SHELL_SCREENS_H_
 
 #include <span>
 #include <string_view>
+#include <vector>
 
-#include "base/canvas.h"
+#include "base/control.h"
+#include "base/screen.h"
 #include "base/session.h"
+#include "shell/menu_states.h"
 
 namespace velnor {
 
-class Program;
+struct Parts;
 
 // The background pictures by resource name, each 800 by 550 pixels, in the order of loading.
 std::span<const char* const> BackgroundNames();
 
 struct ScreenRow {
   ScreenId id;
-  int command;  // the menu command that selects it; 0: none does
+  int command;  // the menu command that chooses it; 0: none does
   std::string_view background;
-  std::span<const int> controls;                    // keys of the controls it shows
-  void (*paint)(Program& program, Canvas& canvas);  // its own texts; null: none yet
-  void (*before)(Program& program) = nullptr;       // what the command does first; null: nothing
+  Availability availability;  // of its menu item
+  std::span<const ControlRow> (*controls)();
+  Screen& (*screen)(Parts& parts);
 };
 
 // All screens, by number.
 std::span<const ScreenRow> Screens();
+
+// The row of a screen; null when there is none of that number.
+const ScreenRow* FindScreen(ScreenId id);
+
+// The keys of the controls that the screen shows.
+std::vector<int> ShownKeys(const ScreenRow& row);
+
+// The controls of all screens in the order in which they are made and hidden: by id. A control that
+// several screens show is there once.
+std::span<const ControlRow> MainWindowControls();
+
+// Makes the screen the current one and asks for a repaint.
+void ShowScreen(Parts& parts, ScreenId id);
 
 }  // namespace velnor
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <utility>
 
-#include "base/form.h"
-#include "shell/controls.h"
+#include "base/control.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -27,15 +27,12 @@ bool TakesKeyboard(const ControlRow& row) {
 
 Block FindControls(std::span<const int> keys) {
   Block found;
-  std::vector<int> seen;
   for (const ControlRow& row : MainWindowControls()) {
-    const int key = std::ranges::count(seen, row.id) == 0 ? row.id : SecondControl(row.id);
-    seen.push_back(row.id);
-    if (std::ranges::count(keys, key) == 0 || !TakesKeyboard(row)) continue;
+    if (std::ranges::count(keys, row.key) == 0 || !TakesKeyboard(row)) continue;
     const Rectangle& place = row.place;
     const int height =
         row.control_class == ControlClass::kComboBox ? kClosedComboHeight : place.height;
-    found.push_back({key, place.x, place.y, place.x + place.width, place.y + height});
+    found.push_back({row.key, place.x, place.y, place.x + place.width, place.y + height});
   }
   return found;
 }

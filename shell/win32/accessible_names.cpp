@@ -6,7 +6,8 @@
 #include <string_view>
 #include <type_traits>
 
-#include "shell/controls.h"
+#include "base/control.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -51,7 +52,7 @@ void NameFields(const MainForm& form) {
     const std::string_view label = row.label;
     if (label.empty()) continue;
     const std::wstring name(label.begin(), label.end());  // the labels are plain letters
-    services->SetHwndPropStr(form.Find(row.id), static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+    services->SetHwndPropStr(form.Find(row.key), static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
                              kNameProperty, name.c_str());
   }
 }

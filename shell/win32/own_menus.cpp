@@ -41,7 +41,7 @@ void OwnMenus::AddToTitleBarMenu() const {
 bool OwnMenus::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) const {
   switch (message) {
     case WM_SYSCOMMAND:
-      return RunOwnMenuItem(program_, static_cast<int>(wparam & kSystemCommandMask));
+      return RunOwnMenuItem(program_.parts(), static_cast<int>(wparam & kSystemCommandMask));
     case WM_INITMENUPOPUP:
       if (HIWORD(lparam) != FALSE) GreyItems(reinterpret_cast<HMENU>(wparam), program_.session());
       return false;
@@ -77,7 +77,7 @@ void OwnMenus::OpenContextMenu(POINT at) const {
   const int chosen =
       TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, 0, window_, nullptr);
   DestroyMenu(menu);
-  if (chosen != 0) RunOwnMenuItem(program_, chosen);
+  if (chosen != 0) RunOwnMenuItem(program_.parts(), chosen);
 }
 
 // Below the control that has the focus, or in the corner of the screen below its header.

@@ -51,7 +51,7 @@ bool ScreenKeys::OnKeyDown(const MSG& message) {
   // A key that is kept down does once what it does.
   const bool repeated = (message.lParam & kIsRepeated) != 0;
   if (press == KeyPress{.key = kEnterKey}) return repeated || PressButton();
-  return !repeated && RunKey(program_, press);
+  return !repeated && RunKey(program_.parts(), press);
 }
 
 // As in the platform's dialogs the text of a field is selected, so that typing replaces it. That of
@@ -83,6 +83,7 @@ void ScreenKeys::UpdateFrame(HDC picture) {
   form_.ClipTo(context);
   if (framed_ != nullptr) {
     const RECT old = FrameAround(window_, framed_);
+    if (picture == nullptr) InvalidateRect(window_, &old, FALSE);
     BitBlt(context, old.left, old.top, old.right - old.left, old.bottom - old.top, picture,
            old.left, old.top, SRCCOPY);
   }

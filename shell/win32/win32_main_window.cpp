@@ -173,28 +173,35 @@ void Win32MainWindow::OnAccessibility() {
   if (!std::exchange(fields_named_, true)) PostMessageA(window_, kNameFields, 0, 0);
 }
 
-// Everything is drawn in memory and copied to the window once, around the controls that stay.
+// Everything is drawn in memory and copied to the window once, around the controls that stay. Where
+// the system refuses the memory it is drawn on the window itself, which flickers.
 void Win32MainWindow::OnPaint() {
   // Hiding the control that has the focus takes the focus away; a screen that shows it again gets
   // it back.
   const HWND focused = GetFocus();
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
-  program_->HideControls();
+  program_->PreparePaint();
   const HDC picture = back_buffer_.Begin(client_width_, client_height_);
-  if (picture != nullptr) {
-    GdiCanvas canvas(picture, surface_, resources_);
-    program_->Paint(canvas);
-  }
+  if (picture != nullptr) Draw(picture);
   form_->HideTheRest();
   PAINTSTRUCT paint;
   const HDC context = BeginPaint(window_, &paint);
   form_->ClipTo(context);
-  BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
+  if (picture != nullptr) {
+    BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
+  } else {
+    Draw(context);
+  }
   EndPaint(window_, &paint);
   form_->ShowChosen();
   FocusIfShown(focused);
   screen_keys_->ForgetFrame();
   program_->FinishPaint();
+}
+
+void Win32MainWindow::Draw(HDC context) {
+  GdiCanvas canvas(context, surface_, resources_);
+  program_->Paint(canvas);
 }
 
 // The platform gives the focus to the window itself when it comes to the front again; it belongs to

@@ -51,6 +51,7 @@ class Win32MainWindow final : public MainWindow {
   bool OnCreate();
   bool OnMouseWheel(WPARAM wparam);
   void OnPaint();
+  void Draw(HDC context);
   void OnAccessibility();
   bool TakeFirst(MSG& message);
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/screens.h"
 #include "shell/win32/list_order.h"
 #include "shell/win32/number_field.h"
 
@@ -243,9 +244,9 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     const HWND control =
         CreateWindowExA(edge, ClassName(row.control_class), row.text, WS_CHILD | row.style,
                         row.place.x, row.place.y, row.place.width, row.place.height, window(),
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), instance, nullptr);
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id())), instance, nullptr);
     if (control == nullptr) return false;
-    const HFONT font = resources.FontFor(ControlFont(row));
+    const HFONT font = resources.FontFor(row.font);
     SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     // List boxes have rounded their height to whole lines of the font they were born with.
     if (row.control_class == ControlClass::kListBox) {
@@ -253,8 +254,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     }
     if (row.holds_number) MarkNumberField(control);
     if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
-    const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
-    if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
+    controls_by_key_.emplace(row.key, control);
   }
   return true;
 }

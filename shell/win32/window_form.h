@@ -9,8 +9,8 @@
 #include <set>
 #include <vector>
 
+#include "base/control.h"
 #include "base/form.h"
-#include "shell/controls.h"
 #include "shell/win32/gdi_canvas.h"
 
 namespace velnor {

@@ -133,8 +133,8 @@ TEST_F(BmiScreenTest, AMansResultFromInputsToVerdict) {
   std::vector<DrawnLine> lines = Graduation(kMensTicks);
   lines.push_back(Marker(325));
   EXPECT_EQ(OwnLines(canvas), lines);
-  EXPECT_EQ(program_->bmi().result().value, 22.857143F);
-  EXPECT_EQ(program_->bmi().result().bmi_class, 3);
+  EXPECT_EQ(program_->parts().bmi_screen.result().value, 22.857143F);
+  EXPECT_EQ(program_->parts().bmi_screen.result().bmi_class, 3);
 }
 
 TEST_F(BmiScreenTest, AWomansResultFromInputsToVerdict) {
@@ -181,7 +181,7 @@ TEST_F(BmiScreenTest, ClassesEndWithTheirBounds) {
     Open(kOpenBmi);
     const auto class_of = [this](const char* weight) {
       CountWith(weight, kCount);
-      return program_->bmi().result().bmi_class;
+      return program_->parts().bmi_screen.result().bmi_class;
     };
     EXPECT_EQ(class_of("17.5"), 1);
     EXPECT_EQ(class_of("17.51"), 2);
@@ -246,7 +246,7 @@ TEST_F(BmiScreenTest, AMissingHeightIsBeyondAllScales) {
   EXPECT_EQ(TextAt(canvas, {95, 115}), "");
   EXPECT_EQ(OwnLines(canvas), Graduation(kMensTicks));
   EXPECT_EQ(TextAt(canvas, {630, 415}), "OUT OF SCALE");
-  EXPECT_EQ(program_->bmi().result().bmi_class, 9);
+  EXPECT_EQ(program_->parts().bmi_screen.result().bmi_class, 9);
 
   LogIn("35\r\n0\r\nwomen\r\nlow\r\nnone");
   Open(kOpenBmi);
@@ -340,7 +340,7 @@ TEST_F(BmiScreenTest, TheResultOutlivesScreensAndUsers) {
   lines.push_back(Marker(434));
   EXPECT_EQ(OwnLines(canvas), lines);
   EXPECT_EQ(TextAt(canvas, {350, 50}), "RESULT: HAVY OVERWEIGHT");
-  EXPECT_EQ(program_->bmi().result().bmi_class, 6);
+  EXPECT_EQ(program_->parts().bmi_screen.result().bmi_class, 6);
 }
 
 TEST_F(BmiScreenTest, TwentyNineCharactersOfTheWeightCount) {

@@ -75,7 +75,7 @@ TEST_F(BmrScreenTest, AMansRate) {
   std::vector<DrawnText> expected = Inputs("175", "men");
   expected.push_back({"1701.", kValueAt, {18, 700, false}, kBlack});
   EXPECT_EQ(OwnTexts(CountWith("70", kCount)), Joined(expected, kExplanation));
-  EXPECT_EQ(program_->bmr().result().value, 1701.47F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 1701.47F);
 }
 
 TEST_F(BmrScreenTest, AWomansRate) {
@@ -84,7 +84,7 @@ TEST_F(BmrScreenTest, AWomansRate) {
   std::vector<DrawnText> expected = Inputs("165", "woman");
   expected.push_back({"1405.", kValueAt, {18, 700, false}, kBlack});
   EXPECT_EQ(OwnTexts(CountWith("60", kCount)), Joined(expected, kExplanation));
-  EXPECT_EQ(program_->bmr().result().value, 1405.49F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 1405.49F);
 }
 
 TEST_F(BmrScreenTest, TheValueIsCutToFiveCharacters) {
@@ -108,12 +108,12 @@ TEST_F(BmrScreenTest, OnlyMoreThanTenIsShown) {
   };
   EXPECT_EQ(shown("-4.106909"), "10.00");  // 10.0000013
   EXPECT_EQ(shown("-4.1069091"), "");      // 10 when it is a float
-  EXPECT_EQ(program_->bmr().result().value, 10.0F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 10.0F);
   EXPECT_EQ(shown("-5"), "");
   LogIn("90\r\n0\r\nmen\r\nlow\r\nnone");
   Open(kOpenBmr);
   EXPECT_EQ(shown(""), "");
-  EXPECT_LT(program_->bmr().result().value, 0);
+  EXPECT_LT(program_->parts().bmr_screen.result().value, 0);
 }
 
 TEST_F(BmrScreenTest, AnUnknownSexHidesTheValue) {
@@ -126,7 +126,7 @@ TEST_F(BmrScreenTest, AnUnknownSexHidesTheValue) {
   EXPECT_EQ(TextAt(canvas, kValueAt), "1701.");
   canvas = CountWith("70", kCount);
   EXPECT_EQ(TextAt(canvas, kValueAt), "");
-  EXPECT_EQ(program_->bmr().result().value, 0.0F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 0.0F);
 }
 
 TEST_F(BmrScreenTest, CountingRepaintsAtOnce) {
@@ -155,15 +155,15 @@ TEST_F(BmrScreenTest, TheWeightTypedForTheBmiStandsInTheEditHere) {
   Open(kOpenBmr);
   EXPECT_EQ(form_.Text(kWeightEdit), "70");
   form_.Press(kCount);
-  EXPECT_EQ(program_->bmr().result().value, 1701.47F);
-  EXPECT_EQ(program_->bmi().result().value, 0.0F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 1701.47F);
+  EXPECT_EQ(program_->parts().bmi_screen.result().value, 0.0F);
 }
 
 TEST_F(BmrScreenTest, TwentyNineCharactersOfTheWeightCount) {
   LogIn("0\r\n0\r\nmen\r\nlow\r\nnone");
   Open(kOpenBmr);
   CountWith(std::string(28, '0') + "25", kCount);
-  EXPECT_EQ(program_->bmr().result().value, 93.97F);
+  EXPECT_EQ(program_->parts().bmr_screen.result().value, 93.97F);
 }
 
 // The report takes the weight that was counted with last, on whichever screen.

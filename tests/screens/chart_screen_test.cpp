@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/screens.h"
 #include "tests/support/program_fixture.h"
 
 namespace velnor {
@@ -271,8 +272,9 @@ class OrderCanvas final : public Canvas {
 TEST_F(ChartScreenTest, TheLineNeverCoversALabel) {
   LogIn();
   folder_.Write("Ann/wykwag.txt", kThreeWeights);
-  program_->ShowScreen(13);
+  ShowScreen(program_->parts(), 13);
   OrderCanvas canvas;
+  program_->PreparePaint();
   program_->Paint(canvas);
   EXPECT_EQ(canvas.order, "Ldd");
 }
@@ -393,6 +395,7 @@ TEST_F(ChartScreenTest, TheBoxComesWhenThePaintingHasEnded) {
   LogIn();
   program_->OnCommand(kWeightChart, kButtonClicked);
   RecordingCanvas canvas;
+  program_->PreparePaint();
   program_->Paint(canvas);
   EXPECT_TRUE(boxes_.shown.empty());
   EXPECT_EQ(program_->session().screen, 13);

@@ -60,10 +60,10 @@ TEST_F(CommandsTest, UnfinishedFunctionsSaySoAndChangeNothing) {
 TEST_F(CommandsTest, IdsWithoutAnActionBelongToControls) {
   Program& program = Start();
   for (const int id : {205, 209, 216, 226, 240 + 5, 253, 269, 199, 275, 0, -1, 128}) {
-    EXPECT_FALSE(RunCommand(program, id)) << id;
+    EXPECT_FALSE(RunCommand(program.parts(), id)) << id;
   }
   for (const int id : {200, 201, 202, 204, 210, 240, 241, 250, 251, 252, 274}) {
-    EXPECT_TRUE(RunCommand(program, id)) << id;
+    EXPECT_TRUE(RunCommand(program.parts(), id)) << id;
   }
 }
 

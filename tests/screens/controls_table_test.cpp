@@ -8,7 +8,8 @@
 #include <string>
 
 #include "base/canvas.h"
-#include "shell/controls.h"
+#include "base/control.h"
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -63,7 +64,7 @@ TEST(MainWindowControlsTest, AreTheEightySixInTheirOrder) {
     const ControlRow& control = controls[i];
     const ExpectedControl& expected = kExpected[i];
     SCOPED_TRACE("control " + std::to_string(expected.id) + ", row " + std::to_string(i));
-    EXPECT_EQ(control.id, expected.id);
+    EXPECT_EQ(control.id(), expected.id);
     EXPECT_STREQ(NameOf(control.control_class), expected.window_class);
     EXPECT_STREQ(control.text, expected.text);
     EXPECT_EQ(control.style, expected.style);
@@ -76,7 +77,8 @@ TEST(MainWindowControlsTest, AreTheEightySixInTheirOrder) {
 
 TEST(MainWindowControlsTest, OnlyTheGroupBoxesHaveNoEdge) {
   for (const ControlRow& control : MainWindowControls()) {
-    EXPECT_EQ(control.has_sunken_edge(), control.id != 133 && control.id != 135) << control.id;
+    EXPECT_EQ(control.has_sunken_edge(), control.id() != 133 && control.id() != 135)
+        << control.id();
   }
 }
 
@@ -87,8 +89,8 @@ TEST(MainWindowControlsTest, WhatCanBeTypedIsWhatIsRead) {
   for (const ControlRow& control : MainWindowControls()) {
     const bool is_line = control.control_class == ControlClass::kEdit &&
                          (control.style & control_style::kMultiLine) == 0;
-    EXPECT_EQ(limits.contains(control.id), is_line) << control.id;
-    EXPECT_EQ(control.limit, is_line ? limits[control.id] : 0U) << control.id;
+    EXPECT_EQ(limits.contains(control.id()), is_line) << control.id();
+    EXPECT_EQ(control.limit, is_line ? limits[control.id()] : 0U) << control.id();
   }
 }
 
@@ -96,8 +98,8 @@ TEST(MainWindowControlsTest, OnlyFiguresWithMoreDigitsThanRoomAreSmall) {
   const std::set<int> small = {116, 117, 118, 129, 130, 131, 132, 142, 143,
                                144, 163, 164, 180, 183, 184, 185, 186};
   for (const ControlRow& control : MainWindowControls()) {
-    const Font expected = small.contains(control.id) ? Font{12, 0, false} : kBodyFont;
-    EXPECT_EQ(ControlFont(control), expected) << control.id;
+    const Font expected = small.contains(control.id()) ? Font{12, 0, false} : kBodyFont;
+    EXPECT_EQ(control.font, expected) << control.id();
   }
 }
 

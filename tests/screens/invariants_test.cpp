@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/control.h"
 #include "base/number_text.h"
 #include "food/food_table.h"
-#include "shell/controls.h"
 #include "shell/screens.h"
 #include "tests/support/day_fixture.h"
 
@@ -212,9 +212,9 @@ class InvariantsTest : public DayTest {
     }
     for (const ControlRow& control : MainWindowControls()) {
       const bool is_of_product =
-          std::ranges::find(kProductFields, control.id) != std::end(kProductFields);
+          std::ranges::find(kProductFields, control.id()) != std::end(kProductFields);
       if (is_of_product || control.control_class == ControlClass::kEdit) continue;  // as typed
-      EXPECT_FALSE(IsNoNumber(form_.Text(control.id))) << "control " << control.id;
+      EXPECT_FALSE(IsNoNumber(form_.Text(control.id()))) << "control " << control.id();
     }
   }
 

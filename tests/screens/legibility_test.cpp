@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/controls.h"
+#include "base/control.h"
 #include "shell/screens.h"
 #include "tests/support/painted_states.h"
 
@@ -200,7 +200,7 @@ TEST_F(LegibilityTest, NothingIsDrawnInSmallerFontsThanCanBeRead) {
     }
   }
   for (const ControlRow& control : MainWindowControls()) {
-    EXPECT_GE(ControlFont(control).height, kSmallest) << control.id;
+    EXPECT_GE(control.font.height, kSmallest) << control.id();
   }
 }
 

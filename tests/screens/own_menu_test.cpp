@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 
+#include "food/search_dialog.h"
+#include "shell/commands.h"
 #include "tests/support/program_fixture.h"
 
 namespace velnor {
@@ -15,8 +17,8 @@ namespace {
 using OwnMenuTest = ProgramTest;
 
 constexpr std::array<OwnMenuItem, 2> kTwoItems = {{
-    {kDiaryItem, "Find", true, [](Program& program) { program.OpenSearch(); }},
-    {kBackUpItem, "Add", false, [](Program& program) { program.OpenAddProduct(); }},
+    {kDiaryItem, "Find", true, [](Parts& parts) { OpenSearch(parts.window, parts.food); }},
+    {kBackUpItem, "Add", false, [](Parts& parts) { RunCommand(parts, 240); }},
 }};
 const std::string kProfileLines = "35\n170\nwomen\nlow\nnone\n";
 
@@ -40,7 +42,7 @@ TEST_F(OwnMenuTest, HoldsItsItemsInTheirOrder) {
 
 TEST_F(OwnMenuTest, AnItemDoesWhatItsRowSays) {
   Program& program = Start();
-  EXPECT_TRUE(RunOwnMenuItem(program, kBackUpItem, kTwoItems));
+  EXPECT_TRUE(RunOwnMenuItem(program.parts(), kBackUpItem, kTwoItems));
   EXPECT_EQ(window_.log, (std::vector<std::string>{"open 10010"}));
 }
 
@@ -48,13 +50,13 @@ TEST_F(OwnMenuTest, WhatNeedsAUserIsGreyAndDoesNothingWithoutOne) {
   Program& program = Start();
   EXPECT_FALSE(CanBeChosen(kTwoItems[0], program.session()));
   EXPECT_TRUE(CanBeChosen(kTwoItems[1], program.session()));
-  EXPECT_TRUE(RunOwnMenuItem(program, kDiaryItem, kTwoItems));
+  EXPECT_TRUE(RunOwnMenuItem(program.parts(), kDiaryItem, kTwoItems));
   EXPECT_TRUE(window_.log.empty());
 
   LogIn("Zoe", kProfileLines);
   window_.log.clear();
   EXPECT_TRUE(CanBeChosen(kTwoItems[0], program.session()));
-  EXPECT_TRUE(RunOwnMenuItem(program, kDiaryItem, kTwoItems));
+  EXPECT_TRUE(RunOwnMenuItem(program.parts(), kDiaryItem, kTwoItems));
   EXPECT_EQ(window_.log, (std::vector<std::string>{"open 10009"}));
 
   program.OnCommand(201, 0);
@@ -64,7 +66,7 @@ TEST_F(OwnMenuTest, WhatNeedsAUserIsGreyAndDoesNothingWithoutOne) {
 TEST_F(OwnMenuTest, WhatIsNoItemIsLeftToThePlatform) {
   Program& program = Start();
   for (const int id : {0, 0x100, 0x130, 0xF060, 0xF100}) {
-    EXPECT_FALSE(RunOwnMenuItem(program, id, kTwoItems)) << id;
+    EXPECT_FALSE(RunOwnMenuItem(program.parts(), id, kTwoItems)) << id;
   }
   EXPECT_TRUE(window_.log.empty());
 }

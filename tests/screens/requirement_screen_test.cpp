@@ -125,10 +125,10 @@ TEST_F(RequirementScreenTest, BothItsCommandsBringItUpToDate) {
   Open(kOpenRequirement);
   EXPECT_EQ(Shown()[0], "2400-2600");
   folder_.Write("Ann/zapot.ASC", kLimitsFile);
-  EXPECT_EQ(program_->requirement().requirement().calories, (Range{2400, 2600}));
+  EXPECT_EQ(program_->parts().requirement.requirement().calories, (Range{2400, 2600}));
   Open(231);
-  EXPECT_EQ(program_->requirement().requirement().calories, (Range{2000, 2500}));
-  EXPECT_EQ(program_->requirement().requirement().carbohydrate, (Range{200, 300}));
+  EXPECT_EQ(program_->parts().requirement.requirement().calories, (Range{2000, 2500}));
+  EXPECT_EQ(program_->parts().requirement.requirement().carbohydrate, (Range{200, 300}));
 }
 
 TEST_F(RequirementScreenTest, ActivatedLimitsAreInForceAtOnceAndShownAsActiveAfterALogin) {

@@ -91,7 +91,7 @@ TEST_F(ScreensTest, ScreensDoNotInheritControls) {
 TEST_F(ScreensTest, AnUnknownScreenPaintsNothing) {
   Program& program = Start();
   Open(231);
-  program.ShowScreen(21);
+  ShowScreen(program.parts(), 21);
   const RecordingCanvas canvas = Repaint();
   EXPECT_TRUE(canvas.backgrounds.empty());
   EXPECT_TRUE(canvas.texts.empty());
@@ -104,7 +104,7 @@ TEST_F(ScreensTest, TheWheelScrollsReportsOneLineWhateverTheDistance) {
   std::string lines;
   for (int i = 0; i < 100; ++i) lines += "line\r\n";
   for (const auto& [screen, expected] : ExpectedScreens()) {
-    program.ShowScreen(screen);
+    ShowScreen(program.parts(), screen);
     form_.SetText(119, lines);
     const bool is_report = screen == 4 || screen == 5 || screen == 8 || screen == 9 || screen == 11;
     std::vector<int> first_lines;

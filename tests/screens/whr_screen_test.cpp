@@ -85,10 +85,10 @@ TEST_F(WhrScreenTest, ValueAndVerdictFollowTheInputs) {
   expected.push_back({"0.85", kValueAt, kValue, kBlack});
   expected.insert(expected.end(), kNormal.begin(), kNormal.end());
   EXPECT_EQ(OwnTexts(CountOf("85", "100")), expected);
-  EXPECT_EQ(program_->whr().result().waist, "85");
-  EXPECT_EQ(program_->whr().result().hip, "100");
-  EXPECT_EQ(program_->whr().result().value, 0.85F);
-  EXPECT_EQ(program_->whr().result().whr_class, 3);
+  EXPECT_EQ(program_->parts().whr_screen.result().waist, "85");
+  EXPECT_EQ(program_->parts().whr_screen.result().hip, "100");
+  EXPECT_EQ(program_->parts().whr_screen.result().value, 0.85F);
+  EXPECT_EQ(program_->parts().whr_screen.result().whr_class, 3);
 }
 
 TEST_F(WhrScreenTest, TheVerdictsOfMen) {
@@ -200,9 +200,9 @@ TEST_F(WhrScreenTest, TwentyNineCharactersOfEachCount) {
   LogIn(kMan);
   Open(kOpenWhr);
   CountOf(std::string(27, '0') + "85", std::string(28, '0') + "25");
-  EXPECT_EQ(program_->whr().result().waist, std::string(27, '0') + "85");
-  EXPECT_EQ(program_->whr().result().hip, std::string(28, '0') + "2");
-  EXPECT_EQ(program_->whr().result().value, 42.5F);
+  EXPECT_EQ(program_->parts().whr_screen.result().waist, std::string(27, '0') + "85");
+  EXPECT_EQ(program_->parts().whr_screen.result().hip, std::string(28, '0') + "2");
+  EXPECT_EQ(program_->parts().whr_screen.result().value, 42.5F);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include "shell/screens.h"
+
 namespace velnor {
 namespace {
 
@@ -37,9 +39,8 @@ void FakeForm::Control::Insert(const std::string& item) {
 
 void FakeForm::AddMainWindowControls() {
   for (const ControlRow& row : MainWindowControls()) {
-    const bool taken = controls_.contains(row.id);
-    AddControl(taken ? SecondControl(row.id) : row.id, row.control_class, row.style);
-    if (row.limit > 0) LimitText(row.id, row.limit);
+    AddControl(row.key, row.control_class, row.style);
+    if (row.limit > 0) LimitText(row.id(), row.limit);
   }
 }
 

@@ -13,9 +13,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/control.h"
 #include "base/dialog.h"
 #include "base/form.h"
-#include "shell/controls.h"
 
 namespace velnor {
 

@@ -66,7 +66,7 @@ void PaintedStatesTest::Keep(const std::string& name, const RecordingCanvas& can
 
 void PaintedStatesTest::WalkEmptyScreens(const std::string& who) {
   for (const ScreenRow& screen : Screens()) {
-    program_->ShowScreen(screen.id);
+    ShowScreen(program_->parts(), screen.id);
     const std::string name = "screen " + std::to_string(screen.id) + " of " + who;
     Keep(name, Repaint(), who == "nobody" ? "user: NONE" : who);
   }
@@ -175,7 +175,7 @@ void PaintedStatesTest::WalkRequirement() {
   Write("zapot.ASC", "1\r\n2000\r\n2500\r\n60\r\n80\r\n50\r\n70\r\n200\r\n300\r\n");
   LogInAs(kWoman);
   Keep("requirement with active limits", Open(kOpenRequirement), "Active setups");
-  program_->requirement().Clear();
+  form_.Press(175);
 }
 
 void PaintedStatesTest::WalkBalance() {
