@@ -5,8 +5,10 @@
 #include <optional>
 
 #include "activity/activity_table.h"
+#include "base/file_calls.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 
 namespace velnor {
 namespace {
@@ -66,10 +68,18 @@ BurnedTotal::DayLine BurnedTotal::Read() const {
   return result;
 }
 
+bool BurnedTotal::IsOfAnotherDay(const DayLine& line) const {
+  return line.is_readable && !line.is_empty && !IsSameDay(line.date, session_.date_text);
+}
+
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
   // Nobody has no folder: a repaint behind the login dialog must not leave a file elsewhere.
-  if (line.is_empty && !session_.user_name.empty()) AppendToFile(Path(), "");
+  if (line.is_empty && !session_.user_name.empty() && !IsThere(Path())) {
+    Transaction deed(session_.base_folder);
+    deed.Append(Path(), "");
+    deed.CommitUnreported();
+  }
   kcal_ = static_cast<float>(ParseNumber(line.kcal));
   return line;
 }
@@ -78,24 +88,31 @@ std::string BurnedTotal::Refresh() { return Take().kcal; }
 
 std::string BurnedTotal::RefreshForToday() {
   const DayLine line = Take();
-  const bool may_be_emptied = line.is_readable && !line.is_empty;
-  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) ReplaceFile(Path(), "");
+  if (!IsOfAnotherDay(line)) return line.kcal;
+  Transaction deed(session_.base_folder);
+  // Another program may have begun the day meanwhile.
+  if (IsOfAnotherDay(Read())) deed.Replace(Path(), "");
+  deed.CommitUnreported();
   return line.kcal;
 }
 
 std::string BurnedTotal::Add(std::string_view burned) {
+  Transaction deed(session_.base_folder);
   const DayLine line = Read();
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
   if (line.is_readable) {
-    ReplaceFile(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);
+    deed.Replace(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);
   }
+  deed.CommitUnreported();
   return total;
 }
 
 void BurnedTotal::Clear() {
-  ReplaceFile(Path(), "");
+  Transaction deed(session_.base_folder);
+  deed.Replace(Path(), "");
+  deed.CommitUnreported();
   kcal_ = 0;
 }
 

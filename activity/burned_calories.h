@@ -64,6 +64,7 @@ class BurnedTotal {
 
   std::string Path() const { return session_.UserFile(kBurnedFile); }
   DayLine Read() const;
+  bool IsOfAnotherDay(const DayLine& line) const;
   // Reads, making the file when there is none, and knows the total from then on.
   DayLine Take();
 

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "base/transaction.h"
+
 namespace velnor {
 namespace {
 
@@ -17,9 +19,12 @@ constexpr std::size_t kTextLimit = 26;
 
 }  // namespace
 
-BurnedRecordDialog::BurnedRecordDialog(std::string path, BurnedRecord shown,
+BurnedRecordDialog::BurnedRecordDialog(const SessionState& session, BurnedRecord shown,
                                        const std::string& counted_activity)
-    : path_(std::move(path)), shown_(std::move(shown)), counted_activity_(counted_activity) {}
+    : folder_(session.base_folder),
+      path_(session.UserFile(kBurnedReportFile)),
+      shown_(std::move(shown)),
+      counted_activity_(counted_activity) {}
 
 void BurnedRecordDialog::OnOpen(Form& form) {
   form.SetText(kDate, shown_.date);
@@ -35,12 +40,14 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  AppendBurnedRecord(path_, {.date = form.ReadText(kDate, kTextLimit),
-                             .activity = counted_activity_,
-                             .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                             .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                             .fat = form.ReadText(kFat, kRecordFigureLimit),
-                             .other = form.ReadText(kOther, kTextLimit)});
+  Transaction deed(folder_);
+  deed.Append(path_, BurnedRecordText({.date = form.ReadText(kDate, kTextLimit),
+                                       .activity = counted_activity_,
+                                       .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                                       .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                                       .fat = form.ReadText(kFat, kRecordFigureLimit),
+                                       .other = form.ReadText(kOther, kTextLimit)}));
+  deed.CommitUnreported();
   form.Close();
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/number_text.h"
+#include "base/transaction.h"
 
 namespace velnor {
 namespace {
@@ -154,13 +155,17 @@ void RequirementScreen::Activate() {
     message_boxes_.Show({.text = *fault});
     return;
   }
-  WritePersonalLimits(LimitsPath(), typed);
+  Transaction deed(session_.base_folder);
+  WritePersonalLimits(deed, LimitsPath(), typed);
+  deed.CommitUnreported();
   limits_ = ReadPersonalLimits(LimitsPath());
   window_.Invalidate();
 }
 
 void RequirementScreen::Clear() {
-  WriteNoLimits(LimitsPath());
+  Transaction deed(session_.base_folder);
+  WriteNoLimits(deed, LimitsPath());
+  deed.CommitUnreported();
   limits_active_ = false;
   window_.Invalidate();
 }

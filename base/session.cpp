@@ -9,6 +9,7 @@ std::string SessionState::BaseFile(std::string_view file_name) const {
 std::string SessionState::FolderOf(const std::string& user) const { return base_folder + user; }
 
 std::string SessionState::FileOf(const std::string& user, std::string_view file_name) const {
+  if (user.empty()) return BaseFile(file_name);
   return FolderOf(user) + kPathSeparator + std::string(file_name);
 }
 

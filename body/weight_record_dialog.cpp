@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/weight_record.h"
 #include "charts/chart_file.h"
@@ -39,10 +39,13 @@ void WeightRecordDialog::Save(Form& form) {
                                .weight = form.ReadText(kWeight, kRecordTextLimit),
                                .bmi = ReadTwoDecimals(form, kBmi),
                                .other = form.ReadText(kRecordOther, kOtherLimit)};
-  AppendToFile(session_.UserFile(kWeightReportFile), WeightRecordLine(record));
+  Transaction deed(session_.base_folder);
+  deed.Append(session_.UserFile(kWeightReportFile), WeightRecordLine(record));
   // The chart goes by the days of the calendar, whatever date the report was given.
   const std::string fields[] = {record.weight, record.bmi};
-  UpdateChartFile(session_.UserFile(kWeightSeriesFile), session_.date_text, fields);
+  if (UpdateChartFile(deed, session_.UserFile(kWeightSeriesFile), session_.date_text, fields)) {
+    deed.CommitUnreported();
+  }
   form.Close();
 }
 

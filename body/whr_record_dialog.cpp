@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
 
@@ -39,7 +39,9 @@ void WhrRecordDialog::Save(Form& form) {
                             .hip = ReadTwoDecimals(form, kHip),
                             .whr = ReadTwoDecimals(form, kWhr),
                             .other = form.ReadText(kRecordOther, kOtherLimit)};
-  AppendToFile(session_.UserFile(kWhrReportFile), WhrRecordLine(record));
+  Transaction deed(session_.base_folder);
+  deed.Append(session_.UserFile(kWhrReportFile), WhrRecordLine(record));
+  deed.CommitUnreported();
   form.Close();
 }
 

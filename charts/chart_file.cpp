@@ -45,7 +45,7 @@ ChartSeries LoadChartFile(const std::string& path) {
   return SeriesOf(ReadFile(path, kChartSlots * (kLineLimit + 1)));
 }
 
-bool UpdateChartFile(const std::string& path, std::string_view date,
+bool UpdateChartFile(Transaction& deed, const std::string& path, std::string_view date,
                      std::span<const std::string> fields) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
@@ -67,12 +67,17 @@ bool UpdateChartFile(const std::string& path, std::string_view date,
       // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
       if (slot.size() < kLineLimit) lines += '\n';
     }
-    return ReplaceFile(path, WithCrLf(lines + day));
+    deed.Replace(path, WithCrLf(lines + day));
+    return true;
   }
-  if (!IsEmptySlot(series.slots[kFullSlot])) return ReplaceFile(path, WithCrLf(day));
+  if (!IsEmptySlot(series.slots[kFullSlot])) {
+    deed.Replace(path, WithCrLf(day));
+    return true;
+  }
   // Someone who edited the file by hand may have left its last line open.
   const bool open = !text->empty() && text->back() != '\n';
-  return AppendToFile(path, open ? '\n' + day : day);
+  deed.Append(path, open ? '\n' + day : day);
+  return true;
 }
 
 }  // namespace velnor

@@ -11,6 +11,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/transaction.h"
+
 namespace velnor {
 
 inline constexpr std::string_view kWeightSeriesFile = "wykwag.txt";    // date;weight;BMI;
@@ -35,8 +37,8 @@ ChartSeries LoadChartFile(const std::string& path);
 // Writes the day's line into the series: it replaces the newest line when that is of the same day
 // (the first seven characters of the dates agree), otherwise it becomes a line of its own. A new
 // day that finds 21 lines starts the series again. `date` has at least eight characters. False when
-// the file keeps what it held, which is not reported to anyone.
-bool UpdateChartFile(const std::string& path, std::string_view date,
+// the file cannot be read.
+bool UpdateChartFile(Transaction& deed, const std::string& path, std::string_view date,
                      std::span<const std::string> fields);
 
 }  // namespace velnor

@@ -1,6 +1,6 @@
 #include "food/calorie_record_dialog.h"
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 
 namespace velnor {
 namespace {
@@ -43,10 +43,12 @@ void CalorieRecordDialog::OnCommand(Form& form, int id, int notification) {
 
 // Whether the record could be written is not reported.
 void CalorieRecordDialog::Save(const Form& form) const {
-  AppendToFile(
+  Transaction deed(session_.base_folder);
+  deed.Append(
       session_.UserFile(kCalorieReportFile),
       CalorieRecordText({form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
                          exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

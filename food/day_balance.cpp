@@ -1,9 +1,10 @@
 #include "food/day_balance.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <vector>
 
+#include "base/file_calls.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "charts/chart_file.h"
@@ -51,22 +52,44 @@ std::optional<double> ReadExchange(const std::string& path) {
   return ParseNumber(LineReader(*text, kExchangeLimit).Next().value_or(""));
 }
 
-bool EmptyFile(const std::string& path) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, 1);
-  return text && (text->empty() || ReplaceFile(path, ""));
+bool IsToday(const BalanceLines& lines, const SessionState& session) {
+  return lines.front().starts_with(session.date_text);
+}
+
+// The balance of today as the deed finds it, or as it begins it.
+struct Today {
+  BalanceLines lines;
+  bool is_new;
+};
+
+std::optional<Today> BeginToday(Transaction& deed, const SessionState& session) {
+  const std::string path = session.UserFile(kBalanceFile);
+  const std::optional<BalanceLines> lines = ReadLines(path);
+  if (!lines) return std::nullopt;
+  if (IsToday(*lines, session)) return Today{*lines, false};
+  for (const std::string_view file : kExchangeFiles) {
+    const std::string exchange_path = session.UserFile(file);
+    const std::optional<std::string> text = ReadFileToRewrite(exchange_path, 1);
+    if (!text) return std::nullopt;
+    if (!text->empty()) deed.Replace(exchange_path, "");
+  }
+  deed.Replace(path, session.date_text);
+  return Today{{session.date_text}, true};
 }
 
 // The balance of today: a new day is started when it is not.
 std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
-  const std::string path = session.UserFile(kBalanceFile);
-  std::optional<BalanceLines> lines = ReadLines(path);
-  if (!lines || lines->front().starts_with(session.date_text)) return lines;
-  // The date comes last: when it stands, the day has been started whole.
-  for (const std::string_view file : kExchangeFiles) {
-    if (!EmptyFile(session.UserFile(file))) return std::nullopt;
-  }
-  if (!ReplaceFile(path, session.date_text)) return std::nullopt;
-  return BalanceLines{session.date_text};
+  std::optional<BalanceLines> lines = ReadLines(session.UserFile(kBalanceFile));
+  if (!lines || IsToday(*lines, session)) return lines;
+  Transaction deed(session.base_folder);
+  const std::optional<Today> today = BeginToday(deed, session);
+  if (!today || !deed.Commit()) return std::nullopt;
+  return today->lines;
+}
+
+DayTotals TotalsIn(const BalanceLines& lines) {
+  const auto number = [&](std::size_t line) { return ParseNumber(lines[line]); };
+  return {number(1), number(2), number(3), number(4)};
 }
 
 }  // namespace
@@ -74,14 +97,17 @@ std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
 bool DayBalance::StartDayIfNew() const { return LinesOfToday(session_).has_value(); }
 
 void DayBalance::MakeExchangeFiles() const {
-  for (const std::string_view file : kExchangeFiles) AppendToFile(session_.UserFile(file), "");
+  const auto is_there = [this](std::string_view file) { return IsThere(session_.UserFile(file)); };
+  if (std::ranges::all_of(kExchangeFiles, is_there)) return;
+  Transaction deed(session_.base_folder);
+  for (const std::string_view file : kExchangeFiles) deed.Append(session_.UserFile(file), "");
+  deed.CommitUnreported();
 }
 
 std::optional<DayTotals> DayBalance::ReadTotals() const {
   const std::optional<BalanceLines> lines = LinesOfToday(session_);
   if (!lines) return std::nullopt;
-  const auto number = [&](std::size_t line) { return ParseNumber((*lines)[line]); };
-  return DayTotals{number(1), number(2), number(3), number(4)};
+  return TotalsIn(*lines);
 }
 
 double DayBalance::ReadKcalOfAnyDay() const {
@@ -95,47 +121,41 @@ DayExchanges DayBalance::ReadExchanges() const {
 
 bool DayBalance::Change(const DayTotals& totals,
                         const std::optional<DayExchanges>& exchanges) const {
-  const std::optional<DayTotals> before = ReadTotals();
-  if (!before) return false;
-  const DayTotals after = {Total(before->kcal, totals.kcal), Total(before->protein, totals.protein),
-                           Total(before->fat, totals.fat),
-                           Total(before->carbohydrate, totals.carbohydrate)};
+  Transaction deed(session_.base_folder);
+  const std::optional<Today> today = BeginToday(deed, session_);
+  if (!today) return false;
+  const DayTotals before = TotalsIn(today->lines);
+  const DayTotals after = {Total(before.kcal, totals.kcal), Total(before.protein, totals.protein),
+                           Total(before.fat, totals.fat),
+                           Total(before.carbohydrate, totals.carbohydrate)};
   const std::string text = session_.date_text + '\n' + Stored(after.kcal) + '\n' +
                            Stored(after.protein) + '\n' + Stored(after.fat) + '\n' +
                            Stored(after.carbohydrate);
-  // One after the other and not together, a failure would leave the day half changed, and a person
-  // who tries again would count the other half twice.
-  std::vector<FileBytes> files = {{BalancePath(), WithCrLf(text)}};
+  deed.Replace(BalancePath(), WithCrLf(text));
   if (exchanges) {
     const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
     for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
       const std::string path = session_.UserFile(kExchangeFiles[i]);
-      const std::optional<double> exchange = ReadExchange(path);
+      const std::optional<double> exchange = today->is_new ? 0 : ReadExchange(path);
       if (!exchange) return false;
-      files.push_back({path, Stored(Total(*exchange, changes[i]))});
+      deed.Replace(path, Stored(Total(*exchange, changes[i])));
     }
   }
-  if (!ReplaceFiles(files)) return false;
-  UpdateSeries(after);
-  return true;
+  return UpdateSeries(deed, after) && deed.Commit();
 }
 
 bool DayBalance::Clear() const {
-  bool cleared = true;
-  for (const std::string_view file : kExchangeFiles) {
-    cleared = ReplaceFile(session_.UserFile(file), "0") && cleared;
-  }
-  cleared = ReplaceFile(BalancePath(), session_.date_text) && cleared;
-  UpdateSeries({});
-  return cleared;
+  Transaction deed(session_.base_folder);
+  for (const std::string_view file : kExchangeFiles) deed.Replace(session_.UserFile(file), "0");
+  deed.Replace(BalancePath(), session_.date_text);
+  return UpdateSeries(deed, {}) && deed.Commit();
 }
 
-// The series is for the charts only; nobody is told when it cannot be written.
-bool DayBalance::UpdateSeries(const DayTotals& totals) const {
+bool DayBalance::UpdateSeries(Transaction& deed, const DayTotals& totals) const {
   const auto text = [](double figure) {
     return FormatNumber(static_cast<float>(figure), kSeriesDigits);
   };
-  return UpdateChartFile(session_.UserFile(kNutrientSeriesFile), session_.date_text,
+  return UpdateChartFile(deed, session_.UserFile(kNutrientSeriesFile), session_.date_text,
                          std::array{text(totals.kcal), text(totals.protein), text(totals.fat),
                                     text(totals.carbohydrate)});
 }

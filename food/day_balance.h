@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "base/session.h"
+#include "base/transaction.h"
 
 namespace velnor {
 
@@ -68,12 +69,13 @@ class DayBalance {
   bool Change(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
 
   // Nothing has been eaten today: the balance holds the date alone, the exchange files "0", the
-  // day's line of the chart series zeros. False when one of the three files keeps what it held.
+  // day's line of the chart series zeros. False when all four files keep what they
+  // held.
   bool Clear() const;
 
  private:
   std::string BalancePath() const { return session_.UserFile(kBalanceFile); }
-  bool UpdateSeries(const DayTotals& totals) const;
+  bool UpdateSeries(Transaction& deed, const DayTotals& totals) const;
 
   const SessionState& session_;
 };

@@ -1,6 +1,6 @@
 #include "food/recipe_record_dialog.h"
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "food/recipe_record.h"
 
 namespace velnor {
@@ -29,10 +29,12 @@ void RecipeRecordDialog::OnCommand(Form& form, int id, int notification) {
 
 // Whether the record could be written is not reported.
 void RecipeRecordDialog::Save(const Form& form) const {
-  AppendToFile(session_.UserFile(kRecipeReportFile),
-               RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
-                                 list_.Totals(kTotalLimit), composition_,
-                                 form.ReadText(kRecipe, kRecipeLimit)}));
+  Transaction deed(session_.base_folder);
+  deed.Append(session_.UserFile(kRecipeReportFile),
+              RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
+                                list_.Totals(kTotalLimit), composition_,
+                                form.ReadText(kRecipe, kRecipeLimit)}));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

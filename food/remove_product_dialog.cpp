@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/transaction.h"
 #include "food/user_product_file.h"
 
 namespace velnor {
@@ -12,12 +13,12 @@ constexpr int kNames = 739;
 
 }  // namespace
 
-RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
+RemoveProductDialog::RemoveProductDialog(FoodTable& food, const SessionState& session,
                                          MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+    : food_(food), session_(session), message_boxes_(message_boxes) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
-  form.FillItems(kNames, Views(ReadUserProductNames(path_)));
+  form.FillItems(kNames, Views(ReadUserProductNames(session_.BaseFile(kUserProductsFile))));
 }
 
 void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
@@ -34,8 +35,11 @@ void RemoveProductDialog::Remove(Form& form) {
   const std::optional<std::string> name = form.SelectedText(kNames);
   if (answer != Answer::kYes || !name) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
-  if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
-  food_.user_products.Load(path_);
+  Transaction deed(session_.base_folder);
+  if (RemoveUserProduct(deed, session_.BaseFile(kUserProductsFile), *name) && deed.Commit()) {
+    form.RemoveSelectedItem(kNames);
+  }
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
 }
 
 }  // namespace velnor

@@ -7,6 +7,7 @@
 
 #include "base/dialog.h"
 #include "base/message_boxes.h"
+#include "base/session.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -15,8 +16,8 @@ inline constexpr int kRemoveProductResource = 10011;
 
 class RemoveProductDialog final : public Dialog {
  public:
-  // Removes from the file `path` and reloads the user's products of `food` from it.
-  RemoveProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes);
+  // Removes from the file of own products and reloads those of `food` from it.
+  RemoveProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -25,7 +26,7 @@ class RemoveProductDialog final : public Dialog {
   void Remove(Form& form);
 
   FoodTable& food_;
-  std::string path_;
+  const SessionState& session_;
   MessageBoxes& message_boxes_;
 };
 

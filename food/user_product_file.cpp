@@ -27,7 +27,7 @@ std::optional<std::string_view> NameField(std::string_view line) {
 
 }  // namespace
 
-bool AddUserProduct(const std::string& path, const ProductRecord& product) {
+bool AddUserProduct(Transaction& deed, const std::string& path, const ProductRecord& product) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   std::string line;
@@ -40,7 +40,8 @@ bool AddUserProduct(const std::string& path, const ProductRecord& product) {
     line += ';';
   }
   line += '\n';
-  return AppendToFile(path, line);
+  deed.Append(path, line);
+  return true;
 }
 
 std::vector<std::string> ReadUserProductNames(const std::string& path) {
@@ -70,7 +71,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
   return false;
 }
 
-bool RemoveUserProduct(const std::string& path, std::string_view name) {
+bool RemoveUserProduct(Transaction& deed, const std::string& path, std::string_view name) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
   if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);
@@ -86,9 +87,8 @@ bool RemoveUserProduct(const std::string& path, std::string_view name) {
       kept += kLineEnd;
     }
   }
-  if (!removed) return true;
-  kept += lines.rest();
-  return ReplaceFile(path, kept);
+  if (removed) deed.Replace(path, kept.append(lines.rest()));
+  return true;
 }
 
 }  // namespace velnor

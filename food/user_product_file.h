@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/transaction.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -17,7 +18,7 @@ inline constexpr std::string_view kUserProductsFile = "data.txt";
 // Adds the product as a line of its own at the end of the file, which is made when it is missing.
 // A ";" inside a field is not kept from breaking the line's fields. False when it was not written;
 // then the file is as it was.
-bool AddUserProduct(const std::string& path, const ProductRecord& product);
+bool AddUserProduct(Transaction& deed, const std::string& path, const ProductRecord& product);
 
 // The names (third fields) in the first 1000 lines of the file, in its order. A line is taken in
 // pieces of at most 299 characters; one without a third field has no name.
@@ -30,10 +31,9 @@ std::vector<std::string> ReadUserProductNames(const std::string& path);
 bool IsRemovedWith(std::string_view line, std::string_view name);
 
 // Takes every line that IsRemovedWith away. Empty lines among the first 3000 go too; a line longer
-// than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
-// old bytes or its new ones. Does nothing when no line goes. False when the file could not be read,
-// or a line should have gone but it could not be written.
-bool RemoveUserProduct(const std::string& path, std::string_view name);
+// than 149 characters becomes several; lines behind the 3000th stay as they are. Does nothing when
+// no line goes. False when the file could not be read.
+bool RemoveUserProduct(Transaction& deed, const std::string& path, std::string_view name);
 
 }  // namespace velnor
 

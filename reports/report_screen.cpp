@@ -53,7 +53,7 @@ void ReportScreen::Paint(Canvas& canvas) {
 void ReportScreen::Clear() {
   const std::string path = Path();
   if (path.empty() || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  ClearReport(path);
+  ClearReport(session_.base_folder, path);
   window_.Invalidate();
 }
 
@@ -67,7 +67,7 @@ void ReportScreen::Save() {
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const std::string shown = shown_.bytes;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  SaveReport(path, shown, text);
+  SaveReport(session_.base_folder, path, shown, text);
   window_.Invalidate();
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/file_calls.h"
+#include "base/transaction.h"
 
 namespace velnor {
 namespace {
@@ -92,8 +93,10 @@ void ProfileDialog::Save(Form& form) {
     other = "0";
   }
   const std::string path = session_.UserFile(kProfileFile);
-  if (!HasFolder(path)) MakeFolder(session_.FolderOf(session_.user_name));
-  WriteProfileLines(path, lines);
+  Transaction deed(session_.base_folder);
+  deed.MakeFolder(session_.FolderOf(session_.user_name));
+  WriteProfileLines(deed, path, lines);
+  deed.CommitUnreported();
   for (std::string& line : lines) {
     if (line.empty()) line = "0";
     line.resize(std::min(line.size(), UserProfile::kLimit));

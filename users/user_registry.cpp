@@ -1,13 +1,11 @@
 #include "users/user_registry.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <limits>
 
-#include "base/file_calls.h"
 #include "base/text_file.h"
-#include "food/day_balance.h"
+#include "base/transaction.h"
 #include "reports/report_file.h"
 
 namespace velnor {
@@ -21,12 +19,6 @@ constexpr const char* kFirstFiles[] = {"waga.ASC", "mirvo.ASC",     "info.ASC", 
 constexpr const char* kAllFiles[] = {"waga.ASC",   "mirvo.ASC",     "info.ASC",  "zestaw.ASC",
                                      "whr.ASC",    "cwiczenia.ASC", "zapot.ASC", "bilans.ASC",
                                      "wykwag.txt", "wykoda.txt",    "erg.txt"};
-
-// A file and what an interrupted write of it has left.
-void DeleteWithTemporary(const std::string& path) {
-  std::remove(path.c_str());
-  std::remove(TemporaryPath(path).c_str());
-}
 
 constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
 constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
@@ -102,23 +94,20 @@ bool IsFolderName(std::string_view name) {
 }
 
 void CreateUserFiles(const SessionState& session, const std::string& user) {
-  MakeFolder(session.FolderOf(user));
-  for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
+  Transaction deed(session.base_folder);
+  deed.MakeFolder(session.FolderOf(user));
+  for (const char* const file : kFirstFiles) deed.Replace(session.FileOf(user, file), "");
+  deed.CommitUnreported();
 }
 
 void DeleteUserFiles(const SessionState& session, const std::string& user) {
-  for (const char* const file : kAllFiles) {
-    DeleteWithTemporary(session.FileOf(user, file));
-  }
-  // The day's exchanges are not among the files that go, but what an interrupted write has left of
-  // them is nobody's.
-  for (const std::string_view file : {kCarbohydrateExchangeFile, kProteinFatExchangeFile}) {
-    std::remove(TemporaryPath(session.FileOf(user, file)).c_str());
-  }
+  Transaction deed(session.base_folder);
+  for (const char* const file : kAllFiles) deed.Remove(session.FileOf(user, file));
   for (const ReportFile& report : Reports()) {
-    DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
+    deed.Remove(RestPath(session.FileOf(user, report.file_name)));
   }
-  if (!user.empty()) RemoveFolder(session.FolderOf(user));
+  if (!user.empty()) deed.RemoveFolder(session.FolderOf(user));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor
