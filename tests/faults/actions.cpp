@@ -238,8 +238,6 @@ std::span<const Action> Actions() {
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};
-  static const std::vector<Between> kDayStarts = {
-      {"Ann/bilans.ASC", "16.11.2026"}, {"Ann/z1.ASC", ""}, {"Ann/z2.ASC", ""}};
   // clang-format off
   static const Action kActions[] = {
       {.name = "add a user", .act = AddUser, .says_on_failure = {kNotListed}},
@@ -252,13 +250,13 @@ std::span<const Action> Actions() {
       {.name = "change the profile", .enter = LogAnnIn, .act = ChangeHeight},
       {.name = "set limits", .enter = OpenRequirement, .act = SetLimits},
       {.name = "clear the limits", .enter = OpenRequirement, .act = ClearLimits},
-      {.name = "add a food", .enter = OpenCounter, .act = AddFood, .together = kDay,
+      {.name = "add a food", .enter = OpenCounter, .act = AddFood,
        .says_on_failure = {kNotSaved}},
       {.name = "add the first food of all", .arrange = ForgetTheDay, .enter = OpenCounter,
-       .act = AddFood, .between = kDayStarts, .says_on_failure = {kNotSaved}},
-      {.name = "remove a food", .enter = EatTwice, .act = RemoveFood, .together = kDay,
+       .act = AddFood, .says_on_failure = {kNotSaved}},
+      {.name = "remove a food", .enter = EatTwice, .act = RemoveFood,
        .says_on_failure = {kNotSaved}},
-      {.name = "clear the list", .enter = EatTwice, .act = ClearList, .together = kDay,
+      {.name = "clear the list", .enter = EatTwice, .act = ClearList,
        .says_on_failure = {kNotSaved}},
       {.name = "open the balance for the first time", .arrange = ForgetTheDay, .enter = LogAnnIn,
        .act = OpenBalance},

@@ -132,7 +132,7 @@ TEST_F(ReportFileTest, SavingKeepsWhatStandsBehindANul) {
 TEST_F(ReportFileTest, SavingKeepsARecordThatWasAppendedMeanwhile) {
   folder_.Write("waga.ASC", "one\r\n");
   const std::string shown = LoadReport(path_);
-  AppendToFile(path_, "two\n");
+  folder_.Write("waga.ASC", "one\r\ntwo\r\n");
   EXPECT_TRUE(SaveReport(folder_.path(), path_, shown, "changed\r\n"));
   EXPECT_EQ(File(), "changed\r\n");
   EXPECT_EQ(Rest(), "two\r\n");
