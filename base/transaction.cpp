@@ -36,7 +36,11 @@ bool PutAside(const std::string& note) {
 std::optional<bool> IsWhole(const std::string& folder, const Change& change) {
   if (change.kind != ChangeKind::kReplace) return true;
   const std::string path = PathOf(folder, change.beside);
-  if (!IsThere(path)) return true;  // has taken its place
+  errno = 0;
+  if (!File(OpenFile(path, "rb"))) {
+    const bool has_taken_its_place = errno == ENOENT;
+    return has_taken_its_place ? std::optional<bool>(true) : std::nullopt;
+  }
   const std::optional<std::string> bytes =
       ReadFileToRewrite(path, static_cast<std::size_t>(change.size) + 1);
   if (!bytes) return std::nullopt;
