@@ -230,7 +230,11 @@ void ReportAppend(benchmark::State& state) {
   const std::string path =
       folder.Write("waga.ASC", std::string(static_cast<std::size_t>(state.range(0)), 'x'));
   bool written = true;
-  for (auto _ : state) written = AppendToFile(path, line) && written;
+  for (auto _ : state) {
+    Transaction deed(folder.path());
+    deed.Append(path, line);
+    written = deed.Commit() && written;
+  }
   if (!written) state.SkipWithError("the report could not be written");
 }
 

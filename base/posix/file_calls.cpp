@@ -45,7 +45,7 @@ bool ReplaceByRename(const std::string& from, const std::string& to) {
 }
 
 bool RemoveFile(const std::string& path) {
-  return std::remove(path.c_str()) == 0 || errno == ENOENT;
+  return unlink(path.c_str()) == 0 || errno == ENOENT;
 }
 
 bool IsThere(const std::string& path) {
