@@ -7,6 +7,7 @@
 #include "base/file_calls.h"
 #include "base/transaction.h"
 #include "users/profile.h"
+#include "users/user_files.h"
 #include "users/user_registry.h"
 
 namespace velnor {

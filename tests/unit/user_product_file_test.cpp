@@ -51,7 +51,7 @@ TEST_F(UserProductFileTest, AppendsManyLinesBehindAnOpenOne) {
   Write("fruits;fresh;fig;100;1;1;1;1;");
   const ProductRecord plum = {"fruits", "fresh", "plum", "100", "1", "1", "1", "1"};
   const std::vector<ProductRecord> products = {kApplePie, plum};
-  EXPECT_TRUE(AddUserProducts(Path(), products));
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProducts, Path(), products));
   EXPECT_EQ(Bytes(),
             Line("fig") + "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n" + Line("plum"));
 }
