@@ -74,7 +74,6 @@ bool BurnedTotal::IsOfAnotherDay(const DayLine& line) const {
 
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
-  // Nobody has no folder: a repaint behind the login dialog must not leave a file elsewhere.
   if (line.is_empty && !session_.user_name.empty() && !IsThere(Path())) {
     Transaction deed(session_.base_folder);
     deed.Append(Path(), "");

@@ -21,12 +21,10 @@ constexpr std::size_t kTextLimit = 26;
 
 BurnedRecordDialog::BurnedRecordDialog(const SessionState& session, BurnedRecord shown,
                                        const std::string& counted_activity)
-    : folder_(session.base_folder),
-      path_(session.UserFile(kBurnedReportFile)),
-      shown_(std::move(shown)),
-      counted_activity_(counted_activity) {}
+    : session_(session), shown_(std::move(shown)), counted_activity_(counted_activity) {}
 
 void BurnedRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kDate, kOther}) form.LimitText(id, kTextLimit);
   form.SetText(kDate, shown_.date);
   form.SetText(kMinutes, shown_.minutes);
   form.SetText(kCalories, shown_.kcal);
@@ -40,13 +38,14 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  Transaction deed(folder_);
-  deed.Append(path_, BurnedRecordText({.date = form.ReadText(kDate, kTextLimit),
-                                       .activity = counted_activity_,
-                                       .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                                       .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                                       .fat = form.ReadText(kFat, kRecordFigureLimit),
-                                       .other = form.ReadText(kOther, kTextLimit)}));
+  Transaction deed(session_.base_folder);
+  deed.Append(session_.UserFile(kBurnedReportFile),
+              BurnedRecordText({.date = form.ReadText(kDate, kTextLimit),
+                                .activity = counted_activity_,
+                                .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                                .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                                .fat = form.ReadText(kFat, kRecordFigureLimit),
+                                .other = form.ReadText(kOther, kTextLimit)}));
   deed.CommitUnreported();
   form.Close();
 }

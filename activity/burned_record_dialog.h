@@ -15,9 +15,8 @@ inline constexpr int kBurnedRecordResource = 10012;
 
 class BurnedRecordDialog final : public Dialog {
  public:
-  // Opens with the texts of `shown` and adds to the report of whoever is logged in now.
-  // `counted_activity` outlives the dialog: the record names the activity that was counted last
-  // when it is saved.
+  // Opens with the texts of `shown`. `counted_activity` outlives the dialog: the record names the
+  // activity that was counted last when it is saved.
   BurnedRecordDialog(const SessionState& session, BurnedRecord shown,
                      const std::string& counted_activity);
 
@@ -27,8 +26,7 @@ class BurnedRecordDialog final : public Dialog {
  private:
   void Save(Form& form);
 
-  std::string folder_;
-  std::string path_;
+  const SessionState& session_;
   BurnedRecord shown_;
   const std::string& counted_activity_;
 };

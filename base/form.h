@@ -18,6 +18,8 @@ namespace velnor {
 inline constexpr int kButtonClicked = 0;     // also what a menu command carries
 inline constexpr int kSelectionChanged = 1;  // list boxes and combo boxes, by the user only
 inline constexpr int kEditUpdated = 0x0400;  // single-line edits, also when the program sets them
+inline constexpr int kEditEntered = 0x0100;  // edits: the keyboard's focus has come
+inline constexpr int kEditLeft = 0x0200;     // edits: the keyboard's focus has gone
 
 // As much of a text as there is.
 inline constexpr std::size_t kWholeText = static_cast<std::size_t>(-1);
@@ -39,6 +41,9 @@ class Form {
   // Replaces the text, with which an edit's caret and first visible line go back to the start. It
   // ends at a NUL. A single-line edit announces kEditUpdated before this returns.
   virtual void SetText(int id, std::string_view text) = 0;
+  // From here on a person can type or paste into an edit until it holds `limit` characters; what
+  // SetText puts there is not cut.
+  virtual void LimitText(int id, std::size_t limit) = 0;
 
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
   // without regard to case. None of these announces anything.
@@ -61,6 +66,8 @@ class Form {
   virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
+  // Makes the button the one that a dialog's Enter key presses.
+  virtual void SetDefaultButton(int id) = 0;
 
   // Scrolls a multi-line edit; at its first and its last line it stops.
   virtual void Scroll(int id, ScrollStep step) = 0;

@@ -13,6 +13,10 @@ std::string SessionState::FileOf(const std::string& user, std::string_view file_
   return FolderOf(user) + kPathSeparator + std::string(file_name);
 }
 
+std::string SessionState::UserFile(std::string_view file_name) const {
+  return user_name.empty() ? "" : FileOf(user_name, file_name);
+}
+
 std::string DateText(int day, int month, int year) {
   return std::to_string(day) + '.' + std::to_string(month) + '.' + std::to_string(year);
 }

@@ -17,7 +17,9 @@ namespace {
 constexpr std::string_view kTemporaryMark = ".velnor-";
 constexpr std::string_view kTemporaryEnding = ".new";
 
-File Open(const std::string& path, const char* mode) { return File(OpenFile(path, mode)); }
+File Open(const std::string& path, const char* mode) {
+  return File(path.empty() ? nullptr : OpenFile(path, mode));
+}
 
 bool IsTemporaryName(std::string_view name) {
   const std::size_t mark = name.rfind(kTemporaryMark);
@@ -30,6 +32,7 @@ bool IsTemporaryName(std::string_view name) {
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
+  if (path.empty()) return "";
   errno = 0;
   const File file = Open(path, "rb");
   if (!file) {

@@ -1,4 +1,5 @@
-// The text files of the program. Nobody else opens one.
+// The text files of the program. Nobody else opens one. An empty path is that of no file: it reads
+// as a missing one and is not written.
 
 #ifndef VELNOR_BASE_TEXT_FILE_H_
 #define VELNOR_BASE_TEXT_FILE_H_
@@ -11,6 +12,9 @@
 #include <string_view>
 
 namespace velnor {
+
+// A limit that every file keeps.
+inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
 
 // The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
 // when there is something that cannot be read, or when the folder is missing, which may come back

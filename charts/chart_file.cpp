@@ -1,6 +1,5 @@
 #include "charts/chart_file.h"
 
-#include <limits>
 #include <optional>
 
 #include "base/text_file.h"
@@ -12,7 +11,6 @@ constexpr std::size_t kLineLimit = 99;
 constexpr std::size_t kLongestEmptySlot = 5;
 constexpr std::size_t kFullSlot = 20;  // occupied: the series is full
 constexpr std::size_t kDayCharacters = 7;
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 ChartSeries SeriesOf(std::string_view text) {
   ChartSeries series;
@@ -47,7 +45,7 @@ ChartSeries LoadChartFile(const std::string& path) {
 
 bool UpdateChartFile(Transaction& deed, const std::string& path, std::string_view date,
                      std::span<const std::string> fields) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
   const ChartSeries series = SeriesOf(*text);
 

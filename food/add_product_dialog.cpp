@@ -23,9 +23,6 @@ constexpr int kCalories = 740;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;
-constexpr std::size_t kShortestName = 4;
-
-constexpr std::string_view kUsualMass = "100";
 
 // The system's own texts, as they stand.
 constexpr std::string_view kNameTooShort =
@@ -44,11 +41,18 @@ bool BeginsWithDigit(const std::string& text) {
 }  // namespace
 
 AddProductDialog::AddProductDialog(FoodTable& food, const SessionState& session,
-                                   MessageBoxes& message_boxes)
-    : food_(food), session_(session), message_boxes_(message_boxes) {}
+                                   MessageBoxes& message_boxes, std::function<void()> on_changed)
+    : food_(food),
+      session_(session),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void AddProductDialog::OnOpen(Form& form) {
-  form.SetText(kMass, kUsualMass);
+  form.LimitText(kName, kRemovableNameLimit);
+  for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
+    form.LimitText(id, kNumberLimit);
+  }
+  form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
   form.FillItems(kMainCategory, ListMainCategories(food_));
 }
@@ -62,7 +66,8 @@ void AddProductDialog::OnCommand(Form& form, int id, int notification) {
 void AddProductDialog::OfferSubcategories(Form& form) {
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  std::vector<std::string_view> names = ListSubcategories(food_, Layout::kOverview, main_category);
+  std::vector<std::string_view> names =
+      ListSubcategories(food_, Matching::kOverview, main_category);
   std::erase_if(names, [](std::string_view name) { return name.size() <= 1; });
   form.FillItems(kSubcategory, names);
 }
@@ -83,7 +88,7 @@ void AddProductDialog::Add(Form& form) {
 
   // Mass and calories are taken as they come, and of the nutrients only the first character is
   // looked at. A file that cannot be written is not reported; the entries stay for another try.
-  if (name.size() < kShortestName) {
+  if (name.size() < kShortestProductName) {
     message_boxes_.Show({.text = kNameTooShort});
     message_boxes_.Show({.text = kIncomplete});
   } else if (incomplete) {
@@ -92,10 +97,11 @@ void AddProductDialog::Add(Form& form) {
     message_boxes_.Show({.text = kNotNumbers});
   } else if (Write({main_category, subcategory, name, mass, kcal, protein, fat, carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
-    form.SetText(kMass, kUsualMass);
+    form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(session_.BaseFile(kUserProductsFile));
+  on_changed_();
 }
 
 bool AddProductDialog::Write(const ProductRecord& product) const {

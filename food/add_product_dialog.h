@@ -3,6 +3,7 @@
 #ifndef VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
 #define VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
 
+#include <functional>
 #include <string>
 
 #include "base/dialog.h"
@@ -16,8 +17,10 @@ inline constexpr int kAddProductResource = 10010;
 
 class AddProductDialog final : public Dialog {
  public:
-  // Adds to the file of own products and reloads those of `food` from it.
-  AddProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes);
+  // Adds to the file of own products and reloads the user's products of `food` from it; calls
+  // `on_changed` when they may be others than before.
+  AddProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes,
+                   std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -30,6 +33,7 @@ class AddProductDialog final : public Dialog {
   FoodTable& food_;
   const SessionState& session_;
   MessageBoxes& message_boxes_;
+  std::function<void()> on_changed_;
 };
 
 }  // namespace velnor

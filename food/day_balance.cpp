@@ -20,10 +20,15 @@ constexpr std::size_t kReadLimit = kLines * (kLineLimit + 1);
 constexpr int kStoredDigits = 8;
 constexpr int kSeriesDigits = 6;
 
-// What taking off leaves of what was added, because figures are written with eight digits. No food
-// counts for so little, and the eight characters that are read of an exchange file would take the
-// digits of a figure such as 1.2345678e-05 for the whole of it.
-constexpr double kRoundingRest = 1e-4;
+// What taking off may leave of what was added, because figures are written with eight digits: in a
+// day of thousands, less than 0.0001 with each change. No food counts for so little.
+constexpr double kTotalRest = 1e-3;
+constexpr double kExchangeRest = 1e-4;
+constexpr double kRestDigits = kStoredDigits - 1;  // a rest is no unit of the last of these
+
+// The eight characters that are read of an exchange file would take the digits of a figure such as
+// 1.2345678e-05 for the whole of it.
+constexpr double kLeastExchange = 1e-4;
 
 constexpr std::array kExchangeFiles = {kCarbohydrateExchangeFile, kProteinFatExchangeFile};
 
@@ -38,10 +43,18 @@ std::optional<BalanceLines> ReadLines(const std::string& path) {
   return lines;
 }
 
-// A total beyond the range of its type is written as what it would be read as.
-double Total(double figure, double change) {
-  const double total = figure + change;
-  return std::isfinite(total) && total > kRoundingRest ? total : 0;
+// A figure beyond the range of its type is written as what it would be read as.
+double Sum(double figure, double added) {
+  const double sum = figure + added;
+  return std::isfinite(sum) ? sum : 0;
+}
+
+// `least`: what is not more than this is a rest, whatever the figure was.
+double Difference(double figure, double taken, double least) {
+  const double difference = figure - taken;
+  const double unit =
+      figure > 0 ? std::pow(10, std::floor(std::log10(figure)) + 1 - kRestDigits) : 0;
+  return std::isfinite(difference) && difference > std::max(least, unit) ? difference : 0;
 }
 
 std::string Stored(double figure) { return FormatNumber(figure, kStoredDigits); }
@@ -119,45 +132,60 @@ DayExchanges DayBalance::ReadExchanges() const {
           ReadExchange(session_.UserFile(kProteinFatExchangeFile)).value_or(0)};
 }
 
-bool DayBalance::Change(const DayTotals& totals,
-                        const std::optional<DayExchanges>& exchanges) const {
+bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) const {
+  return Make(Change::kAdd, totals, exchanges);
+}
+
+bool DayBalance::TakeOff(const DayTotals& totals,
+                         const std::optional<DayExchanges>& exchanges) const {
+  return Make(Change::kTakeOff, totals, exchanges);
+}
+
+bool DayBalance::Make(Change change, const DayTotals& totals,
+                      const std::optional<DayExchanges>& exchanges) const {
+  const auto changed = [change](double figure, double by, double rest) {
+    return change == Change::kAdd ? Sum(figure, by) : Difference(figure, by, rest);
+  };
   Transaction deed(session_.base_folder);
   const std::optional<Today> today = BeginToday(deed, session_);
   if (!today) return false;
   const DayTotals before = TotalsIn(today->lines);
-  const DayTotals after = {Total(before.kcal, totals.kcal), Total(before.protein, totals.protein),
-                           Total(before.fat, totals.fat),
-                           Total(before.carbohydrate, totals.carbohydrate)};
-  const std::string text = session_.date_text + '\n' + Stored(after.kcal) + '\n' +
-                           Stored(after.protein) + '\n' + Stored(after.fat) + '\n' +
-                           Stored(after.carbohydrate);
-  deed.Replace(BalancePath(), WithCrLf(text));
+  DayTotals after;
+  for (double DayTotals::*const figure :
+       {&DayTotals::kcal, &DayTotals::protein, &DayTotals::fat, &DayTotals::carbohydrate}) {
+    after.*figure = changed(before.*figure, totals.*figure, kTotalRest);
+  }
   if (exchanges) {
     const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
     for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
       const std::string path = session_.UserFile(kExchangeFiles[i]);
       const std::optional<double> exchange = today->is_new ? 0 : ReadExchange(path);
       if (!exchange) return false;
-      deed.Replace(path, Stored(Total(*exchange, changes[i])));
+      const double figure = changed(*exchange, changes[i], kExchangeRest);
+      deed.Replace(path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure));
     }
   }
-  return UpdateSeries(deed, after) && deed.Commit();
+  return Write(deed,
+               session_.date_text + '\n' + Stored(after.kcal) + '\n' + Stored(after.protein) +
+                   '\n' + Stored(after.fat) + '\n' + Stored(after.carbohydrate),
+               after);
 }
 
 bool DayBalance::Clear() const {
   Transaction deed(session_.base_folder);
   for (const std::string_view file : kExchangeFiles) deed.Replace(session_.UserFile(file), "0");
-  deed.Replace(BalancePath(), session_.date_text);
-  return UpdateSeries(deed, {}) && deed.Commit();
+  return Write(deed, session_.date_text, {});
 }
 
-bool DayBalance::UpdateSeries(Transaction& deed, const DayTotals& totals) const {
+bool DayBalance::Write(Transaction& deed, std::string_view balance, const DayTotals& totals) const {
   const auto text = [](double figure) {
     return FormatNumber(static_cast<float>(figure), kSeriesDigits);
   };
+  deed.Replace(BalancePath(), WithCrLf(balance));
   return UpdateChartFile(deed, session_.UserFile(kNutrientSeriesFile), session_.date_text,
                          std::array{text(totals.kcal), text(totals.protein), text(totals.fat),
-                                    text(totals.carbohydrate)});
+                                    text(totals.carbohydrate)}) &&
+         deed.Commit();
 }
 
 }  // namespace velnor

@@ -33,7 +33,6 @@ struct DayExchanges {
   double carbohydrate = 0;
   double protein_fat = 0;
 
-  DayExchanges operator-() const { return {-carbohydrate, -protein_fat}; }
   bool operator==(const DayExchanges&) const = default;
 };
 
@@ -63,19 +62,32 @@ class DayBalance {
   // The day's exchanges, of each file the first eight characters. Missing files count as 0.
   DayExchanges ReadExchanges() const;
 
-  // Adds to the totals and, where they are given, to the exchanges, and brings the day's line of
-  // the chart series up to date. Figures may be negative; a total that would fall below 0, or that
-  // is a mere rest of rounding, becomes 0. False when all files keep what they held.
-  bool Change(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
+  // The changes of a day write its files and its line of the chart series together. False when all
+  // of them keep what they held.
+
+  // Adds food to the totals and, where they are given, to the exchanges. Sums are plain: food of
+  // less than nothing takes the day below 0. An exchange nearer to 0 than 0.0001 becomes 0, since
+  // the eight characters that are read would not hold it.
+  bool Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
+
+  // Takes food off again. A figure that would fall below 0, or that is a mere rest of rounding,
+  // becomes 0. A rest is less than 0.001 (of an exchange, 0.0001), or than ten units in the eighth
+  // digit that the figure had before: eight digits are written, and after many changes the last of
+  // them is not what was eaten.
+  bool TakeOff(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
 
   // Nothing has been eaten today: the balance holds the date alone, the exchange files "0", the
-  // day's line of the chart series zeros. False when all four files keep what they
-  // held.
+  // day's line of the chart series zeros.
   bool Clear() const;
 
  private:
+  enum class Change { kAdd, kTakeOff };
+
   std::string BalancePath() const { return session_.UserFile(kBalanceFile); }
-  bool UpdateSeries(Transaction& deed, const DayTotals& totals) const;
+  bool Make(Change change, const DayTotals& totals,
+            const std::optional<DayExchanges>& exchanges) const;
+  // Gives the balance those bytes and the series those totals, and commits the deed.
+  bool Write(Transaction& deed, std::string_view balance, const DayTotals& totals) const;
 
   const SessionState& session_;
 };

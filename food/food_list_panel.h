@@ -45,9 +45,9 @@ class FoodListPanel {
   std::vector<std::string> Lines() const;
 
  private:
+  // Adds to the totals; what is taken off is negative.
+  void ChangeTotals(double weight, const DayTotals& amounts);
   void ShowTotals(const ListTotals& totals);
-  // Says so when the day keeps what it held.
-  bool ChangeDay(const DayTotals& amounts, bool with_exchanges);
   void ReportFailedWrite();
 
   const FoodTable& food_;
@@ -58,6 +58,7 @@ class FoodListPanel {
   // The lines that were added with their products' own figures. They may hold traces, which the
   // same weight typed leaves out: what is taken off must be what was added.
   std::vector<std::string> lines_with_own_figures_;
+  DayTotals left_out_;  // of the totals that are shown, by rounding
 };
 
 }  // namespace velnor

@@ -14,8 +14,12 @@ constexpr int kNames = 739;
 }  // namespace
 
 RemoveProductDialog::RemoveProductDialog(FoodTable& food, const SessionState& session,
-                                         MessageBoxes& message_boxes)
-    : food_(food), session_(session), message_boxes_(message_boxes) {}
+                                         MessageBoxes& message_boxes,
+                                         std::function<void()> on_changed)
+    : food_(food),
+      session_(session),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
   form.FillItems(kNames, Views(ReadUserProductNames(session_.BaseFile(kUserProductsFile))));
@@ -40,6 +44,7 @@ void RemoveProductDialog::Remove(Form& form) {
     form.RemoveSelectedItem(kNames);
   }
   food_.user_products.Load(session_.BaseFile(kUserProductsFile));
+  on_changed_();
 }
 
 }  // namespace velnor

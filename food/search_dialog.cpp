@@ -21,7 +21,10 @@ void Reset(Form& form) {
 
 }  // namespace
 
-void SearchDialog::OnOpen(Form& form) { form.Focus(kQuery); }
+void SearchDialog::OnOpen(Form& form) {
+  form.LimitText(kQuery, kQueryLimit);
+  form.Focus(kQuery);
+}
 
 void SearchDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kFind && notification == kButtonClicked) Find(form);

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <optional>
 
+#include "base/file_calls.h"
 #include "base/text_file.h"
 #include "base/transaction.h"
 
@@ -18,8 +18,6 @@ constexpr ReportFile kReports[] = {
     {9, "Reports overview - RECIPES", "zestaw.ASC"},
     {11, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
 };
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
 
@@ -39,8 +37,9 @@ std::string LoadReport(const std::string& path) {
 bool ClearReport(const std::string& folder, const std::string& path) {
   Transaction deed(folder);
   // One byte tells a file from what only looks like one.
-  if (!ReadFileToRewrite(path, 1)) return false;
+  if (!ReadFileToRewrite(path, 1) || !ReadFileToRewrite(RestPath(path), 1)) return false;
   deed.Replace(path, "");
+  deed.Remove(RestPath(path));
   return deed.Commit();
 }
 
@@ -48,7 +47,7 @@ bool SaveReport(const std::string& folder, const std::string& path, std::string_
                 std::string_view text) {
   Transaction deed(folder);
   if (!FileExists(path)) return false;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   if (!old) return false;
   // A record may have been appended since it was shown. A file that has changed altogether was
   // never shown as it is now.
@@ -57,7 +56,7 @@ bool SaveReport(const std::string& folder, const std::string& path, std::string_
   deed.Replace(path, text);
   if (rest.empty()) return deed.Commit();
   // Added to what earlier saves have kept; what stands there is never lost.
-  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kNoLimit);
+  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kWholeFile);
   if (!kept) return false;
   if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
   deed.Replace(RestPath(path), kept->append(rest));

@@ -33,8 +33,8 @@ std::string LoadReport(const std::string& path);
 
 // `folder`, here and below: the start-up folder, with a separator at its end.
 //
-// Makes the file empty, and makes an empty one when it is missing. False when it stays as it was,
-// which is what a file does that cannot be read.
+// Makes the file empty, and makes an empty one when it is missing. What was kept at RestPath goes
+// with it. False when both stay as they were, which is what files do that cannot be read.
 bool ClearReport(const std::string& folder, const std::string& path);
 
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person

@@ -36,14 +36,20 @@ void ReportScreen::Paint(Canvas& canvas) {
   const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, report->title);
+  canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
+  const std::string path = Path();
+  if (HasRest(path)) {
+    canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
+  }
+  if (path != unsaved_path_) ShowFile();
+}
+
+void ReportScreen::ShowFile() {
+  unsaved_path_.clear();
   shown_.path = Path();
   shown_.bytes = LoadReport(shown_.path);
-  if (HasRest(shown_.path)) {
-    canvas.DrawText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
-  }
   // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
   // so it gets none when it has the right one.
   const std::string text = WithCrLf(shown_.bytes);
@@ -53,7 +59,7 @@ void ReportScreen::Paint(Canvas& canvas) {
 void ReportScreen::Clear() {
   const std::string path = Path();
   if (path.empty() || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  ClearReport(session_.base_folder, path);
+  if (ClearReport(session_.base_folder, path)) unsaved_path_.clear();
   window_.Invalidate();
 }
 
@@ -65,9 +71,15 @@ void ReportScreen::Save() {
   // The box lets repaints through, and every repaint reloads the file: what the person has written
   // is taken before.
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
-  const std::string shown = shown_.bytes;
+  const Shown shown = shown_;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  SaveReport(session_.base_folder, path, shown, text);
+  if (SaveReport(session_.base_folder, path, shown.bytes, text)) {
+    unsaved_path_.clear();
+  } else {
+    unsaved_path_ = path;
+    shown_ = shown;
+    if (form_.ReadText(kTextEdit, kWholeText) != text) form_.SetText(kTextEdit, text);
+  }
   window_.Invalidate();
 }
 

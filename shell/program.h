@@ -10,7 +10,6 @@
 
 #include "activity/burned_calories.h"
 #include "activity/burned_screen.h"
-#include "activity/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -24,6 +23,7 @@
 #include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/day_balance.h"
+#include "food/energy_screen.h"
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
@@ -92,6 +92,8 @@ class Program {
  private:
   // What begins with the login of a user: the day's balance, the user's limits.
   void StartUserDay();
+  // After a product of the user's own came or went.
+  void OnProductsChanged();
 
   SessionState session_;
   Form& form_;

@@ -48,6 +48,7 @@ ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWi
     : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
 
 void ProfileDialog::OnOpen(Form& form) {
+  for (const int id : {kAge, kHeight}) form.LimitText(id, kTypedLimit);
   form.FillItems(kSex, kSexes);
   form.FillItems(kLifeStyle, kLifeStyles);
   form.FillItems(kOther, kOthers);
@@ -65,7 +66,12 @@ void ProfileDialog::OnOpen(Form& form) {
 
 void ProfileDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kOkButton && notification == kButtonClicked) Save(form);
-  if (id == kCancelButton) form.Close();
+  if (id == kCancelButton) Close(form);
+}
+
+void ProfileDialog::Close(Form& form) {
+  is_closed_ = true;
+  form.Close();
 }
 
 // Empty fields would take the place of what is still in the file. Where the user's folder is gone,
@@ -90,6 +96,8 @@ void ProfileDialog::Save(Form& form) {
   auto& [age, height, sex, life_style, other] = lines;
   if (sex.starts_with('m') && (other.starts_with('p') || other.starts_with('s'))) {
     message_boxes_.Show({.text = kContradiction, .owner = MessageOwner::kDialog});
+    // The menu could be used behind the box: with the session of its user the dialog has ended.
+    if (is_closed_) return;
     other = "0";
   }
   const std::string path = session_.UserFile(kProfileFile);
@@ -104,7 +112,7 @@ void ProfileDialog::Save(Form& form) {
   profile_ = {age, height, sex, life_style, other};
   session_.screen = kHomeScreen;
   window_.PaintNow();
-  form.Close();
+  Close(form);
 }
 
 }  // namespace velnor

@@ -24,6 +24,8 @@ constexpr std::string_view kForbidden =
     "The name contain forbidden signs\n"
     "         space + -  / . ; ~ ` > < | : tab ! @ # $ % ^ & * ( ) \"";
 constexpr std::string_view kTooLong = "The name of the user can\ncontain at most 99 signs";
+constexpr std::string_view kSameFolder =
+    "The name differs only in small and capital\nletters from ";
 constexpr std::string_view kListFull = "The list of users is full\nRemove some user first";
 constexpr std::string_view kNotWritten = "The list of users could not be written";
 
@@ -62,6 +64,8 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
       on_removed_(std::move(on_removed)) {}
 
 void UsersDialog::OnOpen(Form& form) {
+  form.LimitText(kName, kTypedLimit);
+  form.Focus(kName);
   opened_ = ReadUserRegistry(session_.BaseFile(kRegistryFile));
   if (opened_) form.FillItems(kUsers, Views(opened_->names));
 }
@@ -70,10 +74,20 @@ void UsersDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kUsers && notification == kSelectionChanged) {
     form.SetText(kName, form.SelectedText(kUsers).value_or(""));
   }
+  if (id == kName) ChooseDefaultButton(form, notification);
   if (id == kAdd && notification == kButtonClicked) Add(form);
   if (id == kRemove && notification == kButtonClicked) Remove(form);
   if (id == kOkButton && notification == kButtonClicked) Confirm(form);
   if (id == kCancelButton) form.Close();
+}
+
+// Enter in the name adds it, elsewhere it is OK. A selection in the list fills the name, too, and
+// must not be added again.
+void UsersDialog::ChooseDefaultButton(Form& form, int notification) {
+  if (notification == kEditEntered) is_in_name_ = true;
+  if (notification == kEditLeft) is_in_name_ = false;
+  const bool adds = is_in_name_ && !form.ReadText(kName, 1).empty();
+  form.SetDefaultButton(adds ? kAdd : kOkButton);
 }
 
 // A name that is listed already is taken all the same, and its files become empty.
@@ -103,6 +117,10 @@ bool UsersDialog::Accept(const Form& form, const std::string& name) {
     return false;
   }
   UserRegistry registry = Listed(form);
+  if (const std::optional<std::string> other = FindNamesake(session_, registry.names, name)) {
+    Complain(std::string(kSameFolder) + *other);
+    return false;
+  }
   registry.names.push_back(name);
   if (RegistryBytes(registry).size() > kRegistryLimit) {
     Complain(kListFull);

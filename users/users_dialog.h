@@ -27,6 +27,7 @@ class UsersDialog final : public Dialog {
   void OnCommand(Form& form, int id, int notification) override;
 
  private:
+  void ChooseDefaultButton(Form& form, int notification);
   void Add(Form& form);
   void Remove(Form& form);
   void Confirm(Form& form);
@@ -39,6 +40,7 @@ class UsersDialog final : public Dialog {
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_removed_;
+  bool is_in_name_ = false;  // the focus
   // The list as the file held it when the dialog opened; nothing when it could not be read.
   std::optional<UserRegistry> opened_;
 };

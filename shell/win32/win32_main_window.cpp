@@ -3,14 +3,16 @@
 #include <string>
 #include <utility>
 
+#include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
+#include "shell/win32/fault_barrier.h"
+#include "shell/win32/file_picker.h"
 #include "shell/win32/wide_path.h"
 
 namespace velnor {
 namespace {
 
 constexpr int kMenuResource = 501;
-constexpr int kIconResource = 900;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;
@@ -40,7 +42,7 @@ bool Win32MainWindow::Open(int show_command) {
   window_class.style = CS_DBLCLKS;
   window_class.lpfnWndProc = Procedure;
   window_class.hInstance = instance_;
-  window_class.hIcon = LoadIconA(instance_, MAKEINTRESOURCEA(kIconResource));
+  window_class.hIcon = ProgramIcon();
   window_class.hIconSm = window_class.hIcon;
   window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
   window_class.hbrBackground = surface_;
@@ -62,7 +64,8 @@ int Win32MainWindow::RunMessageLoop() {
     // The wheel is the screen's before it is that of the control which has the focus: an edit would
     // scroll as many lines as it likes.
     const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
-    if (wheel && OnMouseWheel(message.wParam)) continue;
+    const auto scrolled = [&] { return OnMouseWheel(message.wParam); };
+    if (wheel && BehindBarrier(window_, true, scrolled)) continue;
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
@@ -79,7 +82,8 @@ LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wp
   }
   auto* const self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcA(window, message, wparam, lparam);
-  return self->OnMessage(message, wparam, lparam);
+  const LRESULT on_fault = message == WM_CREATE ? -1 : 0;  // a window that could not be made goes
+  return BehindBarrier(window, on_fault, [&] { return self->OnMessage(message, wparam, lparam); });
 }
 
 LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -198,16 +202,55 @@ void Win32MainWindow::EnableMenuItem(int command, bool enabled) {
 }
 
 void Win32MainWindow::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
-  modeless_dialog_ = OpenModelessDialog(instance_, window_, resource_id, std::move(dialog),
-                                        [this] { modeless_dialog_ = nullptr; });
+  modeless_dialog_ =
+      OpenModelessDialog(instance_, window_, resource_id, std::move(dialog), [this](HWND closed) {
+        modeless_dialog_ = nullptr;
+        std::erase(session_dialogs_, closed);
+      });
+}
+
+void Win32MainWindow::OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
+  OpenDialog(resource_id, std::move(dialog));
+  if (modeless_dialog_ != nullptr) session_dialogs_.push_back(modeless_dialog_);
+}
+
+void Win32MainWindow::CloseSessionDialogs() {
+  const std::vector<HWND> open = session_dialogs_;  // each takes itself off the list
+  for (const HWND dialog : open) SendMessageA(dialog, WM_COMMAND, kCancelButton, 0);
 }
 
 void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
   RunModalDialog(instance_, window_, resource_id, dialog);
 }
 
+// The dialog waits like a box of its own; the window behind it has to as well, or the program could
+// be left while the person is choosing.
+std::optional<std::string> Win32MainWindow::ChooseFile(const FileKind& kind) {
+  const HWND active = GetActiveWindow();
+  EnableWindow(window_, FALSE);
+  std::optional<std::string> path = PickFile(active != nullptr ? active : window_, kind);
+  EnableWindow(window_, TRUE);
+  return path;
+}
+
 void Win32MainWindow::OpenHelp(std::string_view file_name) {
   WinHelpA(window_, std::string(file_name).c_str(), kHelpPartialKey, 0);
+}
+
+// The library is loaded when it is needed: most runs of the program open no page. It stays, since
+// what it started may still be at work in it.
+bool Win32MainWindow::OpenInBrowser(const std::string& path) {
+  using ShellExecuteFunction =
+      HINSTANCE(WINAPI*)(HWND, const char*, const char*, const char*, const char*, int);
+  constexpr INT_PTR kLastError = 32;
+  const HMODULE library = LoadLibraryExA("shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) return false;
+  // The platform gives every function the same type; void() is the one no warning is about.
+  const auto address = reinterpret_cast<void (*)()>(GetProcAddress(library, "ShellExecuteA"));
+  const auto execute = reinterpret_cast<ShellExecuteFunction>(address);
+  if (execute == nullptr) return false;
+  const HINSTANCE result = execute(window_, "open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 
 }  // namespace velnor

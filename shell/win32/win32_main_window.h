@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <optional>
+#include <vector>
 
 #include "base/main_window.h"
 #include "shell/program.h"
@@ -34,8 +35,12 @@ class Win32MainWindow final : public MainWindow {
   void Close() override;
   void EnableMenuItem(int command, bool enabled) override;
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
+  void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
+  void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
@@ -54,6 +59,7 @@ class Win32MainWindow final : public MainWindow {
   HWND focus_when_active_ = nullptr;
   HMENU menu_ = nullptr;
   HWND modeless_dialog_ = nullptr;
+  std::vector<HWND> session_dialogs_;  // the open ones
   GdiResources resources_;
   MemoryPicture back_buffer_;
   std::optional<MainForm> form_;

@@ -3,6 +3,8 @@
 #include <array>
 #include <string>
 
+#include "shell/win32/caption_icon.h"
+
 namespace velnor {
 namespace {
 
@@ -16,6 +18,7 @@ Answer Win32MessageBoxes::Show(const Message& message) {
   const HWND owner = Owner(message.owner);
   const UINT style = kButtons[static_cast<std::size_t>(message.buttons)] |
                      kIcons[static_cast<std::size_t>(message.icon)];
+  const BoxIcons icons;
   const int pressed = MessageBoxA(owner, std::string(message.text).c_str(),
                                   std::string(message.caption).c_str(), style);
   if (message.buttons == MessageButtons::kOk) return Answer::kOk;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/win32/list_order.h"
+
 namespace velnor {
 namespace {
 
@@ -22,6 +24,8 @@ static_assert(kButtonClicked == BN_CLICKED);
 static_assert(kSelectionChanged == LBN_SELCHANGE);
 static_assert(kSelectionChanged == CBN_SELCHANGE);
 static_assert(kEditUpdated == EN_UPDATE);
+static_assert(kEditEntered == EN_SETFOCUS);
+static_assert(kEditLeft == EN_KILLFOCUS);
 
 constexpr std::array kClassNames = {"button", "combobox", "edit", "listbox", "static"};
 
@@ -83,16 +87,31 @@ bool IsFrame(HWND control) {
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
-// Adds texts at the places the list gives them.
+bool IsSortedListBox(HWND list) {
+  return &MessagesOf(list) == &kListBoxMessages &&
+         (GetWindowLongA(list, GWL_STYLE) & LBS_SORT) != 0;
+}
+
+// Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
+// its own order and has not to look for the place of each.
 void Append(HWND list, std::span<const std::string_view> texts) {
+  constexpr auto kAtTheEnd = static_cast<WPARAM>(-1);
   const ListMessages& messages = MessagesOf(list);
   std::size_t bytes = 0;
   for (const std::string_view text : texts) bytes += text.size() + 1;
   SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
-  std::string item;  // ended by a NUL, as the platform reads it
-  for (const std::string_view text : texts) {
-    item = text;
-    SendMessageA(list, messages.add, 0, ToParameter(item.c_str()));
+  std::optional<std::vector<std::string>> ordered;
+  if (IsSortedListBox(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+    ordered = OrderOfList(list, texts);
+  }
+  if (ordered) {
+    for (const std::string& text : *ordered) {
+      SendMessageA(list, LB_INSERTSTRING, kAtTheEnd, ToParameter(text.c_str()));
+    }
+  } else {
+    for (const std::string_view text : texts) {
+      SendMessageA(list, messages.add, 0, ToParameter(std::string(text).c_str()));
+    }
   }
   if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
 }
@@ -131,6 +150,10 @@ std::string WindowForm::ReadText(int id, std::size_t limit) const {
 
 void WindowForm::SetText(int id, std::string_view text) {
   SetWindowTextA(Control(id), std::string(text).c_str());
+}
+
+void WindowForm::LimitText(int id, std::size_t limit) {
+  SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
 }
 
 int WindowForm::ItemCount(int id) const {
@@ -192,6 +215,10 @@ void WindowForm::RemoveItem(int id, int index) {
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
 
+void WindowForm::SetDefaultButton(int id) {
+  SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
+}
+
 void WindowForm::Scroll(int id, ScrollStep step) {
   SendMessageA(Control(id), EM_SCROLL, kScrollCodes[static_cast<std::size_t>(step)], 0);
 }
@@ -221,6 +248,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }

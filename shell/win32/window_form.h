@@ -21,6 +21,7 @@ class WindowForm : public Form {
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
+  void LimitText(int id, std::size_t limit) override;
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
@@ -31,6 +32,7 @@ class WindowForm : public Form {
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SetDefaultButton(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;

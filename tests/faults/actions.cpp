@@ -264,7 +264,7 @@ void LookAtTheScreen(Scene& scene) { scene.Repaint(); }
 
 std::span<const Action> Actions() {
   using Files = std::vector<std::string_view>;
-  static const Files kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC"};
+  static const Files kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC", "Ann/wykoda.txt"};
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};
@@ -317,6 +317,8 @@ std::span<const Action> Actions() {
       {.name = "start over a deed cut off", .enter = CutADeedOff, .act = OpenTheFolder},
       {.name = "paint over a deed cut off", .enter = CutADeedOff, .act = LookAtTheScreen},
       {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
+      {.name = "clear a report and what was kept", .arrange = LengthenReport, .enter = OpenReport,
+       .act = ClearReport},
   };
   // clang-format on
   return kActions;

@@ -34,6 +34,33 @@ TEST_F(FakeFormTest, SortedListsIgnoreCase) {
   }
 }
 
+TEST_F(FakeFormTest, OnlyWhatIsTypedStopsAtTheLimit) {
+  form_.LimitText(128, 3);
+  form_.Type(128, "12345");
+  EXPECT_EQ(form_.Text(128), "123");
+  form_.SetText(128, "12345");
+  EXPECT_EQ(form_.Text(128), "12345");
+}
+
+TEST_F(FakeFormTest, EditsTellOfTheFocusThatComesAndGoes) {
+  form_.Focus(128);
+  form_.MoveFocusTo(126);  // a list box tells nothing
+  form_.MoveFocusTo(101);
+  EXPECT_EQ(heard_, (Notifications{{128, kEditEntered}, {128, kEditLeft}, {101, kEditEntered}}));
+}
+
+TEST_F(FakeFormTest, AnItemThatGoesLeavesTheSelectionOnItsText) {
+  for (const char* const item : {"apples", "figs", "pears"}) form_.AddItem(109, item);
+  form_.SelectItem(109, 1);
+  form_.RemoveItem(109, 0);
+  EXPECT_EQ(form_.SelectedText(109), "figs");
+  form_.RemoveItem(109, 0);
+  EXPECT_EQ(form_.SelectedText(109), std::nullopt);
+  form_.RemoveItem(109, 5);
+  form_.RemoveItem(109, -1);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"pears"}));
+}
+
 TEST_F(FakeFormTest, FillingAndClearingAnnounceNothing) {
   form_.AddItem(109, "pears");
   form_.ClearItems(109);

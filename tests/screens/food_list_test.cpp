@@ -231,8 +231,11 @@ TEST_F(FoodListTest, AProductThatIsGoneLeavesItsWeightOnly) {
   Choose("fruits", "fresh", "apple pie");
   form_.Press(kAdd);
   EXPECT_EQ(Totals().at(1), "237.");
-  folder_.Write("data.txt", "");
-  Start();  // the list stays in its control, the products are read again
+  FakeForm remove;
+  remove.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
+  OpenDialog(241, remove);
+  remove.Choose(739, "apple pie");
+  remove.Press(1);
   form_.Choose(kList, "apple pie  100.0g");
   program_->OnCommand(kRemove, kButtonClicked);
   EXPECT_EQ(form_.ItemCount(kList), 0);
@@ -266,6 +269,42 @@ TEST_F(FoodListTest, NothingFallsBelowNothing) {
   EXPECT_EQ(Balance(), "16.11.2026 0. 18.25 0. 0.");
   EXPECT_EQ(Read("z1.ASC"), "0.");
   EXPECT_EQ(Read("z2.ASC"), "0.");
+}
+
+// Six digits are shown of the totals that are taken off.
+TEST_F(FoodListTest, ClearingLeavesNoRestOfRounding) {
+  OpenCounter();
+  for (int i = 0; i < 3; ++i) AddStrawberries("1234.55");
+  EXPECT_EQ(Totals().at(1), "1037.02");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.");
+  EXPECT_EQ(Read("z1.ASC"), "0.");
+  EXPECT_EQ(Read("z2.ASC"), "0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;0.;0.;0.;0.;\r\n");
+  AddStrawberries("250");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.") << "what was left out went with the list";
+}
+
+TEST_F(FoodListTest, ClearingLeavesWhatWasEatenBeforeAsItWas) {
+  OpenCounter();
+  Write("bilans.ASC", "16.11.2026\r\n500.\r\n20.\r\n10.\r\n80.");
+  for (int i = 0; i < 3; ++i) AddStrawberries("1234.55");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 500. 20. 10. 80.");
+}
+
+// A product that a person has given less than nothing.
+TEST_F(FoodListTest, FoodOfLessThanNothingComesAndGoes) {
+  folder_.Write("data.txt", "fruits;fresh;sauna visit;100;-50;0;0;0;\r\n");
+  OpenCounter();
+  Choose("fruits", "fresh", "sauna visit");
+  form_.Press(kAdd);
+  EXPECT_EQ(Balance(), "16.11.2026 -50. 0. 0. 0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;-50.;0.;0.;0.;\r\n");
+  Remove("sauna visit  100.0g");
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;0.;0.;0.;0.;\r\n");
 }
 
 // A weight field that shows dashes has the values of no product.

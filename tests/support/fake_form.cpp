@@ -39,6 +39,7 @@ void FakeForm::AddMainWindowControls() {
   for (const ControlRow& row : MainWindowControls()) {
     const bool taken = controls_.contains(row.id);
     AddControl(taken ? SecondControl(row.id) : row.id, row.control_class, row.style);
+    if (row.limit > 0) LimitText(row.id, row.limit);
   }
 }
 
@@ -59,7 +60,7 @@ void FakeForm::Type(int id, const std::string& text) {
   Control* const control = Find(id);
   ASSERT_NE(control, nullptr) << "no control " << id;
   // Typing changes the text character by character, and each change is announced.
-  for (std::size_t length = 0; length <= text.size(); ++length) {
+  for (std::size_t length = 0; length <= std::min(text.size(), control->limit); ++length) {
     control->text = text.substr(0, length);
     Notify(id, kEditUpdated);
     Notify(id, kEditChanged);
@@ -67,6 +68,18 @@ void FakeForm::Type(int id, const std::string& text) {
 }
 
 void FakeForm::Press(int id) { Notify(id, kButtonClicked); }
+
+void FakeForm::PressEnter() { Press(default_button_); }
+
+void FakeForm::MoveFocusTo(int id) {
+  const auto is_edit = [this](int key) {
+    const Control* const control = Find(key);
+    return control != nullptr && control->control_class == ControlClass::kEdit;
+  };
+  const int left = std::exchange(focused_, id);
+  if (is_edit(left)) Notify(left, kEditLeft);
+  if (is_edit(id)) Notify(id, kEditEntered);
+}
 
 const std::vector<std::string>& FakeForm::Items(int id) const { return Find(id)->items; }
 
@@ -99,6 +112,11 @@ void FakeForm::SetText(int id, std::string_view text) {
     Notify(id, kEditUpdated);
     Notify(id, kEditChanged);
   }
+}
+
+void FakeForm::LimitText(int id, std::size_t limit) {
+  Control* const control = Find(id);
+  if (control != nullptr) control->limit = limit;
 }
 
 int FakeForm::ItemCount(int id) const {
@@ -153,7 +171,10 @@ void FakeForm::RemoveItem(int id, int index) {
   if (control->selection > index) --control->selection;
 }
 
-void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }
+void FakeForm::Focus(int id) {
+  log_.push_back("focus " + std::to_string(id));
+  MoveFocusTo(id);
+}
 
 void FakeForm::Scroll(int id, ScrollStep step) {
   Control* const control = Find(id);

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/dialog.h"
 #include "base/form.h"
 #include "shell/controls.h"
 
@@ -35,6 +36,8 @@ class FakeForm final : public Form {
   void Choose(int id, const std::string& item);
   void Type(int id, const std::string& text);
   void Press(int id);
+  void PressEnter();  // in a dialog: presses its default button
+  void MoveFocusTo(int id);
 
   // What a person sees.
   std::string Text(int id) const { return ReadText(id, std::string::npos); }
@@ -50,6 +53,7 @@ class FakeForm final : public Form {
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
+  void LimitText(int id, std::size_t limit) override;
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
@@ -60,6 +64,7 @@ class FakeForm final : public Form {
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SetDefaultButton(int id) override { default_button_ = id; }
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;
@@ -73,6 +78,7 @@ class FakeForm final : public Form {
     std::vector<std::string> items;
     int fills = 0;
     int selection = -1;
+    std::size_t limit = std::string::npos;  // of what can be typed
     int first_line = 0;
     bool shown = false;
 
@@ -85,6 +91,8 @@ class FakeForm final : public Form {
   void Notify(int id, int notification);
 
   std::map<int, Control> controls_;
+  int focused_ = 0;
+  int default_button_ = kOkButton;
   std::vector<std::string> log_;
   Listener listener_;
 };

@@ -47,10 +47,21 @@ TEST_F(UserProductFileTest, ALastLineWithoutAnEndKeepsItsProduct) {
             "fruits;fresh;fig;100;1;1;1;1;\r\nfruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
 }
 
+TEST_F(UserProductFileTest, AppendsManyLinesBehindAnOpenOne) {
+  Write("fruits;fresh;fig;100;1;1;1;1;");
+  const ProductRecord plum = {"fruits", "fresh", "plum", "100", "1", "1", "1", "1"};
+  const std::vector<ProductRecord> products = {kApplePie, plum};
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProducts, Path(), products));
+  EXPECT_EQ(Bytes(),
+            Line("fig") + "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n" + Line("plum"));
+}
+
 TEST_F(UserProductFileTest, WhatCannotBeReadOrWrittenIsReported) {
   std::filesystem::create_directory(Path());
   EXPECT_FALSE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_FALSE(Committed(folder_.path(), AddUserProduct, Path(), kApplePie));
+  EXPECT_FALSE(
+      Committed(folder_.path(), AddUserProducts, Path(), std::vector<ProductRecord>{kApplePie}));
 }
 
 TEST_F(UserProductFileTest, ListsTheThirdFields) {

@@ -1,16 +1,16 @@
 // The energy balance: what was given out and what was eaten, as figures and as arrows on two
 // scales, from a basal metabolic rate that the person types.
 
-#ifndef VELNOR_ACTIVITY_ENERGY_SCREEN_H_
-#define VELNOR_ACTIVITY_ENERGY_SCREEN_H_
+#ifndef VELNOR_FOOD_ENERGY_SCREEN_H_
+#define VELNOR_FOOD_ENERGY_SCREEN_H_
 
 #include "activity/burned_calories.h"
-#include "activity/energy_balance.h"
 #include "base/canvas.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "food/day_balance.h"
+#include "food/energy_balance.h"
 
 namespace velnor {
 
@@ -41,4 +41,4 @@ class EnergyScreen {
 
 }  // namespace velnor
 
-#endif  // VELNOR_ACTIVITY_ENERGY_SCREEN_H_
+#endif  // VELNOR_FOOD_ENERGY_SCREEN_H_

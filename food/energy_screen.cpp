@@ -1,4 +1,4 @@
-#include "activity/energy_screen.h"
+#include "food/energy_screen.h"
 
 #include <cmath>
 #include <string>
@@ -9,15 +9,15 @@ namespace velnor {
 namespace {
 
 constexpr int kBmr = 181;
-constexpr std::size_t kBmrLimit = 10;
 
 // The system's own text, as it stands.
 constexpr std::string_view kNoBmr =
     "Put the value of Your BMR factor!\nIf You don`t know it use our built-in calculator.";
 
-// Small enough for a label to end before its figure, and a remark before the edge of the window.
+// Small, for a label to end before its figure, and narrow, for a remark to end before the edge of
+// the window.
 constexpr Font kLabelFont{12, 0, false};
-constexpr Font kRemarkFont{10, 0, false};
+constexpr Font kRemarkFont{11, 0, false, true};
 
 constexpr Colour kWhite{255, 255, 255};
 
@@ -63,7 +63,7 @@ void PaintAxis(Canvas& canvas, const Scale& scale) {
   int kcal = 0;
   for (int x = kAxisLeft; x <= kAxisRight; x += kTickDistance, kcal += kKcalPerTick) {
     canvas.DrawLine({x, scale.axis_y - kTickHalf}, {x, scale.axis_y + kTickHalf});
-    canvas.DrawText({x - 7, scale.axis_y + 6}, std::to_string(kcal));
+    canvas.WriteText({x - 7, scale.axis_y + 6}, std::to_string(kcal));
   }
 }
 
@@ -77,9 +77,9 @@ void PaintArrow(Canvas& canvas, const Scale& scale, double kcal) {
 
 void PaintFigure(Canvas& canvas, const Scale& scale, double kcal) {
   canvas.SetFont(kLabelFont);
-  canvas.DrawText({10, scale.label_y}, scale.label);
+  canvas.WriteText({10, scale.label_y}, scale.label);
   canvas.SetFont(kBodyFont);
-  canvas.DrawText({220, scale.label_y}, Rounded(kcal, kScaleDigits));
+  canvas.WriteText({220, scale.label_y}, Rounded(kcal, kScaleDigits));
 }
 
 void PaintScales(Canvas& canvas, double out, double eaten) {
@@ -95,8 +95,8 @@ void PaintScales(Canvas& canvas, double out, double eaten) {
     PaintArrow(canvas, kEaten, eaten);
   }
   canvas.SetFont(kRemarkFont);
-  if (!out_fits) canvas.DrawText({720, kOut.out_of_scale_y}, "OUT OF SCALE");
-  if (!eaten_fits) canvas.DrawText({720, kEaten.out_of_scale_y}, "OUT OF SCALE");
+  if (!out_fits) canvas.WriteText({720, kOut.out_of_scale_y}, "OUT OF SCALE");
+  if (!eaten_fits) canvas.WriteText({720, kEaten.out_of_scale_y}, "OUT OF SCALE");
 }
 
 }  // namespace
@@ -113,18 +113,18 @@ void EnergyScreen::Paint(Canvas& canvas) {
   burned_.Refresh();
   const EnergyFigures figures = Figures();
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "Energy balance");
-  canvas.DrawText({300, 470}, "DIFFERENCE [kcal] = ");
-  canvas.DrawText({470, 470}, Rounded(difference_, kDifferenceDigits));
+  canvas.WriteText({10, 30}, "Energy balance");
+  canvas.WriteText({300, 470}, "DIFFERENCE [kcal] = ");
+  canvas.WriteText({470, 470}, Rounded(difference_, kDifferenceDigits));
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
-  DrawTexts(canvas, kIntroduction);
+  WriteTexts(canvas, kIntroduction);
   PaintScales(canvas, ShownOut(figures), ShownEaten(figures));
   form_.SetText(kBmr, Rounded(bmr_, kBmrDigits));
 }
 
 void EnergyScreen::Count() {
-  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrLimit)));
+  const auto typed = static_cast<float>(ParseNumber(form_.ReadText(kBmr, kBmrTextLimit)));
   if (typed == 0) {
     message_boxes_.Show({.text = kNoBmr});
     return;

@@ -1,9 +1,14 @@
 // The energy balance: what a body gives out in a day against what was eaten. Used by its screen.
 
-#ifndef VELNOR_ACTIVITY_ENERGY_BALANCE_H_
-#define VELNOR_ACTIVITY_ENERGY_BALANCE_H_
+#ifndef VELNOR_FOOD_ENERGY_BALANCE_H_
+#define VELNOR_FOOD_ENERGY_BALANCE_H_
+
+#include <cstddef>
 
 namespace velnor {
+
+// Characters of the typed basal metabolic rate that count.
+inline constexpr std::size_t kBmrTextLimit = 10;
 
 // All in kcal, single precision.
 struct EnergyFigures {
@@ -29,4 +34,4 @@ int EnergyScaleX(double kcal);
 
 }  // namespace velnor
 
-#endif  // VELNOR_ACTIVITY_ENERGY_BALANCE_H_
+#endif  // VELNOR_FOOD_ENERGY_BALANCE_H_
