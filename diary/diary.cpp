@@ -1,6 +1,5 @@
 #include "diary/diary.h"
 
-#include <array>
 #include <utility>
 
 #include "base/number_text.h"

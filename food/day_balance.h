@@ -7,7 +7,6 @@
 #define VELNOR_FOOD_DAY_BALANCE_H_
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 

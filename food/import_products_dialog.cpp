@@ -138,6 +138,11 @@ void ImportProductsDialog::CarryOut(const ImportPlan& plan) {
   Say(written ? ImportReport(plan, records.size()) : std::string(kNotWritten));
 }
 
+bool ImportProductsDialog::Write(std::span<const ProductRecord> records) const {
+  Transaction deed(session_.base_folder);
+  return AddUserProducts(deed, session_.BaseFile(kUserProductsFile), records) && deed.Commit();
+}
+
 void ImportProductsDialog::Say(std::string_view text) {
   message_boxes_.Show({.text = text, .owner = MessageOwner::kDialog});
 }

@@ -35,6 +35,7 @@ class ImportProductsDialog final : public Dialog {
   // Whether the plan is carried out, as far as the slots go; asks where that is not all of it.
   bool Confirm(const ImportPlan& plan);
   void CarryOut(const ImportPlan& plan);
+  bool Write(std::span<const ProductRecord> records) const;
   void Say(std::string_view text);
 
   FoodTable& food_;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "base/file_calls.h"
 #include "base/text_file.h"
 #include "base/transaction.h"
 

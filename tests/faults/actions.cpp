@@ -290,7 +290,7 @@ std::span<const Action> Actions() {
        .says_on_failure = {kNotSaved}},
       {.name = "open the balance for the first time", .arrange = ForgetTheDay, .enter = LogAnnIn,
        .act = OpenBalance},
-      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay, .together = kDay,
+      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay,
        .says_on_failure = {kNotSaved}},
       {.name = "open a chart for the first time", .arrange = ForgetTheWeights, .enter = LogAnnIn,
        .act = OpenWeightChart},
@@ -318,7 +318,7 @@ std::span<const Action> Actions() {
       {.name = "paint over a deed cut off", .enter = CutADeedOff, .act = LookAtTheScreen},
       {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
       {.name = "clear a report and what was kept", .arrange = LengthenReport, .enter = OpenReport,
-       .act = ClearReport, .between = {{"Ann/waga.ASC.rest.txt", ""}}},
+       .act = ClearReport},
   };
   // clang-format on
   return kActions;
