@@ -129,11 +129,8 @@ void ImportProductsDialog::CarryOut(const ImportPlan& plan) {
   for (const ImportedProduct& product : plan.products) {
     if (records.size() < plan.fitting) records.push_back(product.AsRecord());
   }
-  const std::string path = session_.BaseFile(kUserProductsFile);
-  Transaction deed(session_.base_folder);
-  const bool written =
-      records.empty() || (AddUserProducts(deed, path, records) && deed.Commit());
-  food_.user_products.Load(path);
+  const bool written = records.empty() || Write(records);
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
   on_changed_();
   Say(written ? ImportReport(plan, records.size()) : std::string(kNotWritten));
 }

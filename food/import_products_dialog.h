@@ -4,6 +4,7 @@
 #define VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
