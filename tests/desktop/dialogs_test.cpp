@@ -46,14 +46,11 @@ class Dialogs : public testing::Test {
   WorkFolder folder_;
 };
 
-// Icons are known by their handle, which the windows of one process share.
-LRESULT IconOf(HWND window, WPARAM size) { return SendMessageA(window, WM_GETICON, size, 0); }
-
 void ExpectProgramIcon(const App& app, HWND window, const std::string& what) {
-  const auto program = static_cast<LRESULT>(GetClassLongPtrA(app.main().handle(), GCLP_HICON));
-  EXPECT_NE(program, 0);
-  EXPECT_EQ(IconOf(window, ICON_SMALL), program) << what;
-  EXPECT_EQ(IconOf(window, ICON_BIG), program) << what;
+  const DWORD icon = app.Icon();
+  EXPECT_NE(icon, 0U);
+  EXPECT_EQ(app.CaptionIcon(window, ICON_SMALL), icon) << what;
+  EXPECT_EQ(app.CaptionIcon(window, ICON_BIG), icon) << what;
 }
 
 TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
@@ -79,44 +76,52 @@ TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
   Answer(box, IDOK);
 }
 
-void PutOnClipboard(const std::string& text) {
-  ASSERT_TRUE(WaitUntil([] { return OpenClipboard(nullptr) != FALSE; }));
-  EmptyClipboard();
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-  std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
-  GlobalUnlock(memory);
-  SetClipboardData(CF_TEXT, memory);
-  CloseClipboard();
-}
+// Holds a text on the clipboard, which goes with the window that it comes from.
+class Clipboard {
+ public:
+  explicit Clipboard(const std::string& text)
+      : source_(
+            CreateWindowA("static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr)) {
+    EXPECT_TRUE(WaitUntil([this] { return OpenClipboard(source_) != FALSE; }));
+    EmptyClipboard();
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
+    GlobalUnlock(memory);
+    EXPECT_NE(SetClipboardData(CF_TEXT, memory), nullptr);
+    CloseClipboard();
+  }
+  Clipboard(const Clipboard&) = delete;
+  Clipboard& operator=(const Clipboard&) = delete;
+  ~Clipboard() { DestroyWindow(source_); }
 
-// What the edit holds when a text has been pasted over the one it held; "(hangs)" when the program
+ private:
+  HWND source_;
+};
+
+// What the field holds when a text has been pasted over the one it held; "(hangs)" when the program
 // does not come to an end with it.
-std::string Paste(HWND edit) {
+std::string Paste(const Window& window, int id) {
   constexpr UINT kPatience = 20'000;  // milliseconds
+  const HWND edit = window.Control(id);
   SendMessageA(edit, EM_SETSEL, 0, -1);
   DWORD_PTR result = 0;
-  if (SendMessageTimeoutA(edit, WM_PASTE, 0, 0, SMTO_NORMAL, kPatience, &result) == 0) {
-    return "(hangs)";
-  }
-  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(edit)) + 1, '\0');
-  text.resize(static_cast<std::size_t>(
-      SendMessageA(edit, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-  return text;
+  const bool ends = SendMessageTimeoutA(edit, WM_PASTE, 0, 0, SMTO_NORMAL, kPatience, &result) != 0;
+  return ends ? window.Text(id) : "(hangs)";
 }
 
 // A field of the main window takes no more than fits its width, either.
 TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
   const App app(folder_);
   LogIn(app);
-  PutOnClipboard(std::string(1'000'000, '1'));
+  const Clipboard clipboard(std::string(1'000'000, '1'));
   for (const int id : {101, 104, 105, 111, 128, 160, 166, 173, 181}) {
-    const HWND edit = app.main().Control(id);
-    const std::string pasted = Paste(edit);
+    const std::string pasted = Paste(app.main(), id);
     EXPECT_TRUE(!pasted.empty() && pasted.find_first_not_of('1') == std::string::npos)
         << id << ' ' << pasted;
-    EXPECT_LE(pasted.size(), static_cast<std::size_t>(SendMessageA(edit, EM_GETLIMITTEXT, 0, 0)));
+    EXPECT_LE(pasted.size(), static_cast<std::size_t>(
+                                 SendMessageA(app.main().Control(id), EM_GETLIMITTEXT, 0, 0)));
   }
-  EXPECT_EQ(Paste(app.main().Control(111)), "1111");
+  EXPECT_EQ(Paste(app.main(), 111), "1111");
   EXPECT_EQ(SendMessageA(app.main().Control(128), EM_GETLIMITTEXT, 0, 0), 30);
 
   struct {
@@ -127,7 +132,7 @@ TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
                       {145, 723, 99},          {147, 724, 99}, {147, 725, 499}, {162, 745, 26}};
   for (const auto& [command, id, limit] : fields) {
     const Window dialog = Open(app, command);
-    EXPECT_EQ(Paste(dialog.Control(id)).size(), limit) << command << ' ' << id;
+    EXPECT_EQ(Paste(dialog, id).size(), limit) << command << ' ' << id;
     Close(dialog, IDCANCEL);
   }
 }
