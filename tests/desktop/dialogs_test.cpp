@@ -1,7 +1,6 @@
 // What all dialogs and edits have in common: the icon in the caption, how much can be pasted, the
 // key Enter, and that a dialog ends with the session of its user.
 
-#include <cstring>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -76,36 +75,17 @@ TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
   Answer(box, IDOK);
 }
 
-// Holds a text on the clipboard, which goes with the window that it comes from.
-class Clipboard {
- public:
-  explicit Clipboard(const std::string& text)
-      : source_(
-            CreateWindowA("static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr)) {
-    EXPECT_TRUE(WaitUntil([this] { return OpenClipboard(source_) != FALSE; }));
-    EmptyClipboard();
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-    std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
-    GlobalUnlock(memory);
-    EXPECT_NE(SetClipboardData(CF_TEXT, memory), nullptr);
-    CloseClipboard();
-  }
-  Clipboard(const Clipboard&) = delete;
-  Clipboard& operator=(const Clipboard&) = delete;
-  ~Clipboard() { DestroyWindow(source_); }
-
- private:
-  HWND source_;
-};
-
-// What the field holds when a text has been pasted over the one it held; "(hangs)" when the program
-// does not come to an end with it.
-std::string Paste(const Window& window, int id) {
+// What the field holds when the text has come in place of the one it held, as typing and pasting
+// make it come; "(hangs)" when the program does not come to an end with it. The clipboard is left
+// alone: all programs of the display share it.
+std::string Paste(const Window& window, int id, const std::string& text) {
   constexpr UINT kPatience = 20'000;  // milliseconds
   const HWND edit = window.Control(id);
   SendMessageA(edit, EM_SETSEL, 0, -1);
   DWORD_PTR result = 0;
-  const bool ends = SendMessageTimeoutA(edit, WM_PASTE, 0, 0, SMTO_NORMAL, kPatience, &result) != 0;
+  const bool ends =
+      SendMessageTimeoutA(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()),
+                          SMTO_NORMAL, kPatience, &result) != 0;
   return ends ? window.Text(id) : "(hangs)";
 }
 
@@ -113,15 +93,15 @@ std::string Paste(const Window& window, int id) {
 TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
   const App app(folder_);
   LogIn(app);
-  const Clipboard clipboard(std::string(1'000'000, '1'));
+  const std::string much(1'000'000, '1');
   for (const int id : {101, 104, 105, 111, 128, 160, 166, 173, 181}) {
-    const std::string pasted = Paste(app.main(), id);
+    const std::string pasted = Paste(app.main(), id, much);
     EXPECT_TRUE(!pasted.empty() && pasted.find_first_not_of('1') == std::string::npos)
         << id << ' ' << pasted;
     EXPECT_LE(pasted.size(), static_cast<std::size_t>(
                                  SendMessageA(app.main().Control(id), EM_GETLIMITTEXT, 0, 0)));
   }
-  EXPECT_EQ(Paste(app.main(), 111), "1111");
+  EXPECT_EQ(Paste(app.main(), 111, much), "1111");
   EXPECT_EQ(SendMessageA(app.main().Control(128), EM_GETLIMITTEXT, 0, 0), 30);
 
   struct {
@@ -132,7 +112,7 @@ TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
                       {145, 723, 99},          {147, 724, 99}, {147, 725, 499}, {162, 745, 26}};
   for (const auto& [command, id, limit] : fields) {
     const Window dialog = Open(app, command);
-    EXPECT_EQ(Paste(dialog, id).size(), limit) << command << ' ' << id;
+    EXPECT_EQ(Paste(dialog, id, much).size(), limit) << command << ' ' << id;
     Close(dialog, IDCANCEL);
   }
 }
