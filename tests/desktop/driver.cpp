@@ -417,6 +417,15 @@ std::map<int, bool> App::MenuStates() const {
   return states;
 }
 
+DWORD App::Icon() const {
+  return CallInside("GetClassLongPtrA", {reinterpret_cast<ULONG_PTR>(main_.handle()),
+                                         static_cast<ULONG_PTR>(GCLP_HICON)});
+}
+
+DWORD App::CaptionIcon(HWND window, WPARAM size) const {
+  return CallInside("SendMessageA", {reinterpret_cast<ULONG_PTR>(window), WM_GETICON, size});
+}
+
 Window App::WaitForPopup(const Window& known) const {
   HWND popup = nullptr;
   WaitUntil([&] {

@@ -116,6 +116,11 @@ class App {
   // Whether each item of the menu can be chosen, by its command.
   std::map<int, bool> MenuStates() const;
 
+  // The icon of the program, and the one that a window was given for its caption (ICON_SMALL or
+  // ICON_BIG), by their handles; 0: none. Wine tells other programs nothing of icons.
+  DWORD Icon() const;
+  DWORD CaptionIcon(HWND window, WPARAM size) const;
+
   // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
   // or an empty box when none comes.
   Window WaitForPopup(const Window& known = Window(nullptr)) const;
