@@ -68,8 +68,7 @@ BurnedTotal::DayLine BurnedTotal::Read() const {
 
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
-  // Nobody has no folder: a repaint behind the login dialog must not leave a file elsewhere.
-  if (line.is_empty && !session_.user_name.empty()) AppendToFile(Path(), "");
+  if (line.is_empty) AppendToFile(Path(), "");
   kcal_ = static_cast<float>(ParseNumber(line.kcal));
   return line;
 }

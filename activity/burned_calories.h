@@ -4,6 +4,7 @@
 #ifndef VELNOR_ACTIVITY_BURNED_CALORIES_H_
 #define VELNOR_ACTIVITY_BURNED_CALORIES_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,9 @@
 namespace velnor {
 
 inline constexpr std::string_view kBurnedFile = "erg.txt";
+
+// Characters of the typed minutes that count.
+inline constexpr std::size_t kMinutesLimit = 8;
 
 struct Burned {
   float kcal = 0;

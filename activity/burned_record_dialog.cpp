@@ -17,11 +17,12 @@ constexpr std::size_t kTextLimit = 26;
 
 }  // namespace
 
-BurnedRecordDialog::BurnedRecordDialog(std::string path, BurnedRecord shown,
+BurnedRecordDialog::BurnedRecordDialog(const SessionState& session, BurnedRecord shown,
                                        const std::string& counted_activity)
-    : path_(std::move(path)), shown_(std::move(shown)), counted_activity_(counted_activity) {}
+    : session_(session), shown_(std::move(shown)), counted_activity_(counted_activity) {}
 
 void BurnedRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kDate, kOther}) form.LimitText(id, kTextLimit);
   form.SetText(kDate, shown_.date);
   form.SetText(kMinutes, shown_.minutes);
   form.SetText(kCalories, shown_.kcal);
@@ -35,12 +36,13 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  AppendBurnedRecord(path_, {.date = form.ReadText(kDate, kTextLimit),
-                             .activity = counted_activity_,
-                             .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                             .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                             .fat = form.ReadText(kFat, kRecordFigureLimit),
-                             .other = form.ReadText(kOther, kTextLimit)});
+  AppendBurnedRecord(session_.UserFile(kBurnedReportFile),
+                     {.date = form.ReadText(kDate, kTextLimit),
+                      .activity = counted_activity_,
+                      .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                      .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                      .fat = form.ReadText(kFat, kRecordFigureLimit),
+                      .other = form.ReadText(kOther, kTextLimit)});
   form.Close();
 }
 

@@ -7,6 +7,7 @@
 
 #include "activity/burned_record.h"
 #include "base/dialog.h"
+#include "base/session.h"
 
 namespace velnor {
 
@@ -14,9 +15,10 @@ inline constexpr int kBurnedRecordResource = 10012;
 
 class BurnedRecordDialog final : public Dialog {
  public:
-  // Opens with the texts of `shown` and adds to the report `path`. `counted_activity` outlives the
-  // dialog: the record names the activity that was counted last when it is saved.
-  BurnedRecordDialog(std::string path, BurnedRecord shown, const std::string& counted_activity);
+  // Opens with the texts of `shown`. `counted_activity` outlives the dialog: the record names the
+  // activity that was counted last when it is saved.
+  BurnedRecordDialog(const SessionState& session, BurnedRecord shown,
+                     const std::string& counted_activity);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -24,7 +26,7 @@ class BurnedRecordDialog final : public Dialog {
  private:
   void Save(Form& form);
 
-  std::string path_;
+  const SessionState& session_;
   BurnedRecord shown_;
   const std::string& counted_activity_;
 };

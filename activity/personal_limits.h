@@ -27,6 +27,9 @@ enum Limit : std::size_t {
   kLimitCount
 };
 
+// Characters of a typed limit that count.
+inline constexpr std::size_t kLimitTextLimit = 5;
+
 using LimitTexts = std::array<std::string, kLimitCount>;
 
 struct PersonalLimits {

@@ -10,7 +10,6 @@ namespace velnor {
 namespace {
 
 constexpr int kFirstEdit = 166;  // of eight, in the order of Limit
-constexpr std::size_t kTypedLimit = 5;
 
 constexpr std::string_view kUnavailable = " unavailable";
 
@@ -103,26 +102,26 @@ RequirementBounds RequirementScreen::DayBounds() const {
 
 void RequirementScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kHeadingFont);
-  canvas.DrawText({10, 30}, "Daily request");
+  canvas.WriteText({10, 30}, "Daily request");
   canvas.SetTextColour(kOrange);
-  canvas.DrawText({540, 65}, "User settings");
+  canvas.WriteText({540, 65}, "User settings");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kIntroduction);
+  WriteTexts(canvas, kIntroduction);
   canvas.SetTextColour(kRed);
   const int age = ParseInteger(profile_.age);
   if (age < kYoungestGrouped) {
-    DrawTexts(canvas, kChildNote);
+    WriteTexts(canvas, kChildNote);
   } else if (profile_.IsAthlete()) {
-    DrawTexts(canvas, kAthleteNote);
+    WriteTexts(canvas, kAthleteNote);
   }
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kLabels);
+  WriteTexts(canvas, kLabels);
   canvas.SetFont(kSetupsFont);
   canvas.SetTextColour(kDarkBlue);
   const PlacedText& setups = limits_active_ ? kActive : kInactive;
-  canvas.DrawText(setups.at, setups.text);
+  canvas.WriteText(setups.at, setups.text);
   ShowRequirement();
   ShowLimits();
 }
@@ -148,7 +147,7 @@ void RequirementScreen::ShowLimits() {
 void RequirementScreen::Activate() {
   PersonalLimits typed;
   for (std::size_t limit = 0; limit < kLimitCount; ++limit) {
-    typed.texts[limit] = form_.ReadText(kFirstEdit + static_cast<int>(limit), kTypedLimit);
+    typed.texts[limit] = form_.ReadText(kFirstEdit + static_cast<int>(limit), kLimitTextLimit);
   }
   if (const std::optional<std::string_view> fault = FindFault(typed)) {
     message_boxes_.Show({.text = *fault});

@@ -4,21 +4,52 @@
 #ifndef VELNOR_BASE_FILE_CALLS_H_
 #define VELNOR_BASE_FILE_CALLS_H_
 
+#include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace velnor {
 
+// Opens a file as the C library does, in one of its binary modes. On a system that asks for it, the
+// file stays free to be renamed and removed by others meanwhile. Null, with errno at ENOENT when
+// the file or its folder is missing, when the system could not.
+std::FILE* OpenFile(const std::string& path, const char* mode);
+
 // Hands everything written to `file` so far to the disk. False when the system could not.
 bool FlushToDisk(std::FILE* file);
+
+// The size of an open file in bytes; nothing when it cannot be told. Moves the place at which it is
+// read and written.
+std::optional<std::uint64_t> SizeOf(std::FILE* file);
+
+// What is read or written next begins at this byte. False when the system could not.
+bool SeekTo(std::FILE* file, std::uint64_t place);
+
+// Takes everything behind this byte off a file that is open to be written. False when the system
+// could not.
+bool CutTo(std::FILE* file, std::uint64_t size);
 
 // Gives the file `from` the name `to`; a file that had that name is replaced in one step. One that
 // somebody else has open is tried again for half a second where the system does not replace such
 // files. False, with both as they were, when the system could not.
 bool ReplaceByRename(const std::string& from, const std::string& to);
 
+// Removes a file. True when there is none of that name any more, or was none. One that somebody
+// else has open is tried again like one that is to be replaced.
+bool RemoveFile(const std::string& path);
+
+// Whether there is a file or a folder of that name, or may be one that cannot be looked at.
+bool IsThere(const std::string& path);
+
 // Whether the file is marked as one that nobody is to write. A missing file is not.
 bool IsWriteProtected(const std::string& path);
+
+// Whether the file could be replaced, written and removed now, for all that can be known without
+// doing it: it is missing, or an ordinary file, not write-protected, and held by nobody. One that
+// somebody else has open is tried again like one that is to be replaced.
+bool CanBeChanged(const std::string& path);
 
 // Whether the folder that `path` lies in is there. A path without a folder lies in the current one.
 bool HasFolder(const std::string& path);
@@ -26,6 +57,33 @@ bool HasFolder(const std::string& path);
 // Makes or removes one folder; only an empty one is removed. False when the system could not.
 bool MakeFolder(const std::string& path);
 bool RemoveFolder(const std::string& path);
+
+// Gives a folder, with all that is in it, another name in the same folder. False when the system
+// could not, as when something has that name.
+bool RenameFolder(const std::string& from, const std::string& to);
+
+// The size of a file in bytes; 0 when it cannot be told.
+std::uint64_t SizeOfFile(const std::string& path);
+
+struct FolderEntry {
+  std::string name;
+  bool is_folder;
+};
+
+// What lies in a folder; nothing when it cannot be listed.
+std::optional<std::vector<FolderEntry>> ListFolder(const std::string& path);
+
+// A folder (its path with a separator at the end) that is locked against other programs. The lock
+// goes with the process that holds it, however that ends.
+using LockHandle = std::intptr_t;
+enum class LockAnswer { kLocked, kHeldElsewhere, kRefused };
+LockAnswer LockFolder(const std::string& folder, LockHandle& handle);
+void UnlockFolder(LockHandle handle);
+
+// Of the running process; no other has it now.
+unsigned long ProcessId();
+
+void Pause(int milliseconds);
 
 }  // namespace velnor
 

@@ -7,8 +7,10 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velnor {
 
@@ -16,6 +18,8 @@ namespace velnor {
 inline constexpr int kButtonClicked = 0;     // also what a menu command carries
 inline constexpr int kSelectionChanged = 1;  // list boxes and combo boxes, by the user only
 inline constexpr int kEditUpdated = 0x0400;  // single-line edits, also when the program sets them
+inline constexpr int kEditEntered = 0x0100;  // edits: the keyboard's focus has come
+inline constexpr int kEditLeft = 0x0200;     // edits: the keyboard's focus has gone
 
 // As much of a text as there is.
 inline constexpr std::size_t kWholeText = static_cast<std::size_t>(-1);
@@ -37,11 +41,22 @@ class Form {
   // Replaces the text, with which an edit's caret and first visible line go back to the start. It
   // ends at a NUL. A single-line edit announces kEditUpdated before this returns.
   virtual void SetText(int id, std::string_view text) = 0;
+  // From here on a person can type or paste into an edit until it holds `limit` characters; what
+  // SetText puts there is not cut.
+  virtual void LimitText(int id, std::size_t limit) = 0;
+
+  // From here on a comma that a person types into the edit is a point, as numbers are written. What
+  // is pasted, and what SetText puts there, keeps its commas.
+  virtual void TakeNumbers(int id) = 0;
 
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
   // without regard to case. None of these announces anything.
   virtual int ItemCount(int id) const = 0;
-  virtual void AddItem(int id, std::string_view text) = 0;
+  // Both fill the list in one step, which is drawn once however many texts there are. The first
+  // replaces what the list holds and takes the selection with it, the second leaves both.
+  virtual void FillItems(int id, std::span<const std::string_view> texts) = 0;
+  virtual void AddItems(int id, std::span<const std::string_view> texts) = 0;
+  void AddItem(int id, std::string_view text) { AddItems(id, {&text, 1}); }
   virtual void ClearItems(int id) = 0;  // takes the selection with it
   // The text of an item, counted from 0; empty when there is no such item.
   virtual std::string ItemText(int id, int index) const = 0;
@@ -51,8 +66,12 @@ class Form {
   virtual std::optional<std::string> SelectedText(int id) const = 0;
   // Takes the selected item off a list box; without a selection nothing happens.
   virtual void RemoveSelectedItem(int id) = 0;
+  // Takes an item, counted from 0, off a list box; where there is none nothing happens.
+  virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
+  // Makes the button the one that a dialog's Enter key presses.
+  virtual void SetDefaultButton(int id) = 0;
 
   // Scrolls a multi-line edit; at its first and its last line it stops.
   virtual void Scroll(int id, ScrollStep step) = 0;
@@ -64,6 +83,11 @@ class Form {
   // Closes the window; a dialog's object lives until its current handler has returned.
   virtual void Close() = 0;
 };
+
+// Texts as a form takes them, good as long as the texts are.
+inline std::vector<std::string_view> Views(std::span<const std::string> texts) {
+  return {texts.begin(), texts.end()};
+}
 
 }  // namespace velnor
 

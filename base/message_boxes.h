@@ -12,7 +12,7 @@ namespace velnor {
 // The window that waits while the box is open; kDialog is the one that the person is working in.
 enum class MessageOwner { kMainWindow, kDialog, kNone };
 enum class MessageButtons { kOk, kYesNo };
-enum class MessageIcon { kInformation, kQuestion, kNone };
+enum class MessageIcon { kInformation, kQuestion };
 enum class Answer { kOk, kYes, kNo };
 
 struct Message {

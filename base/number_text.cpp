@@ -61,15 +61,14 @@ double ParseNumber(std::string_view text) {
   const bool starts_like_a_number =
       !digits.empty() &&
       (IsDigit(digits[0]) || (digits[0] == '.' && digits.size() > 1 && IsDigit(digits[1])));
+  if (!starts_like_a_number) return 0.0;
   double value = 0.0;
-  if (starts_like_a_number) {
-    const char* const end = digits.data() + digits.size();
-    const std::from_chars_result result = std::from_chars(digits.data(), end, value);
-    if (result.ec == std::errc::result_out_of_range) {
-      const std::string_view number(digits.data(),
-                                    static_cast<std::size_t>(result.ptr - digits.data()));
-      value = IsHuge(number) ? std::numeric_limits<double>::infinity() : 0.0;
-    }
+  const char* const end = digits.data() + digits.size();
+  const std::from_chars_result result = std::from_chars(digits.data(), end, value);
+  if (result.ec == std::errc::result_out_of_range) {
+    const std::string_view number(digits.data(),
+                                  static_cast<std::size_t>(result.ptr - digits.data()));
+    value = IsHuge(number) ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return split.negative ? -value : value;
 }
@@ -126,6 +125,18 @@ std::string FormatNumber(double value, int digits) {
   result.append(mantissa, 0, whole_digits);
   result += '.';
   return result.append(mantissa, whole_digits);
+}
+
+std::string FormatFixed(double value, int decimals) {
+  if (std::isnan(value)) return "nan";
+  if (std::isinf(value)) return value < 0 ? "-inf" : "inf";
+  // 309 digits before the point, the sign, the point and 9 digits behind it.
+  char buffer[std::numeric_limits<double>::max_exponent10 + 12];
+  const std::to_chars_result written = std::to_chars(
+      buffer, buffer + sizeof buffer, value, std::chars_format::fixed, std::clamp(decimals, 0, 9));
+  const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
+  const bool is_zero = text.find_first_of("123456789") == std::string_view::npos;
+  return std::string(is_zero && text.front() == '-' ? text.substr(1) : text);
 }
 
 float TruncateTwoDecimals(std::string_view text) {

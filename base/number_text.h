@@ -30,6 +30,11 @@ int ParseInteger(std::string_view text);
 // "1.e+06"). Not finite: "inf", "-inf", "nan". A negative zero is written "-0.".
 std::string FormatNumber(double value, int digits);
 
+// `value` with exactly `decimals` decimals (0 to 9; other counts are brought into this range),
+// rounded to nearest, without a point when there are none: "70", "1.75", "-0.5". What rounds to
+// zero has no sign. Not finite: "inf", "-inf", "nan". For texts that other programs draw or show.
+std::string FormatFixed(double value, int decimals);
+
 // The number at the start of `text`, cut to two decimals in single precision: always downwards,
 // never rounded, so that "1234.5678" gives 1234.56 and "-1.234" gives -1.24. What does not fit
 // single precision is infinite, and its cut is no number (nan).

@@ -26,11 +26,12 @@ struct SessionState {
   std::string base_folder = {};  // the start-up directory with a separator at its end
   std::string date_text = {};    // today, as DateText writes it; stays for the whole run
 
-  // The path of a file in the start-up directory itself, in the folder of a user, or in that of the
-  // one who is logged in.
+  // The path of a file in the start-up directory itself, and of a user's folder and a file in it.
   std::string BaseFile(std::string_view file_name) const;
+  std::string FolderOf(const std::string& user) const;
   std::string FileOf(const std::string& user, std::string_view file_name) const;
-  std::string UserFile(std::string_view file_name) const { return FileOf(user_name, file_name); }
+  // The path of a file of the user who is logged in; empty, the path of no file, when nobody is.
+  std::string UserFile(std::string_view file_name) const;
 };
 
 // Between the folders of a path.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -13,41 +12,34 @@
 namespace velnor {
 namespace {
 
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-
-struct Closer {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, Closer>;
+// Of the name of a temporary file, what stands behind the name of the file whose place it is to
+// take: this, the number of the process, and the ending.
+constexpr std::string_view kTemporaryMark = ".velnor-";
+constexpr std::string_view kTemporaryEnding = ".new";
 
 File Open(const std::string& path, const char* mode) {
-  return File(std::fopen(path.c_str(), mode));
+  return File(path.empty() ? nullptr : OpenFile(path, mode));
 }
 
-bool Write(std::FILE* file, std::string_view bytes) {
-  return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+bool IsTemporaryName(std::string_view name) {
+  const std::size_t mark = name.rfind(kTemporaryMark);
+  if (mark == std::string_view::npos || !name.ends_with(kTemporaryEnding)) return false;
+  name.remove_suffix(kTemporaryEnding.size());
+  const std::string_view process = name.substr(mark + kTemporaryMark.size());
+  return !process.empty() && process.find_first_not_of("0123456789") == std::string_view::npos;
 }
-
-// Closing reports what the system could not write until then.
-bool Close(File file) { return std::fclose(file.release()) == 0; }
 
 bool WriteTemporary(const std::string& path, std::string_view bytes) {
   // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (IsWriteProtected(path)) return false;
-  File file = Open(TemporaryPath(path), "wb");
-  if (!file) return false;
-  const bool written = Write(file.get(), bytes) && FlushToDisk(file.get());
-  const bool closed = Close(std::move(file));
-  if (written && closed) return true;
-  std::remove(TemporaryPath(path).c_str());
-  return false;
+  if (path.empty() || IsWriteProtected(path)) return false;
+  return WriteNewFile(TemporaryPath(path), bytes);
 }
 
 // False, and no temporary file any more, when the file stays.
 bool TakePlace(const std::string& path) {
   const std::string temporary = TemporaryPath(path);
   if (ReplaceByRename(temporary, path)) return true;
-  std::remove(temporary.c_str());
+  RemoveFile(temporary);
   return false;
 }
 
@@ -61,13 +53,14 @@ void Restore(const OldFile& old) {
   if (old.existed) {
     ReplaceFile(old.path, old.bytes);
   } else {
-    std::remove(old.path.c_str());
+    RemoveFile(old.path);
   }
 }
 
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
+  if (path.empty()) return "";
   errno = 0;
   const File file = Open(path, "rb");
   if (!file) {
@@ -98,11 +91,37 @@ bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
   if (text.empty()) return Open(path, "ab") != nullptr;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   return old && ReplaceFile(path, *old + WithCrLf(text));
 }
 
-std::string TemporaryPath(const std::string& path) { return path + ".new"; }
+bool WriteAndClose(File file, std::string_view bytes) {
+  // An empty file has nothing to bring to the disk.
+  const bool written =
+      bytes.empty() || (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
+                        FlushToDisk(file.get()));
+  // Closing reports what the system could not write until then.
+  return std::fclose(file.release()) == 0 && written;
+}
+
+bool WriteNewFile(const std::string& path, std::string_view bytes) {
+  File file = Open(path, "wb");
+  if (!file) return false;
+  if (WriteAndClose(std::move(file), bytes)) return true;
+  RemoveFile(path);
+  return false;
+}
+
+std::string TemporaryPath(const std::string& path) {
+  return path + std::string(kTemporaryMark) + std::to_string(ProcessId()) +
+         std::string(kTemporaryEnding);
+}
+
+void RemoveLeftovers(const std::string& folder) {
+  for (const FolderEntry& entry : ListFolder(folder).value_or(std::vector<FolderEntry>{})) {
+    if (!entry.is_folder && IsTemporaryName(entry.name)) RemoveFile(folder + entry.name);
+  }
+}
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
   return WriteTemporary(path, bytes) && TakePlace(path);
@@ -111,7 +130,7 @@ bool ReplaceFile(const std::string& path, std::string_view bytes) {
 bool ReplaceFiles(std::span<const FileBytes> files) {
   std::vector<OldFile> old;
   for (const FileBytes& file : files) {
-    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kNoLimit);
+    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kWholeFile);
     if (!bytes) return false;
     old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
   }
@@ -127,7 +146,7 @@ bool ReplaceFiles(std::span<const FileBytes> files) {
   }
   for (std::size_t i = 0; i < replaced; ++i) Restore(old[i]);
   for (std::size_t i = replaced; i < written; ++i) {
-    std::remove(TemporaryPath(files[i].path).c_str());
+    RemoveFile(TemporaryPath(files[i].path));
   }
   return false;
 }

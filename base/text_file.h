@@ -1,15 +1,21 @@
-// The text files of the program. Nobody else opens one.
+// The text files of the program. Nobody else opens one. An empty path is that of no file: it reads as
+// a missing one and is not written.
 
 #ifndef VELNOR_BASE_TEXT_FILE_H_
 #define VELNOR_BASE_TEXT_FILE_H_
 
 #include <cstddef>
+#include <cstdio>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace velnor {
+
+// A limit that every file keeps.
+inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
 
 // The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
 // when there is something that cannot be read, or when the folder is missing, which may come back
@@ -19,6 +25,16 @@ std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_
 
 // The same for who only reads: what cannot be read gives empty text too.
 std::string ReadFile(const std::string& path, std::size_t limit);
+
+// An open file, which is closed with the object.
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+// Writes the bytes where the file is, brings them to the disk and closes it. False when the system
+// could not.
+bool WriteAndClose(File file, std::string_view bytes);
 
 // Whether there is a file that can be opened for reading.
 bool FileExists(const std::string& path);
@@ -43,8 +59,18 @@ struct FileBytes {
 // was there before. False when the old bytes remain.
 bool ReplaceFiles(std::span<const FileBytes> files);
 
-// What ReplaceFile calls the file that it writes beside `path`.
+// Makes a file of these bytes, which are on the disk then. False, and no such file, when the system
+// could not.
+bool WriteNewFile(const std::string& path, std::string_view bytes);
+
+// What a file is called that this process writes beside `path` to take its place. No other process
+// has that name.
 std::string TemporaryPath(const std::string& path);
+
+// Removes from the folder (its path with a separator at the end) what processes that ended in the
+// middle of a write have left there. Who calls it holds the lock of the start-up folder, so that
+// nobody is writing.
+void RemoveLeftovers(const std::string& folder);
 
 // `text` with every line end, LF or CR LF, as CR LF.
 std::string WithCrLf(std::string_view text);

@@ -43,13 +43,18 @@ class PlainForm final : public Form {
   }
   void SetText(int id, std::string_view text) override { texts_[id] = text; }
   int ItemCount(int) const override { return 0; }
-  void AddItem(int, std::string_view) override {}
+  void FillItems(int, std::span<const std::string_view>) override {}
+  void AddItems(int, std::span<const std::string_view>) override {}
   void ClearItems(int) override {}
   std::string ItemText(int, int) const override { return ""; }
   void SelectItem(int, int) override {}
   std::optional<std::string> SelectedText(int) const override { return std::nullopt; }
   void RemoveSelectedItem(int) override {}
+  void RemoveItem(int, int) override {}
   void Focus(int) override {}
+  void LimitText(int, std::size_t) override {}
+  void TakeNumbers(int) override {}
+  void SetDefaultButton(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}
   void HideAll() override {}

@@ -24,11 +24,6 @@ struct ComparedRow {
 };
 
 constexpr ComparedRow kInMemory[] = {
-    {"search, nothing found", "Search/0/3000", "SearchFloor/0", 1.5},
-    {"search, 12 letters", "Search/1/3000", "SearchFloor/1", 1.5},
-    {"search, 4 letters", "Search/2/3000", "SearchFloor/2", 1.5},
-    {"search, 1 letter, most found", "Search/3/3000", "SearchFloor/3", 1.5},
-    {"the same, beside copying what it finds", "Search/3/3000", "SearchResultsFloor/3", 0},
     {"subcategory chosen, counter", "ChooseSubcategory/0/3000", "ChooseSubcategoryFloor", 2},
     {"subcategory chosen, overview", "ChooseSubcategory/1/3000", "ChooseSubcategoryFloor", 2},
     {"3000 user products reloaded", "Reload/3000", "ReloadFloor", 2},

@@ -24,6 +24,8 @@ WeightRecordDialog::WeightRecordDialog(const SessionState& session, const Weight
     : session_(session), weight_(weight), bmi_(bmi) {}
 
 void WeightRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kRecordDate, kWeight, kBmi}) form.LimitText(id, kRecordTextLimit);
+  form.LimitText(kRecordOther, kOtherLimit);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWeight, weight_.text);
   if (bmi_.value > 0) form.SetText(kBmi, FormatNumber(bmi_.value, kRecordDigits));

@@ -22,6 +22,8 @@ WhrRecordDialog::WhrRecordDialog(const SessionState& session, const WhrResult& w
     : session_(session), whr_(whr) {}
 
 void WhrRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kRecordDate, kWaist, kHip, kWhr}) form.LimitText(id, kRecordTextLimit);
+  form.LimitText(kRecordOther, kOtherLimit);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWaist, whr_.waist);
   form.SetText(kHip, whr_.hip);

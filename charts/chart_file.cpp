@@ -1,7 +1,5 @@
 #include "charts/chart_file.h"
 
-#include <limits>
-
 namespace velnor {
 namespace {
 
@@ -9,7 +7,6 @@ constexpr std::size_t kLineLimit = 99;
 constexpr std::size_t kLongestEmptySlot = 5;
 constexpr std::size_t kFullSlot = 20;  // occupied: the series is full
 constexpr std::size_t kDayCharacters = 7;
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 ChartSeries SeriesOf(std::string_view text) {
   ChartSeries series;
@@ -44,7 +41,7 @@ ChartSeries LoadChartFile(const std::string& path) {
 
 std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
                                           std::span<const std::string> fields) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return std::nullopt;
   const ChartSeries series = SeriesOf(*text);
 

@@ -22,9 +22,6 @@ constexpr int kCalories = 740;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;
-constexpr std::size_t kShortestName = 4;
-
-constexpr std::string_view kUsualMass = "100";
 
 // The system's own texts, as they stand.
 constexpr std::string_view kNameTooShort =
@@ -32,7 +29,8 @@ constexpr std::string_view kNameTooShort =
 constexpr std::string_view kIncomplete =
     "Product wasn`t added to database\nSome data are incorrect";
 constexpr std::string_view kNotNumbers =
-    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+    "New product was NOT added to database\nCheck your data. There might be letters instead of "
+    "numbers";
 constexpr std::string_view kAdded = "New product was added to database";
 
 bool BeginsWithDigit(const std::string& text) {
@@ -41,13 +39,21 @@ bool BeginsWithDigit(const std::string& text) {
 
 }  // namespace
 
-AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+                                   std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void AddProductDialog::OnOpen(Form& form) {
-  form.SetText(kMass, kUsualMass);
+  form.LimitText(kName, kRemovableNameLimit);
+  for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
+    form.LimitText(id, kNumberLimit);
+  }
+  form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
-  for (const CategoryRecord& row : food_.categories) form.AddItem(kMainCategory, row.main_category);
+  form.FillItems(kMainCategory, ListMainCategories(food_));
 }
 
 void AddProductDialog::OnCommand(Form& form, int id, int notification) {
@@ -57,12 +63,12 @@ void AddProductDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void AddProductDialog::OfferSubcategories(Form& form) {
-  form.ClearItems(kSubcategory);
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  for (const std::string_view name : ListSubcategories(food_, Layout::kOverview, main_category)) {
-    if (name.size() > 1) form.AddItem(kSubcategory, name);
-  }
+  std::vector<std::string_view> names =
+      ListSubcategories(food_, Matching::kOverview, main_category);
+  std::erase_if(names, [](std::string_view name) { return name.size() <= 1; });
+  form.FillItems(kSubcategory, names);
 }
 
 void AddProductDialog::Add(Form& form) {
@@ -81,7 +87,7 @@ void AddProductDialog::Add(Form& form) {
 
   // Mass and calories are taken as they come, and of the nutrients only the first character is
   // looked at. A file that cannot be written is not reported; the entries stay for another try.
-  if (name.size() < kShortestName) {
+  if (name.size() < kShortestProductName) {
     message_boxes_.Show({.text = kNameTooShort});
     message_boxes_.Show({.text = kIncomplete});
   } else if (incomplete) {
@@ -91,10 +97,11 @@ void AddProductDialog::Add(Form& form) {
   } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                     carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
-    form.SetText(kMass, kUsualMass);
+    form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(path_);
+  on_changed_();
 }
 
 }  // namespace velnor

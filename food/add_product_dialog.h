@@ -3,6 +3,7 @@
 #ifndef VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
 #define VELNOR_FOOD_ADD_PRODUCT_DIALOG_H_
 
+#include <functional>
 #include <string>
 
 #include "base/dialog.h"
@@ -15,8 +16,10 @@ inline constexpr int kAddProductResource = 10010;
 
 class AddProductDialog final : public Dialog {
  public:
-  // Adds to the file `path` and reloads the user's products of `food` from it.
-  AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes);
+  // Adds to the file `path` and reloads the user's products of `food` from it; calls
+  // `on_changed` when they may be others than before.
+  AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+                   std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -28,6 +31,7 @@ class AddProductDialog final : public Dialog {
   FoodTable& food_;
   std::string path_;
   MessageBoxes& message_boxes_;
+  std::function<void()> on_changed_;
 };
 
 }  // namespace velnor

@@ -24,6 +24,7 @@ constexpr double kLeastProteinFat = 0.1;
 }  // namespace
 
 void CalorieRecordDialog::OnOpen(Form& form) {
+  for (const int id : {kDate, kOther}) form.LimitText(id, kTextLimit);
   form.SetText(kDate, session_.date_text);
   form.SetText(kWeight, totals_.weight);
   form.SetText(kKcal, totals_.kcal);

@@ -30,10 +30,10 @@ constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein
                            kRatioFat,          kRatioCarbohydrate, kCarbohydrateExchange,
                            kProteinFatExchange};
 
-constexpr std::size_t kNumberLimit = 30;
+constexpr std::size_t kNumberLimit = kListedFigureLimit;
 constexpr std::size_t kLineLimit = 150;
 
-constexpr std::string_view kNothing = "0";
+constexpr std::string_view kZero = "0";
 
 // The system's own text, as it stands.
 constexpr std::string_view kTooLight = "Choose some product from the list or change weight!";
@@ -101,12 +101,12 @@ void FoodListPanel::ClearList() {
                              ParseNumber(totals.fat) + left_out_.fat,
                              ParseNumber(totals.carbohydrate) + left_out_.carbohydrate};
   if (!day_.TakeOff(amounts, ExchangesOf(amounts, true))) return ReportFailedWrite();
-  Empty(kNothing);
+  Empty(kZero);
 }
 
 void FoodListPanel::ClearDay() {
   if (!day_.Clear()) return ReportFailedWrite();
-  Empty(kNothing);
+  Empty(kZero);
 }
 
 void FoodListPanel::Empty(std::string_view nothing) {

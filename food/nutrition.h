@@ -60,6 +60,10 @@ inline constexpr std::string_view kBelowTrace = "<0.1";
 
 // Characters of a weight that the nutrition counter weighs with.
 inline constexpr std::size_t kCounterWeightLimit = 7;
+// The same of the products overview.
+inline constexpr std::size_t kOverviewWeightLimit = 4;
+// Characters of a figure of the counter, its weight included, that goes on the food list.
+inline constexpr std::size_t kListedFigureLimit = 30;
 
 // Six significant digits, as every figure of the counter is shown.
 inline constexpr int kShownDigits = 6;

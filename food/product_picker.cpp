@@ -11,19 +11,15 @@ namespace velnor {
 
 void ProductPicker::FillMainCategoryList() {
   if (form_.ItemCount(controls_.main_category) > 0) return;
-  for (const CategoryRecord& row : food_.categories) {
-    form_.AddItem(controls_.main_category, row.main_category);
-  }
+  form_.FillItems(controls_.main_category, ListMainCategories(food_));
 }
 
 void ProductPicker::OnMainCategoryChosen() {
   const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
   if (!main_category) return;
-  form_.ClearItems(controls_.subcategory);
+  form_.FillItems(controls_.subcategory,
+                  ListSubcategories(food_, controls_.matching, *main_category));
   form_.ClearItems(controls_.products);
-  for (const std::string_view name : ListSubcategories(food_, controls_.layout, *main_category)) {
-    form_.AddItem(controls_.subcategory, name);
-  }
   ShowNoProduct();
 }
 
@@ -31,18 +27,15 @@ void ProductPicker::OnSubcategoryChosen() {
   const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
   const std::optional<std::string> subcategory = form_.SelectedText(controls_.subcategory);
   if (!main_category || !subcategory) return;
-  form_.ClearItems(controls_.products);
-  for (const std::string_view name :
-       ListProducts(food_, controls_.layout, *main_category, *subcategory)) {
-    form_.AddItem(controls_.products, name);
-  }
+  form_.FillItems(controls_.products,
+                  ListProducts(food_, controls_.matching, *main_category, *subcategory));
 }
 
 void ProductPicker::OnProductChosen() {
   std::optional<std::string> name = form_.SelectedText(controls_.products);
   if (!name) return;
   name->resize(std::min(name->size(), controls_.name_limit));
-  const ProductRecord* const product = FindProduct(food_, controls_.layout, *name);
+  const ProductRecord* const product = FindProduct(food_, controls_.matching, *name);
   if (product == nullptr) return;
   chosen_name_ = std::move(*name);
   const SelectedProduct& chosen = selected_.emplace(SelectedProduct::CopyOf(*product));
@@ -54,6 +47,16 @@ void ProductPicker::OnProductChosen() {
   form_.SetText(controls_.fat, chosen.fat);
   form_.SetText(controls_.carbohydrate, chosen.carbohydrate);
   ShowChosenProduct();
+}
+
+void ProductPicker::OnProductsChanged() {
+  const std::optional<std::string> selected = form_.SelectedText(controls_.products);
+  OnSubcategoryChosen();
+  for (int i = 0; selected && i < form_.ItemCount(controls_.products); ++i) {
+    if (form_.ItemText(controls_.products, i) != *selected) continue;
+    form_.SelectItem(controls_.products, i);
+    return;
+  }
 }
 
 void ProductPicker::OnWeightChanged() {

@@ -17,7 +17,7 @@ namespace velnor {
 
 // The controls of one picker and the texts it reads from them.
 struct PickerControls {
-  Layout layout;
+  Matching matching;  // how it compares names
   int main_category;  // combo box
   int subcategory;    // combo box
   int products;       // sorted list box
@@ -45,6 +45,9 @@ class ProductPicker {
   void OnSubcategoryChosen();
   // The user chose a product: shows its mass and its values per that mass, as the table has them.
   void OnProductChosen();
+  // The products are others than before: lists those of the chosen subcategory again. The selection
+  // stays while its product is there.
+  void OnProductsChanged();
   // The weight has a new text, from the user or from the program: shows what it holds. Until a
   // product has been chosen there is nothing to weigh and nothing changes.
   void OnWeightChanged();

@@ -17,6 +17,8 @@ constexpr std::size_t kTotalLimit = 14;
 }  // namespace
 
 void RecipeRecordDialog::OnOpen(Form& form) {
+  form.LimitText(kName, kNameLimit);
+  form.LimitText(kRecipe, kRecipeLimit);
   form.Focus(kRecipe);
   form.SetText(kDate, session_.date_text);
 }

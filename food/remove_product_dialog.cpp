@@ -13,11 +13,15 @@ constexpr int kNames = 739;
 }  // namespace
 
 RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
-                                         MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), message_boxes_(message_boxes) {}
+                                         MessageBoxes& message_boxes,
+                                         std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
-  for (const std::string& name : ReadUserProductNames(path_)) form.AddItem(kNames, name);
+  form.FillItems(kNames, Views(ReadUserProductNames(path_)));
 }
 
 void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
@@ -26,15 +30,17 @@ void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void RemoveProductDialog::Remove(Form& form) {
-  const std::optional<std::string> name = form.SelectedText(kNames);
-  if (!name) return;
+  if (!form.SelectedText(kNames)) return;
   const Answer answer = message_boxes_.Show({.text = "Are You sure??",
                                              .buttons = MessageButtons::kYesNo,
                                              .icon = MessageIcon::kQuestion});
-  if (answer != Answer::kYes) return;
+  // The list can be used behind the question: what is selected now is meant.
+  const std::optional<std::string> name = form.SelectedText(kNames);
+  if (answer != Answer::kYes || !name) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
   if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
   food_.user_products.Load(path_);
+  on_changed_();
 }
 
 }  // namespace velnor

@@ -3,6 +3,7 @@
 #ifndef VELNOR_FOOD_REMOVE_PRODUCT_DIALOG_H_
 #define VELNOR_FOOD_REMOVE_PRODUCT_DIALOG_H_
 
+#include <functional>
 #include <string>
 
 #include "base/dialog.h"
@@ -15,8 +16,10 @@ inline constexpr int kRemoveProductResource = 10011;
 
 class RemoveProductDialog final : public Dialog {
  public:
-  // Removes from the file `path` and reloads the user's products of `food` from it.
-  RemoveProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes);
+  // Removes from the file `path` and reloads the user's products of `food` from it; calls
+  // `on_changed` when they may be others than before.
+  RemoveProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+                      std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -27,6 +30,7 @@ class RemoveProductDialog final : public Dialog {
   FoodTable& food_;
   std::string path_;
   MessageBoxes& message_boxes_;
+  std::function<void()> on_changed_;
 };
 
 }  // namespace velnor

@@ -21,7 +21,10 @@ void Reset(Form& form) {
 
 }  // namespace
 
-void SearchDialog::OnOpen(Form& form) { form.Focus(kQuery); }
+void SearchDialog::OnOpen(Form& form) {
+  form.LimitText(kQuery, kQueryLimit);
+  form.Focus(kQuery);
+}
 
 void SearchDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kFind && notification == kButtonClicked) Find(form);
@@ -32,8 +35,11 @@ void SearchDialog::OnCommand(Form& form, int id, int notification) {
 // Results of one search after the other stay in the list until it is reset.
 void SearchDialog::Find(Form& form) {
   const auto results = SearchProducts(food_, form.ReadText(kQuery, kQueryLimit));
-  for (const std::string& result : results) form.AddItem(kResults, result);
-  if (results.empty()) form.AddItem(kResults, kNotFound);
+  if (results.empty()) {
+    form.AddItem(kResults, kNotFound);
+  } else {
+    form.AddItems(kResults, Views(results));
+  }
   form.Focus(kFind);
 }
 

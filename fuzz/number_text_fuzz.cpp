@@ -21,7 +21,7 @@ bool IsReadAlike(const std::string& text) {
   std::string_view digits = std::string_view{text}.substr(sign);
   if (!digits.empty() && (digits[0] == '+' || digits[0] == '-')) digits.remove_prefix(1);
   if (digits.starts_with("0x") || digits.starts_with("0X")) return false;
-  return digits.empty() || digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9');
+  return digits.empty() || std::string_view("iInN").find(digits[0]) == std::string_view::npos;
 }
 
 bool AreSame(double a, double b) { return a == b && std::signbit(a) == std::signbit(b); }
@@ -29,8 +29,7 @@ bool AreSame(double a, double b) { return a == b && std::signbit(a) == std::sign
 void CheckReading(const std::string& text) {
   if (!IsReadAlike(text)) return;
   const double expected = std::strtod(text.c_str(), nullptr);
-  Require(AreSame(ParseNumber(text), expected) || expected == 0,
-          "a number is read as the C library reads it");
+  Require(AreSame(ParseNumber(text), expected), "a number is read as the C library reads it");
   constexpr std::int64_t kSmallest = std::numeric_limits<int>::min();
   constexpr std::int64_t kLargest = std::numeric_limits<int>::max();
   const std::int64_t whole = std::strtoll(text.c_str(), nullptr, 10);

@@ -180,6 +180,17 @@ void ProgramRun::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
   opened.dialog->OnOpen(opened.form);
 }
 
+void ProgramRun::OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
+  OpenDialog(resource_id, std::move(dialog));
+  dialogs_.back().is_of_session = true;
+}
+
+void ProgramRun::CloseSessionDialogs() {
+  for (OpenedDialog& opened : dialogs_) {
+    if (opened.is_of_session) opened.form.Press(kCancelButton);
+  }
+}
+
 void ProgramRun::RunDialog(int, Dialog& dialog) {
   FakeForm window;
   dialog.OnOpen(window);

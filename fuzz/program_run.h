@@ -94,6 +94,7 @@ class ProgramRun final : private MainWindow {
     int resource_id = 0;
     std::unique_ptr<Dialog> dialog = {};
     FakeForm form = {};
+    bool is_of_session = false;
   };
 
   void Invalidate() override { wants_repaint_ = true; }
@@ -102,8 +103,12 @@ class ProgramRun final : private MainWindow {
   void Close() override {}
   void EnableMenuItem(int command, bool enabled) override { menu_[command] = enabled; }
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
+  void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
+  void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind&) override { return std::nullopt; }
   void OpenHelp(std::string_view) override {}
+  [[nodiscard]] bool OpenInBrowser(const std::string&) override { return true; }
 
   void RequireNumbers(const RecordingCanvas& canvas) const;
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
-#include <limits>
 #include <optional>
 
 #include "base/file_calls.h"
@@ -19,8 +18,6 @@ constexpr ReportFile kReports[] = {
     {9, "Reports overview - RECIPES", "zestaw.ASC"},
     {11, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
 };
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
 
@@ -50,7 +47,7 @@ bool ClearReport(const std::string& path) {
 
 bool SaveReport(const std::string& path, std::string_view shown, std::string_view text) {
   if (!FileExists(path) || IsWriteProtected(path)) return false;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   if (!old) return false;
   // A record may have been appended since it was shown. A file that has changed altogether was
   // never shown as it is now.
@@ -58,7 +55,7 @@ bool SaveReport(const std::string& path, std::string_view shown, std::string_vie
   const std::string_view rest = std::string_view{*old}.substr(seen);
   if (rest.empty()) return ReplaceFile(path, text);
   // Added to what earlier saves have kept; what stands there is never lost.
-  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kNoLimit);
+  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kWholeFile);
   if (!kept) return false;
   if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
   const FileBytes files[] = {{RestPath(path), kept->append(rest)}, {path, std::string(text)}};

@@ -36,12 +36,12 @@ void ReportScreen::Paint(Canvas& canvas) {
   const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, report->title);
+  canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
   const std::string path = Path();
   if (HasRest(path)) {
-    canvas.DrawText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
+    canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
   }
   if (path != unsaved_path_) ShowFile();
 }

@@ -5,12 +5,12 @@
 #include <optional>
 #include <utility>
 
-#include "activity/burned_record.h"
 #include "activity/burned_record_dialog.h"
 #include "body/weight_record_dialog.h"
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
+#include "food/import_products_dialog.h"
 #include "food/recipe_record_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
@@ -134,6 +134,7 @@ void Program::ShowScreen(ScreenId screen) {
 void Program::LogOut() {
   message_boxes_.Show({.text = "BYE, SEE YOU SOON!"});
   ApplyMenuState(MenuState::kAfterLogout, window_);
+  window_.CloseSessionDialogs();
   session_.user_name.clear();
   session_.screen = kHomeScreen;
   window_.PaintNow();
@@ -145,31 +146,44 @@ void Program::OpenLogin() {
       std::make_unique<LoginDialog>(
           session_, profile_, window_, message_boxes_,
           LoginDialog::Events{.on_login = [this] { ApplyMenuState(MenuState::kLoggedIn, window_); },
-                              .start_day = [this] { StartUserDay(); }}));
+                              .start_day = [this] { StartUserDay(); },
+                              .on_user_changed = [this] { window_.CloseSessionDialogs(); }}));
 }
 
 void Program::OpenUsers() {
   window_.OpenDialog(kUsersResource,
                      std::make_unique<UsersDialog>(session_, window_, message_boxes_, [this] {
                        ApplyMenuState(MenuState::kUserRemoved, window_);
+                       window_.CloseSessionDialogs();
                      }));
 }
 
 void Program::OpenProfile() {
-  window_.OpenDialog(kProfileResource,
-                     std::make_unique<ProfileDialog>(session_, profile_, window_, message_boxes_));
+  window_.OpenSessionDialog(kProfileResource, std::make_unique<ProfileDialog>(
+                                                  session_, profile_, window_, message_boxes_));
 }
 
 void Program::OpenAddProduct() {
-  window_.OpenDialog(kAddProductResource,
-                     std::make_unique<AddProductDialog>(food_, session_.BaseFile(kUserProductsFile),
-                                                        message_boxes_));
+  window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
+                                              food_, session_.BaseFile(kUserProductsFile),
+                                              message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OpenImportProducts() {
+  window_.OpenDialog(kImportProductsResource,
+                     std::make_unique<ImportProductsDialog>(
+                         food_, session_.BaseFile(kUserProductsFile), window_, message_boxes_));
 }
 
 void Program::OpenRemoveProduct() {
-  window_.OpenDialog(kRemoveProductResource,
-                     std::make_unique<RemoveProductDialog>(
-                         food_, session_.BaseFile(kUserProductsFile), message_boxes_));
+  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
+                                                 food_, session_.BaseFile(kUserProductsFile),
+                                                 message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OnProductsChanged() {
+  counter_.OnProductsChanged();
+  overview_.OnProductsChanged();
 }
 
 void Program::OpenSearch() {
@@ -177,14 +191,14 @@ void Program::OpenSearch() {
 }
 
 void Program::OpenCalorieRecord() {
-  window_.OpenDialog(kCalorieRecordResource,
-                     std::make_unique<CalorieRecordDialog>(session_, exchanges_,
-                                                           food_list_.Totals(kCalorieTotalLimit)));
+  window_.OpenSessionDialog(kCalorieRecordResource,
+                            std::make_unique<CalorieRecordDialog>(
+                                session_, exchanges_, food_list_.Totals(kCalorieTotalLimit)));
 }
 
 void Program::OpenRecipeRecord() {
-  window_.OpenDialog(kRecipeRecordResource,
-                     std::make_unique<RecipeRecordDialog>(session_, food_list_));
+  window_.OpenSessionDialog(kRecipeRecordResource,
+                            std::make_unique<RecipeRecordDialog>(session_, food_list_));
 }
 
 void Program::ClearDay() {
@@ -193,20 +207,20 @@ void Program::ClearDay() {
 }
 
 void Program::OpenWeightRecord() {
-  window_.OpenDialog(kWeightRecordResource,
-                     std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
+  window_.OpenSessionDialog(kWeightRecordResource,
+                            std::make_unique<WeightRecordDialog>(session_, weight_, bmi_.result()));
 }
 
 void Program::OpenWhrRecord() {
-  window_.OpenDialog(kWhrRecordResource,
-                     std::make_unique<WhrRecordDialog>(session_, whr_.result()));
+  window_.OpenSessionDialog(kWhrRecordResource,
+                            std::make_unique<WhrRecordDialog>(session_, whr_.result()));
 }
 
 void Program::OpenBurnedRecord() {
-  window_.OpenDialog(kBurnedRecordResource,
-                     std::make_unique<BurnedRecordDialog>(session_.UserFile(kBurnedReportFile),
-                                                          burned_.RecordOf(session_.date_text),
-                                                          burned_.counted_activity()));
+  window_.OpenSessionDialog(
+      kBurnedRecordResource,
+      std::make_unique<BurnedRecordDialog>(session_, burned_.RecordOf(session_.date_text),
+                                           burned_.counted_activity()));
 }
 
 void Program::StartUserDay() {

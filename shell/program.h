@@ -10,7 +10,7 @@
 
 #include "activity/burned_calories.h"
 #include "activity/burned_screen.h"
-#include "activity/energy_screen.h"
+#include "food/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -65,6 +65,7 @@ class Program {
   void OpenUsers();
   void OpenProfile();
   void OpenAddProduct();
+  void OpenImportProducts();
   void OpenRemoveProduct();
   void OpenSearch();
   void OpenCalorieRecord();
@@ -92,6 +93,8 @@ class Program {
  private:
   // What begins with the login of a user: the day's balance, the user's limits.
   void StartUserDay();
+  // After a product of the user's own came or went.
+  void OnProductsChanged();
 
   SessionState session_;
   Form& form_;

@@ -27,18 +27,23 @@ LoginDialog::LoginDialog(SessionState& session, UserProfile& profile, MainWindow
       events_(std::move(events)) {}
 
 void LoginDialog::OnOpen(Form& form) {
-  session_.user_name.clear();
+  SetUser("");
   const UserRegistry registry =
       ReadUserRegistry(session_.BaseFile(kRegistryFile)).value_or(UserRegistry());
-  for (const std::string& name : registry.names) form.AddItem(kUsers, name);
+  form.FillItems(kUsers, Views(registry.names));
 }
 
 void LoginDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kUsers && notification == kSelectionChanged) {
-    session_.user_name = form.SelectedText(kUsers).value_or("");
+    SetUser(form.SelectedText(kUsers).value_or(""));
   }
   if (id == kOkButton && notification == kButtonClicked) LogIn(form);
   if (id == kCancelButton) form.Close();
+}
+
+void LoginDialog::SetUser(std::string name) {
+  session_.user_name = std::move(name);
+  events_.on_user_changed();
 }
 
 void LoginDialog::LogIn(Form& form) {
@@ -46,8 +51,14 @@ void LoginDialog::LogIn(Form& form) {
     message_boxes_.Show({.text = kNobody, .owner = MessageOwner::kDialog});
     return;
   }
+  const std::string user = session_.user_name;
   events_.on_login();
   LoadProfile();
+  // The menu could be used behind the boxes, and has been when the user is another: they logged out.
+  if (session_.user_name != user) {
+    form.Close();
+    return;
+  }
   session_.screen = kHomeScreen;
   events_.start_day();
   window_.PaintNow();

@@ -4,6 +4,7 @@
 #define VELNOR_USERS_LOGIN_DIALOG_H_
 
 #include <functional>
+#include <string>
 
 #include "base/dialog.h"
 #include "base/main_window.h"
@@ -17,11 +18,13 @@ inline constexpr int kLoginResource = 10002;
 
 class LoginDialog final : public Dialog {
  public:
-  // What a login does outside of this dialog: opening the menu, and starting the user's day (files
-  // and screens that keep something of the day).
+  // What a login does outside of this dialog: opening the menu, starting the user's day (files
+  // and screens that keep something of the day), and leaving nothing open of whoever was the user
+  // before the name of the session changed.
   struct Events {
     std::function<void()> on_login;
     std::function<void()> start_day;
+    std::function<void()> on_user_changed;
   };
 
   // Opening it empties the name of the session; a selection fills it, a login the profile.
@@ -32,6 +35,7 @@ class LoginDialog final : public Dialog {
   void OnCommand(Form& form, int id, int notification) override;
 
  private:
+  void SetUser(std::string name);
   void LogIn(Form& form);
   void LoadProfile();
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/file_calls.h"
+
 namespace velnor {
 namespace {
 
@@ -28,10 +30,6 @@ constexpr std::string_view kContradiction =
 constexpr std::string_view kNotRead =
     "Your profile could not be read.\nClose this window and open it again.";
 
-void Fill(Form& form, int id, std::span<const std::string_view> words) {
-  for (const std::string_view word : words) form.AddItem(id, word);
-}
-
 // Selects the word that begins with the first letter of `text`; without one nothing is selected.
 void SelectByLetter(Form& form, int id, std::span<const std::string_view> words,
                     std::string_view text) {
@@ -49,9 +47,10 @@ ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWi
     : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
 
 void ProfileDialog::OnOpen(Form& form) {
-  Fill(form, kSex, kSexes);
-  Fill(form, kLifeStyle, kLifeStyles);
-  Fill(form, kOther, kOthers);
+  for (const int id : {kAge, kHeight}) form.LimitText(id, kTypedLimit);
+  form.FillItems(kSex, kSexes);
+  form.FillItems(kLifeStyle, kLifeStyles);
+  form.FillItems(kOther, kOthers);
   const std::optional<ProfileLines> lines =
       ReadProfileLinesToRewrite(session_.UserFile(kProfileFile));
   was_read_ = lines.has_value();
@@ -66,12 +65,26 @@ void ProfileDialog::OnOpen(Form& form) {
 
 void ProfileDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kOkButton && notification == kButtonClicked) Save(form);
-  if (id == kCancelButton) form.Close();
+  if (id == kCancelButton) Close(form);
 }
 
+void ProfileDialog::Close(Form& form) {
+  is_closed_ = true;
+  form.Close();
+}
+
+// Empty fields would take the place of what is still in the file. Where the user's folder is gone,
+// or holds no profile, there is nothing to lose.
+bool ProfileDialog::WouldLoseWhatWasNotRead() const {
+  if (was_read_) return false;
+  const std::string path = session_.UserFile(kProfileFile);
+  const std::optional<ProfileLines> lines = ReadProfileLinesToRewrite(path);
+  return lines ? *lines != ProfileLines() : HasFolder(path);
+}
+
+// A profile that cannot be written is not reported; it counts as long as the session lasts.
 void ProfileDialog::Save(Form& form) {
-  // Empty fields would take the place of what is still in the file.
-  if (!was_read_) {
+  if (WouldLoseWhatWasNotRead()) {
     message_boxes_.Show({.text = kNotRead, .owner = MessageOwner::kDialog});
     return;
   }
@@ -82,9 +95,13 @@ void ProfileDialog::Save(Form& form) {
   auto& [age, height, sex, life_style, other] = lines;
   if (sex.starts_with('m') && (other.starts_with('p') || other.starts_with('s'))) {
     message_boxes_.Show({.text = kContradiction, .owner = MessageOwner::kDialog});
+    // The menu could be used behind the box: with the session of its user the dialog has ended.
+    if (is_closed_) return;
     other = "0";
   }
-  WriteProfileLines(session_.UserFile(kProfileFile), lines);
+  const std::string path = session_.UserFile(kProfileFile);
+  if (!HasFolder(path)) MakeFolder(session_.FolderOf(session_.user_name));
+  WriteProfileLines(path, lines);
   for (std::string& line : lines) {
     if (line.empty()) line = "0";
     line.resize(std::min(line.size(), UserProfile::kLimit));
@@ -92,7 +109,7 @@ void ProfileDialog::Save(Form& form) {
   profile_ = {age, height, sex, life_style, other};
   session_.screen = kHomeScreen;
   window_.PaintNow();
-  form.Close();
+  Close(form);
 }
 
 }  // namespace velnor

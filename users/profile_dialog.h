@@ -24,8 +24,11 @@ class ProfileDialog final : public Dialog {
 
  private:
   void Save(Form& form);
+  void Close(Form& form);
+  bool WouldLoseWhatWasNotRead() const;
 
   bool was_read_ = false;  // what the file held
+  bool is_closed_ = false;
   SessionState& session_;
   UserProfile& profile_;
   MainWindow& window_;

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
-#include <limits>
 
+#include "base/code_page.h"
 #include "base/file_calls.h"
 #include "base/text_file.h"
 #include "food/day_balance.h"
@@ -57,8 +57,7 @@ std::size_t WholeNamesEnd(std::string_view text) {
 }  // namespace
 
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path) {
-  const std::optional<std::string> read =
-      ReadFileToRewrite(path, std::numeric_limits<std::size_t>::max());
+  const std::optional<std::string> read = ReadFileToRewrite(path, kWholeFile);
   if (!read) return std::nullopt;
   const std::string& text = *read;
   const std::size_t end = WholeNamesEnd(text);
@@ -101,8 +100,25 @@ bool IsFolderName(std::string_view name) {
          std::ranges::none_of(name, [](char c) { return c >= '\0' && c < ' '; });
 }
 
+std::optional<std::string> FindNamesake(const SessionState& session,
+                                        const std::vector<std::string>& registered,
+                                        const std::string& name) {
+  const std::string lower = ToLowerCase(name);
+  const auto differs_in_case = [&](const std::string& other) {
+    return other != name && ToLowerCase(other) == lower;
+  };
+  if (std::ranges::find(registered, name) != registered.end()) return std::nullopt;
+  const auto user = std::ranges::find_if(registered, differs_in_case);
+  if (user != registered.end()) return *user;
+  for (const FolderEntry& entry :
+       ListFolder(session.base_folder).value_or(std::vector<FolderEntry>())) {
+    if (entry.is_folder && differs_in_case(entry.name)) return entry.name;
+  }
+  return std::nullopt;
+}
+
 void CreateUserFiles(const SessionState& session, const std::string& user) {
-  MakeFolder(session.base_folder + user);
+  MakeFolder(session.FolderOf(user));
   for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
 }
 
@@ -118,7 +134,7 @@ void DeleteUserFiles(const SessionState& session, const std::string& user) {
   for (const ReportFile& report : Reports()) {
     DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
   }
-  if (!user.empty()) RemoveFolder(session.base_folder + user);
+  if (!user.empty()) RemoveFolder(session.FolderOf(user));
 }
 
 }  // namespace velnor

@@ -44,6 +44,13 @@ std::size_t CountForbiddenSigns(std::string_view name);
 // An empty name is no folder name.
 bool IsFolderName(std::string_view name);
 
+// The name that keeps `name` from being a user's: one of `registered`, or that of a folder that is
+// there, which differs from it in small and capital letters alone. The platform knows one folder
+// for both. Nothing when there is none, or when `name` itself is registered.
+std::optional<std::string> FindNamesake(const SessionState& session,
+                                        const std::vector<std::string>& registered,
+                                        const std::string& name);
+
 // Makes the user's folder and the eight files that every user has from the start, empty; files that
 // are there already become empty. What the system refuses is not reported.
 void CreateUserFiles(const SessionState& session, const std::string& user);

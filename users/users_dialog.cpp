@@ -20,6 +20,8 @@ constexpr std::string_view kForbidden =
     "The name contain forbidden signs\n"
     "         space + -  / . ; ~ ` > < | : tab ! @ # $ % ^ & * ( ) \"";
 constexpr std::string_view kTooLong = "The name of the user can\ncontain at most 99 signs";
+constexpr std::string_view kSameFolder =
+    "The name differs only in small and capital\nletters from ";
 constexpr std::string_view kListFull = "The list of users is full\nRemove some user first";
 constexpr std::string_view kNotWritten = "The list of users could not be written";
 
@@ -29,6 +31,13 @@ UserRegistry Listed(const Form& form) {
     registry.names.push_back(form.ItemText(kUsers, i));
   }
   return registry;
+}
+
+// Users added behind a box move the entries below them. -1: the name is not listed any more.
+int IndexOf(const Form& form, std::string_view name) {
+  int index = form.ItemCount(kUsers) - 1;
+  while (index >= 0 && form.ItemText(kUsers, index) != name) --index;
+  return index;
 }
 
 }  // namespace
@@ -42,8 +51,10 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
 
 void UsersDialog::OnOpen(Form& form) {
   std::optional<UserRegistry> registry = ReadUserRegistry(session_.BaseFile(kRegistryFile));
+  form.LimitText(kName, kTypedLimit);
+  form.Focus(kName);
   if (!registry) return;
-  for (const std::string& name : registry->names) form.AddItem(kUsers, name);
+  form.FillItems(kUsers, Views(registry->names));
   rest_of_registry_ = std::move(registry->rest);
 }
 
@@ -51,10 +62,20 @@ void UsersDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kUsers && notification == kSelectionChanged) {
     form.SetText(kName, form.SelectedText(kUsers).value_or(""));
   }
+  if (id == kName) ChooseDefaultButton(form, notification);
   if (id == kAdd && notification == kButtonClicked) Add(form);
   if (id == kRemove && notification == kButtonClicked) Remove(form);
   if (id == kOkButton && notification == kButtonClicked) Confirm(form);
   if (id == kCancelButton) form.Close();
+}
+
+// Enter in the name adds it, elsewhere it is OK. A selection in the list fills the name, too, and
+// must not be added again.
+void UsersDialog::ChooseDefaultButton(Form& form, int notification) {
+  if (notification == kEditEntered) is_in_name_ = true;
+  if (notification == kEditLeft) is_in_name_ = false;
+  const bool adds = is_in_name_ && !form.ReadText(kName, 1).empty();
+  form.SetDefaultButton(adds ? kAdd : kOkButton);
 }
 
 // A name that is listed already is taken all the same, and its files become empty.
@@ -84,6 +105,10 @@ bool UsersDialog::Accept(const Form& form, const std::string& name) {
     return false;
   }
   UserRegistry registry = Listed(form);
+  if (const std::optional<std::string> other = FindNamesake(session_, registry.names, name)) {
+    Complain(std::string(kSameFolder) + *other);
+    return false;
+  }
   registry.names.push_back(name);
   if (RegistryBytes(registry).size() > kRegistryLimit) {
     Complain(kListFull);
@@ -93,7 +118,9 @@ bool UsersDialog::Accept(const Form& form, const std::string& name) {
 }
 
 void UsersDialog::Remove(Form& form) {
+  // The question leaves the dialog usable: what it is about is settled before it is asked.
   const std::string name = form.ReadText(kName, kTypedLimit);
+  const std::optional<std::string> entry = form.SelectedText(kUsers);
   const Answer answer = message_boxes_.Show({.text = "Delete user??",
                                              .caption = "CAUTION",
                                              .buttons = MessageButtons::kYesNo,
@@ -106,7 +133,7 @@ void UsersDialog::Remove(Form& form) {
     Complain(kForbidden);
     return;
   }
-  form.RemoveSelectedItem(kUsers);
+  if (entry) form.RemoveItem(kUsers, IndexOf(form, *entry));
   DeleteUserFiles(session_, name);
   form.SetText(kName, "");
 
@@ -132,10 +159,7 @@ void UsersDialog::Confirm(Form& form) {
 }
 
 void UsersDialog::Complain(std::string_view text) {
-  message_boxes_.Show({.text = text,
-                       .caption = "ERROR!",
-                       .icon = MessageIcon::kNone,
-                       .owner = MessageOwner::kNone});
+  message_boxes_.Show({.text = text, .caption = "ERROR!", .owner = MessageOwner::kNone});
 }
 
 }  // namespace velnor

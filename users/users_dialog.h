@@ -26,6 +26,7 @@ class UsersDialog final : public Dialog {
   void OnCommand(Form& form, int id, int notification) override;
 
  private:
+  void ChooseDefaultButton(Form& form, int notification);
   void Add(Form& form);
   void Remove(Form& form);
   void Confirm(Form& form);
@@ -37,6 +38,7 @@ class UsersDialog final : public Dialog {
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_removed_;
+  bool is_in_name_ = false;  // the focus
   // What the file holds behind the names that fit; nothing when it could not be read.
   std::optional<std::string> rest_of_registry_;
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/win32/caption_icon.h"
+#include "shell/win32/fault_barrier.h"
 #include "shell/win32/window_form.h"
 
 namespace velnor {
@@ -13,7 +15,7 @@ namespace {
 class Host final : public WindowForm {
  public:
   Host(HWND window, Dialog& dialog) : WindowForm(window), dialog_(&dialog) {}
-  Host(HWND window, std::unique_ptr<Dialog> dialog, std::function<void()> on_close)
+  Host(HWND window, std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close)
       : WindowForm(window),
         dialog_(dialog.get()),
         owned_dialog_(std::move(dialog)),
@@ -23,7 +25,7 @@ class Host final : public WindowForm {
     if (on_close_ == nullptr) {
       EndDialog(window(), 0);
     } else {
-      on_close_();
+      on_close_(window());
       DestroyWindow(window());
     }
   }
@@ -32,7 +34,10 @@ class Host final : public WindowForm {
 
   void Command(int id, int notification) {
     ++running_handlers_;
-    dialog_->OnCommand(*this, id, notification);
+    BehindBarrier(window(), 0, [&] {
+      dialog_->OnCommand(*this, id, notification);
+      return 0;
+    });
     --running_handlers_;
     DeleteWhenDone();
   }
@@ -49,7 +54,7 @@ class Host final : public WindowForm {
 
   Dialog* dialog_;
   std::unique_ptr<Dialog> owned_dialog_;  // a modal dialog belongs to its caller
-  std::function<void()> on_close_;        // null for a modal dialog
+  std::function<void(HWND)> on_close_;    // null for a modal dialog
   int running_handlers_ = 0;
   bool window_is_gone_ = false;
 };
@@ -58,7 +63,7 @@ class Host final : public WindowForm {
 struct Opening {
   Dialog* modal_dialog = nullptr;
   std::unique_ptr<Dialog> modeless_dialog = nullptr;
-  std::function<void()> on_close = nullptr;
+  std::function<void(HWND)> on_close = nullptr;
 
   Host* MakeHost(HWND window) {
     if (modal_dialog != nullptr) return new Host(window, *modal_dialog);
@@ -98,14 +103,24 @@ void KeepListsOffButtons(HWND dialog) {
   }
 }
 
+INT_PTR OpenDialog(HWND window, Opening& opening) {
+  Host* const host = opening.MakeHost(window);
+  SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
+  SetCaptionIcon(window);
+  KeepListsOffButtons(window);
+  const HWND focus_before = GetFocus();
+  host->Open();
+  return GetFocus() == focus_before ? TRUE : FALSE;
+}
+
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_INITDIALOG) {
-    Host* const host = reinterpret_cast<Opening*>(lparam)->MakeHost(window);
-    SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
-    KeepListsOffButtons(window);
-    const HWND focus_before = GetFocus();
-    host->Open();
-    return GetFocus() == focus_before ? TRUE : FALSE;
+    const INT_PTR result = BehindBarrier(window, INT_PTR{TRUE}, [&] {
+      return OpenDialog(window, *reinterpret_cast<Opening*>(lparam));
+    });
+    // Without its object it could not even be closed.
+    if (GetWindowLongPtrA(window, DWLP_USER) == 0) EndDialog(window, 0);
+    return result;
   }
   auto* const host = reinterpret_cast<Host*>(GetWindowLongPtrA(window, DWLP_USER));
   if (host == nullptr) return FALSE;
@@ -136,11 +151,16 @@ void RunModalDialog(HINSTANCE instance, HWND owner, int resource_id, Dialog& dia
 }
 
 HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
-                        std::unique_ptr<Dialog> dialog, std::function<void()> on_close) {
+                        std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close) {
   Opening opening{.modeless_dialog = std::move(dialog), .on_close = std::move(on_close)};
   const HWND window = CreateDialogParamA(instance, MAKEINTRESOURCEA(resource_id), owner,
                                          DialogProcedure, reinterpret_cast<LPARAM>(&opening));
-  if (window != nullptr) ShowWindow(window, SW_SHOW);
+  if (window == nullptr) return nullptr;
+  if (opening.modeless_dialog != nullptr) {  // nobody took it
+    DestroyWindow(window);
+    return nullptr;
+  }
+  ShowWindow(window, SW_SHOW);
   return window;
 }
 

@@ -17,9 +17,9 @@ namespace velnor {
 void RunModalDialog(HINSTANCE instance, HWND owner, int resource_id, Dialog& dialog);
 
 // Opens and shows the dialog template `resource_id` over `owner` and returns its window, null when
-// it cannot be opened. `on_close` is called when the dialog closes itself.
+// it cannot be opened. `on_close` is called with the window when the dialog closes itself.
 HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
-                        std::unique_ptr<Dialog> dialog, std::function<void()> on_close);
+                        std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close);
 
 }  // namespace velnor
 

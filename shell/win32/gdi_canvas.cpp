@@ -139,7 +139,7 @@ void GdiCanvas::SetPen(const Pen& pen) {
   pen_ = next;
 }
 
-void GdiCanvas::DrawText(Point at, std::string_view text) {
+void GdiCanvas::WriteText(Point at, std::string_view text) {
   TextOutA(context_, at.x, at.y, text.data(), static_cast<int>(text.size()));
 }
 

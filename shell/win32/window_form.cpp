@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/win32/list_order.h"
+#include "shell/win32/number_field.h"
+
 namespace velnor {
 namespace {
 
@@ -22,6 +25,8 @@ static_assert(kButtonClicked == BN_CLICKED);
 static_assert(kSelectionChanged == LBN_SELCHANGE);
 static_assert(kSelectionChanged == CBN_SELCHANGE);
 static_assert(kEditUpdated == EN_UPDATE);
+static_assert(kEditEntered == EN_SETFOCUS);
+static_assert(kEditLeft == EN_KILLFOCUS);
 
 constexpr std::array kClassNames = {"button", "combobox", "edit", "listbox", "static"};
 
@@ -34,14 +39,14 @@ constexpr std::array<WPARAM, 4> kScrollCodes = {SB_LINEUP, SB_LINEDOWN, SB_PAGEU
 
 // List boxes and combo boxes do the same things under different message numbers.
 struct ListMessages {
-  UINT count, add, reset, selection, select, text_length, text;
+  UINT count, reserve, add, reset, selection, select, text_length, text;
 };
-constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,  LB_ADDSTRING, LB_RESETCONTENT,
-                                           LB_GETCURSEL, LB_SETCURSEL, LB_GETTEXTLEN,
-                                           LB_GETTEXT};
-constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,  CB_ADDSTRING, CB_RESETCONTENT,
-                                            CB_GETCURSEL, CB_SETCURSEL, CB_GETLBTEXTLEN,
-                                            CB_GETLBTEXT};
+constexpr ListMessages kListBoxMessages = {LB_GETCOUNT,     LB_INITSTORAGE, LB_ADDSTRING,
+                                           LB_RESETCONTENT, LB_GETCURSEL,   LB_SETCURSEL,
+                                           LB_GETTEXTLEN,   LB_GETTEXT};
+constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,     CB_INITSTORAGE, CB_ADDSTRING,
+                                            CB_RESETCONTENT, CB_GETCURSEL,   CB_SETCURSEL,
+                                            CB_GETLBTEXTLEN, CB_GETLBTEXT};
 
 const ListMessages& MessagesOf(HWND control) {
   char name[16] = {};
@@ -51,16 +56,20 @@ const ListMessages& MessagesOf(HWND control) {
 }
 
 // A list box that scrolls sideways has to be told how wide its widest item is.
-void WidenTo(HWND list, std::string_view item) {
+void WidenTo(HWND list, std::span<const std::string_view> items) {
   constexpr LRESULT kMargin = 8;
   const HDC context = GetDC(list);
   const HGDIOBJ previous =
       SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
-  SIZE size = {};
-  GetTextExtentPoint32A(context, item.data(), static_cast<int>(item.size()), &size);
+  LRESULT widest = 0;
+  for (const std::string_view item : items) {
+    SIZE size = {};
+    GetTextExtentPoint32A(context, item.data(), static_cast<int>(item.size()), &size);
+    widest = std::max<LRESULT>(widest, size.cx);
+  }
   SelectObject(context, previous);
   ReleaseDC(list, context);
-  const LRESULT width = size.cx + kMargin;
+  const LRESULT width = widest + kMargin;
   if (width > SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0)) {
     SendMessageA(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
   }
@@ -79,6 +88,54 @@ bool IsFrame(HWND control) {
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
+bool IsSortedListBox(HWND list) {
+  return &MessagesOf(list) == &kListBoxMessages &&
+         (GetWindowLongA(list, GWL_STYLE) & LBS_SORT) != 0;
+}
+
+// Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
+// its own order and has not to look for the place of each.
+void Append(HWND list, std::span<const std::string_view> texts) {
+  constexpr auto kAtTheEnd = static_cast<WPARAM>(-1);
+  const ListMessages& messages = MessagesOf(list);
+  std::size_t bytes = 0;
+  for (const std::string_view text : texts) bytes += text.size() + 1;
+  SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
+  std::optional<std::vector<std::string>> ordered;
+  if (IsSortedListBox(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+    ordered = OrderOfList(list, texts);
+  }
+  if (ordered) {
+    for (const std::string& text : *ordered) {
+      SendMessageA(list, LB_INSERTSTRING, kAtTheEnd, ToParameter(text.c_str()));
+    }
+  } else {
+    for (const std::string_view text : texts) {
+      SendMessageA(list, messages.add, 0, ToParameter(std::string(text).c_str()));
+    }
+  }
+  if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
+}
+
+// While it lives, a list is not drawn; then it is, once. A hidden one is left alone: nothing of it
+// is drawn anyway, and allowing it to be drawn again would show it.
+class DrawnAtTheEnd {
+ public:
+  explicit DrawnAtTheEnd(HWND list) : list_(IsShown(list) ? list : nullptr) {
+    if (list_ != nullptr) SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
+  }
+  DrawnAtTheEnd(const DrawnAtTheEnd&) = delete;
+  DrawnAtTheEnd& operator=(const DrawnAtTheEnd&) = delete;
+  ~DrawnAtTheEnd() {
+    if (list_ == nullptr) return;
+    SendMessageA(list_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list_, nullptr, TRUE);
+  }
+
+ private:
+  HWND list_;
+};
+
 }  // namespace
 
 HWND WindowForm::Control(int key) const { return GetDlgItem(window_, key); }
@@ -96,16 +153,27 @@ void WindowForm::SetText(int id, std::string_view text) {
   SetWindowTextA(Control(id), std::string(text).c_str());
 }
 
+void WindowForm::LimitText(int id, std::size_t limit) {
+  SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
+}
+
+void WindowForm::TakeNumbers(int id) { MarkNumberField(Control(id)); }
+
 int WindowForm::ItemCount(int id) const {
   const HWND control = Control(id);
   const LRESULT count = SendMessageA(control, MessagesOf(control).count, 0, 0);
   return static_cast<int>(std::max<LRESULT>(count, 0));
 }
 
-void WindowForm::AddItem(int id, std::string_view text) {
-  const HWND control = Control(id);
-  SendMessageA(control, MessagesOf(control).add, 0, ToParameter(std::string(text).c_str()));
-  if ((GetWindowLongA(control, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(control, text);
+void WindowForm::FillItems(int id, std::span<const std::string_view> texts) {
+  const DrawnAtTheEnd drawn_at_the_end(Control(id));
+  ClearItems(id);
+  Append(Control(id), texts);
+}
+
+void WindowForm::AddItems(int id, std::span<const std::string_view> texts) {
+  const DrawnAtTheEnd drawn_at_the_end(Control(id));
+  Append(Control(id), texts);
 }
 
 void WindowForm::ClearItems(int id) {
@@ -140,12 +208,19 @@ std::optional<std::string> WindowForm::SelectedText(int id) const {
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
-  const HWND control = Control(id);
-  const LRESULT selection = SendMessageA(control, LB_GETCURSEL, 0, 0);
-  if (selection >= 0) SendMessageA(control, LB_DELETESTRING, static_cast<WPARAM>(selection), 0);
+  const LRESULT selection = SendMessageA(Control(id), LB_GETCURSEL, 0, 0);
+  RemoveItem(id, static_cast<int>(selection));
+}
+
+void WindowForm::RemoveItem(int id, int index) {
+  if (index >= 0) SendMessageA(Control(id), LB_DELETESTRING, static_cast<WPARAM>(index), 0);
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
+
+void WindowForm::SetDefaultButton(int id) {
+  SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
+}
 
 void WindowForm::Scroll(int id, ScrollStep step) {
   SendMessageA(Control(id), EM_SCROLL, kScrollCodes[static_cast<std::size_t>(step)], 0);
@@ -176,6 +251,8 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.holds_number) MarkNumberField(control);
+    if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
   }
@@ -212,6 +289,21 @@ void MainForm::ShowChosen() {
       InvalidateRect(control, nullptr, FALSE);
     }
   }
+}
+
+std::vector<int> MainForm::UsableKeys() const {
+  std::vector<int> keys;
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && IsWindowEnabled(control) != FALSE) keys.push_back(key);
+  }
+  return keys;
+}
+
+int MainForm::KeyOf(HWND control) const {
+  for (const auto& [key, candidate] : controls_by_key_) {
+    if (candidate == control) return key;
+  }
+  return 0;
 }
 
 HWND MainForm::Control(int key) const {

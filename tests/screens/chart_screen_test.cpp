@@ -258,7 +258,7 @@ class OrderCanvas final : public Canvas {
   void SetFont(const Font& font) override { font_ = font; }
   void SetTextColour(Colour) override {}
   void SetPen(const Pen& pen) override { pen_ = pen; }
-  void DrawText(Point, std::string_view) override { order += font_ == kDay ? "d" : ""; }
+  void WriteText(Point, std::string_view) override { order += font_ == kDay ? "d" : ""; }
   void DrawPolyline(std::span<const Point>) override { order += pen_.width == 3 ? "L" : ""; }
 
   std::string order;

@@ -80,6 +80,18 @@ TEST(MainWindowControlsTest, OnlyTheGroupBoxesHaveNoEdge) {
   }
 }
 
+TEST(MainWindowControlsTest, WhatCanBeTypedIsWhatIsRead) {
+  std::map<int, std::size_t> limits = {{101, 29}, {104, 29}, {105, 29}, {111, 4},
+                                       {128, 30}, {160, 8},  {181, 10}};
+  for (int id = 166; id <= 173; ++id) limits[id] = 5;
+  for (const ControlRow& control : MainWindowControls()) {
+    const bool is_line = control.control_class == ControlClass::kEdit &&
+                         (control.style & control_style::kMultiLine) == 0;
+    EXPECT_EQ(limits.contains(control.id), is_line) << control.id;
+    EXPECT_EQ(control.limit, is_line ? limits[control.id] : 0U) << control.id;
+  }
+}
+
 TEST(MainWindowControlsTest, OnlyFiguresWithMoreDigitsThanRoomAreSmall) {
   const std::set<int> small = {116, 117, 118, 129, 130, 131, 132, 142, 143,
                                144, 163, 164, 180, 183, 184, 185, 186};

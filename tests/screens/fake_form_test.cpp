@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -31,6 +32,33 @@ TEST_F(FakeFormTest, SortedListsIgnoreCase) {
     EXPECT_EQ(form_.Items(id),
               (std::vector<std::string>{"apple pie", "Apples", "APRICOTS", "figs", "pears"}));
   }
+}
+
+TEST_F(FakeFormTest, OnlyWhatIsTypedStopsAtTheLimit) {
+  form_.LimitText(128, 3);
+  form_.Type(128, "12345");
+  EXPECT_EQ(form_.Text(128), "123");
+  form_.SetText(128, "12345");
+  EXPECT_EQ(form_.Text(128), "12345");
+}
+
+TEST_F(FakeFormTest, EditsTellOfTheFocusThatComesAndGoes) {
+  form_.Focus(128);
+  form_.MoveFocusTo(126);  // a list box tells nothing
+  form_.MoveFocusTo(101);
+  EXPECT_EQ(heard_, (Notifications{{128, kEditEntered}, {128, kEditLeft}, {101, kEditEntered}}));
+}
+
+TEST_F(FakeFormTest, AnItemThatGoesLeavesTheSelectionOnItsText) {
+  for (const char* const item : {"apples", "figs", "pears"}) form_.AddItem(109, item);
+  form_.SelectItem(109, 1);
+  form_.RemoveItem(109, 0);
+  EXPECT_EQ(form_.SelectedText(109), "figs");
+  form_.RemoveItem(109, 0);
+  EXPECT_EQ(form_.SelectedText(109), std::nullopt);
+  form_.RemoveItem(109, 5);
+  form_.RemoveItem(109, -1);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"pears"}));
 }
 
 TEST_F(FakeFormTest, FillingAndClearingAnnounceNothing) {
@@ -76,6 +104,21 @@ TEST_F(FakeFormTest, TheSelectionStaysOnItsItem) {
   form_.AddItem(109, "figs");
   form_.AddItem(109, "plums");
   EXPECT_EQ(form_.SelectedText(109), "pears");
+}
+
+TEST_F(FakeFormTest, FillingReplacesAndAddingAdds) {
+  const std::vector<std::string_view> fruits = {"pears", "figs"};
+  form_.AddItem(109, "plums");
+  form_.Choose(109, "plums");
+  form_.AddItems(109, fruits);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"figs", "pears", "plums"}));
+  EXPECT_EQ(form_.SelectedText(109), "plums");
+  form_.FillItems(109, fruits);
+  EXPECT_EQ(form_.Items(109), (std::vector<std::string>{"figs", "pears"}));
+  EXPECT_EQ(form_.SelectedText(109), std::nullopt);
+  EXPECT_EQ(form_.Fills(109), 3);
+  form_.FillItems(109, {});
+  EXPECT_EQ(form_.ItemCount(109), 0);
 }
 
 TEST_F(FakeFormTest, ReadsNoMoreThanTheLimit) {

@@ -224,12 +224,12 @@ TEST(MeasureTest, TakesTheWorstPixelUnderATextAndALine) {
   const Picture picture("bmi2.bmp");
   RecordingCanvas canvas;
   canvas.SetFont({14, 0, false});
-  canvas.DrawText({10, 2}, "on the band");
-  canvas.DrawText({290, 100}, "over the edge of a sheet");
-  canvas.DrawText({790, 100}, "outside");
-  canvas.DrawText({810, 100}, "outside");
-  canvas.DrawText({10, 100}, "  ");
-  canvas.DrawText({10, 9}, "over the edge of the band");
+  canvas.WriteText({10, 2}, "on the band");
+  canvas.WriteText({290, 100}, "over the edge of a sheet");
+  canvas.WriteText({790, 100}, "outside");
+  canvas.WriteText({810, 100}, "outside");
+  canvas.WriteText({10, 100}, "  ");
+  canvas.WriteText({10, 9}, "over the edge of the band");
   canvas.DrawLine({10, 100}, {300, 100});
   canvas.DrawLine({10, 100}, {330, 100});
   const std::vector<Mark> marks = MeasureMarks(canvas, picture);

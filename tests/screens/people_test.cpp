@@ -40,7 +40,7 @@ TEST_F(PeopleTest, AddedUsersGetTheirFilesAtOnceAndTheirEntryOnOk) {
   EXPECT_EQ(files, (Texts{"cwiczenia.ASC", "info.ASC", "mirvo.ASC", "waga.ASC", "whr.ASC",
                           "wykoda.txt", "wykwag.txt", "zestaw.ASC"}));
   users_.Press(1);
-  EXPECT_EQ(users_.Log(), (Texts{"close"}));
+  EXPECT_EQ(users_.Log(), (Texts{"focus 701", "close"}));
   EXPECT_EQ(Registry(), "adam\r\nZoe");
 }
 
@@ -67,6 +67,7 @@ TEST_F(PeopleTest, ANameNeedsASign) {
   ASSERT_EQ(boxes_.shown.size(), 1U);
   EXPECT_EQ(boxes_.shown[0].text, "The name of the user must\ncontain at least 1 sign");
   EXPECT_EQ(boxes_.shown[0].caption, "ERROR!");
+  EXPECT_EQ(boxes_.shown[0].icon, MessageIcon::kInformation);
   EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kNone);
   EXPECT_EQ(users_.ItemCount(700), 0);
 }
@@ -109,10 +110,65 @@ TEST_F(PeopleTest, ARegisteredNameIsTakenAgainAndItsFilesBecomeEmpty) {
   EXPECT_EQ(folder_.Read("Ann/waga.ASC"), "");
 }
 
+// The platform has one folder for both.
+TEST_F(PeopleTest, ANameThatDiffersInCaseAloneIsRefused) {
+  Start();
+  Register("Zoe");
+  Register("\xA3ukasz");
+  folder_.Write("Zoe/waga.ASC", "hers");
+  OpenUsers();
+  const std::string refusal = "The name differs only in small and capital\nletters from ";
+  EXPECT_EQ(Add("zoe"), (Texts{refusal + "Zoe"}));
+  EXPECT_EQ(Add("ZOE"), (Texts{refusal + "Zoe"}));
+  EXPECT_EQ(Add("\xB3UKASZ"), (Texts{refusal + "\xA3ukasz"}));
+  EXPECT_EQ(users_.ItemCount(700), 2);
+  EXPECT_EQ(users_.Text(701), "\xB3UKASZ");
+  EXPECT_EQ(folder_.Read("Zoe/waga.ASC"), "hers");
+  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "users.ASC", "\xA3ukasz"}));
+}
+
+TEST_F(PeopleTest, AFolderThatNobodyIsRegisteredForCountsToo) {
+  std::filesystem::create_directory(folder_.path() + "Zoe");
+  folder_.Write("Zoe/waga.ASC", "hers");
+  folder_.Write("ADAM", "no folder");
+  Start();
+  OpenUsers();
+  EXPECT_EQ(Add("zoe"), (Texts{"The name differs only in small and capital\nletters from Zoe"}));
+  EXPECT_EQ(folder_.Read("Zoe/waga.ASC"), "hers");
+  EXPECT_EQ(Add("adam"), Texts{});
+  EXPECT_EQ(Add("Zoe"), Texts{});
+}
+
+TEST_F(PeopleTest, EnterInTheNameAddsItAndElsewhereIsOk) {
+  Start();
+  Register("Bob");
+  OpenUsers();
+  users_.Type(701, "Ann");
+  users_.PressEnter();
+  EXPECT_EQ(users_.Items(700), (Texts{"Ann", "Bob"}));
+  EXPECT_EQ(users_.Text(701), "");
+  // A selection fills the name; nobody is added again, and made empty, by leaving.
+  users_.MoveFocusTo(700);
+  users_.Choose(700, "Bob");
+  users_.PressEnter();
+  EXPECT_EQ(users_.Log(), (Texts{"focus 701", "close"}));
+  EXPECT_EQ(Registry(), "Ann\r\nBob");
+}
+
+TEST_F(PeopleTest, EnterInAnEmptyNameIsOk) {
+  Start();
+  OpenUsers();
+  users_.Type(701, "A");
+  users_.Type(701, "");
+  users_.PressEnter();
+  EXPECT_EQ(users_.Log(), (Texts{"focus 701", "close"}));
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
+}
+
 TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   Start();
   Register("Ann");
-  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt", "bilans.ASC.new"}) {
+  for (const char* const file : {"zapot.ASC", "bilans.ASC", "erg.txt"}) {
     folder_.Write(std::string("Ann/") + file, "x");
   }
   OpenUsers();
@@ -130,6 +186,32 @@ TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
   users_.Press(1);
   EXPECT_EQ(Registry(), "");
+}
+
+// The box has no owner: the dialog behind it can be used.
+TEST_F(PeopleTest, TheQuestionIsAboutTheNameAndTheEntryItWasAskedFor) {
+  Start();
+  for (const char* const name : {"Ann", "Cid"}) Register(name);
+  OpenUsers();
+  users_.Choose(700, "Ann");
+  boxes_.while_open = [this] { users_.Choose(700, "Cid"); };
+  users_.Press(703);
+  EXPECT_EQ(users_.Items(700), (Texts{"Cid"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Cid", "users.ASC"}));
+}
+
+TEST_F(PeopleTest, AUserAddedBehindTheQuestionDoesNotLeaveTheListInsteadOfTheRemovedOne) {
+  Start();
+  for (const char* const name : {"Bob", "Cid"}) Register(name);
+  OpenUsers();
+  users_.Choose(700, "Bob");
+  boxes_.while_open = [this] {
+    users_.SetText(701, "Ann");
+    users_.Press(702);
+  };
+  users_.Press(703);
+  EXPECT_EQ(users_.Items(700), (Texts{"Ann", "Cid"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "Cid", "users.ASC"}));
 }
 
 TEST_F(PeopleTest, NoRemovesNothing) {
@@ -211,7 +293,7 @@ TEST_F(PeopleTest, AListThatCannotBeWrittenKeepsTheDialogOpen) {
   Add("Ann");
   users_.Press(1);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{"The list of users could not be written"}));
-  EXPECT_EQ(users_.Log(), Texts{});
+  EXPECT_EQ(users_.Log(), (Texts{"focus 701"}));
 }
 
 TEST_F(PeopleTest, AListThatCouldNotBeReadIsNotOverwritten) {

@@ -16,7 +16,8 @@ constexpr std::uint32_t kPlain = control_style::kPlain;
 const std::string kTooShort = "ATTENTION! The name of product must be 4-signs long miniumum!";
 const std::string kIncomplete = "Product wasn`t added to database\nSome data are incorrect";
 const std::string kLetters =
-    "Product was NOT added to database\nCheck your data. There might be letters instead of numbers";
+    "New product was NOT added to database\nCheck your data. There might be letters instead of "
+    "numbers";
 const std::string kAdded = "New product was added to database";
 
 class AddProductTest : public ProgramTest {
@@ -99,6 +100,46 @@ TEST_F(AddProductTest, TheNewProductIsInTheListsAtOnce) {
   form_.Choose(125, "fresh");
   form_.Choose(126, "apple pie");
   EXPECT_EQ(form_.Text(129), "237");
+}
+
+// The lists of both screens, with a product selected in each.
+TEST_F(AddProductTest, TheListsThatShowItsSubcategoryGetItAndKeepTheirSelection) {
+  Open();
+  struct {
+    int command, main_category, subcategory, products;
+  } const screens[] = {{236, 108, 110, 109}, {231, 124, 125, 126}};
+  for (const auto& screen : screens) {
+    ProgramTest::Open(screen.command);
+    form_.Choose(screen.main_category, "fruits");
+    form_.Choose(screen.subcategory, "fresh");
+    form_.Choose(screen.products, "apples");
+  }
+  FillIn("Aaa Pie");
+  PressAdd();
+  for (const auto& screen : screens) {
+    EXPECT_EQ(form_.Items(screen.products).front(), "aaa pie") << screen.command;
+    EXPECT_EQ(form_.SelectedText(screen.products), "apples") << screen.command;
+    form_.Choose(screen.main_category, "fish");
+  }
+  FillIn("Aab Pie");
+  PressAdd();
+  EXPECT_EQ(form_.ItemCount(126), 0);  // no subcategory is chosen
+}
+
+TEST_F(AddProductTest, WhatCanBeTypedCanBeRemovedAgain) {
+  Open();
+  FillIn("");
+  dialog_.Type(734, std::string(80, 'n'));
+  dialog_.Type(736, std::string(40, '1'));
+  EXPECT_EQ(PressAdd(), (Texts{kAdded}));
+  EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;" + std::string(59, 'n') + ";100;237;" +
+                                          std::string(29, '1') + ";11;34.0;\r\n");
+  FakeForm remove;
+  remove.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
+  OpenDialog(241, remove);
+  remove.Choose(739, std::string(59, 'n'));
+  remove.Press(1);
+  EXPECT_EQ(folder_.Read("data.txt"), "");
 }
 
 TEST_F(AddProductTest, AShortNameShowsTwoMessagesAndReloads) {
@@ -307,6 +348,34 @@ TEST_F(RemoveProductTest, TheProductIsGoneFromTheListsAtOnce) {
   form_.Choose(124, "fruits");
   form_.Choose(125, "fresh");
   EXPECT_EQ(form_.ItemCount(126), 29);
+}
+
+// The dialog behind the question can be used.
+TEST_F(RemoveProductTest, WhatIsSelectedWhenTheQuestionIsAnsweredGoes) {
+  folder_.Write("data.txt", kPie + kFig);
+  Open();
+  dialog_.Choose(739, "apple pie");
+  boxes_.while_open = [this] { dialog_.Choose(739, "figs"); };
+  dialog_.Press(1);
+  EXPECT_EQ(folder_.Read("data.txt"), kPie);
+  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie"}));
+}
+
+TEST_F(RemoveProductTest, AListThatShowsItLosesItAndItsSelection) {
+  folder_.Write("data.txt", kPie + kFig);
+  Open();
+  ProgramTest::Open(231);
+  form_.Choose(124, "fruits");
+  form_.Choose(125, "fresh");
+  form_.Choose(126, "apple pie");
+  dialog_.Choose(739, "figs");
+  dialog_.Press(1);
+  EXPECT_EQ(form_.SelectedText(126), "apple pie");
+  dialog_.Choose(739, "apple pie");
+  dialog_.Press(1);
+  EXPECT_EQ(form_.SelectedText(126), std::nullopt);
+  EXPECT_EQ(std::ranges::count(form_.Items(126), "apple pie"), 0);
+  EXPECT_EQ(form_.Text(129), "237");
 }
 
 TEST_F(RemoveProductTest, NoRemovesNothing) {

@@ -123,6 +123,62 @@ TEST_F(ProfileDialogTest, AProfileThatCannotBeReadIsNotOverwritten) {
   EXPECT_EQ(boxes_.TakeTexts(), Texts{});
 }
 
+TEST_F(ProfileDialogTest, AFolderThatIsGoneIsMadeAgainAndTheProfileSaved) {
+  Start();
+  Register("Ann");
+  std::filesystem::remove_all(folder_.path() + "Ann");
+  LogIn("Ann");
+  Open(252);
+  OpenProfile();
+  profile_.SetText(704, "35");
+  profile_.SetText(705, "170");
+  profile_.Choose(706, "women");
+  profile_.Choose(707, "low");
+  boxes_.TakeTexts();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
+  EXPECT_EQ(profile_.Log(), (Texts{"close"}));
+  EXPECT_EQ(program_->session().screen, 0);
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "35\r\n170\r\nwomen\r\nlow\r\n0");
+}
+
+// A file lies where the folder would be made.
+TEST_F(ProfileDialogTest, AProfileThatHasNoPlaceCountsForTheSession) {
+  Start();
+  Register("Ann");
+  std::filesystem::remove_all(folder_.path() + "Ann");
+  folder_.Write("Ann", "in the way");
+  LogIn("Ann");
+  OpenProfile();
+  profile_.SetText(704, "35");
+  profile_.SetText(705, "170");
+  profile_.Choose(706, "women");
+  profile_.Choose(707, "low");
+  boxes_.TakeTexts();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts(), Texts{});
+  EXPECT_EQ(profile_.Log(), (Texts{"close"}));
+  EXPECT_EQ(folder_.Read("Ann"), "in the way");
+  Open(232);
+  EXPECT_EQ(form_.Text(120), "2100-2300");
+}
+
+// As one on a stick that was pulled out and put back.
+TEST_F(ProfileDialogTest, AFolderThatComesBackKeepsItsProfile) {
+  Start();
+  Register("Ann");
+  LogIn("Ann");
+  folder_.Write("Ann/info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
+  std::filesystem::rename(folder_.path() + "Ann", folder_.path() + "away");
+  OpenProfile();
+  std::filesystem::rename(folder_.path() + "away", folder_.path() + "Ann");
+  boxes_.TakeTexts();
+  profile_.Press(1);
+  EXPECT_EQ(boxes_.TakeTexts().size(), 1U);
+  EXPECT_EQ(profile_.Log(), Texts{});
+  EXPECT_EQ(folder_.Read("Ann/info.ASC"), "35\r\n170\r\nwomen\r\nlow\r\nnone");
+}
+
 TEST_F(ProfileDialogTest, OnlyAPressOfOkSavesAndCancelDoesNot) {
   Start();
   Register("Ann");

@@ -229,15 +229,15 @@ TEST_F(RecordDialogTest, OnlyAPressSaves) {
   EXPECT_TRUE(whr_.Log().empty());
 }
 
-TEST_F(RecordDialogTest, ASaveGoesToWhomeverIsLoggedInByThen) {
+TEST_F(RecordDialogTest, ALogoutClosesBothAsCancelDoes) {
   LogIn(kMan);
   OpenWeight();
-  const std::unique_ptr<Dialog> open = std::move(window_.opened);
-  LogIn(kMan, "Zoe");
-  open->OnCommand(weight_, kSave, kButtonClicked);
+  OpenWhr();
+  program_->OnCommand(201, kButtonClicked);
+  EXPECT_EQ(weight_.Log(), (Texts{"close"}));
+  EXPECT_EQ(whr_.Log(), (Texts{"close"}));
   EXPECT_EQ(WeightReport(), "(missing)");
-  EXPECT_NE(folder_.Read("Zoe/waga.ASC"), "(missing)");
-  EXPECT_NE(folder_.Read("Zoe/wykwag.txt"), "(missing)");
+  EXPECT_EQ(WhrReport(), "(missing)");
 }
 
 }  // namespace

@@ -28,10 +28,18 @@ bool FakeForm::Control::IsSorted() const {
          (control_class == ControlClass::kComboBox && (style & control_style::kSortedCombo) != 0);
 }
 
+void FakeForm::Control::Insert(const std::string& item) {
+  const auto place = IsSorted() ? std::ranges::lower_bound(items, item, ComesBefore) : items.end();
+  const auto index = place - items.begin();
+  items.insert(place, item);
+  if (selection >= index) ++selection;
+}
+
 void FakeForm::AddMainWindowControls() {
   for (const ControlRow& row : MainWindowControls()) {
     const bool taken = controls_.contains(row.id);
     AddControl(taken ? SecondControl(row.id) : row.id, row.control_class, row.style);
+    if (row.limit > 0) LimitText(row.id, row.limit);
   }
 }
 
@@ -52,7 +60,7 @@ void FakeForm::Type(int id, const std::string& text) {
   Control* const control = Find(id);
   ASSERT_NE(control, nullptr) << "no control " << id;
   // Typing changes the text character by character, and each change is announced.
-  for (std::size_t length = 0; length <= text.size(); ++length) {
+  for (std::size_t length = 0; length <= std::min(text.size(), control->limit); ++length) {
     control->text = text.substr(0, length);
     Notify(id, kEditUpdated);
     Notify(id, kEditChanged);
@@ -61,7 +69,21 @@ void FakeForm::Type(int id, const std::string& text) {
 
 void FakeForm::Press(int id) { Notify(id, kButtonClicked); }
 
+void FakeForm::PressEnter() { Press(default_button_); }
+
+void FakeForm::MoveFocusTo(int id) {
+  const auto is_edit = [this](int key) {
+    const Control* const control = Find(key);
+    return control != nullptr && control->control_class == ControlClass::kEdit;
+  };
+  const int left = std::exchange(focused_, id);
+  if (is_edit(left)) Notify(left, kEditLeft);
+  if (is_edit(id)) Notify(id, kEditEntered);
+}
+
 const std::vector<std::string>& FakeForm::Items(int id) const { return Find(id)->items; }
+
+int FakeForm::Fills(int id) const { return Find(id)->fills; }
 
 std::set<int> FakeForm::ShownKeys() const {
   std::set<int> keys;
@@ -92,21 +114,26 @@ void FakeForm::SetText(int id, std::string_view text) {
   }
 }
 
+void FakeForm::LimitText(int id, std::size_t limit) {
+  Control* const control = Find(id);
+  if (control != nullptr) control->limit = limit;
+}
+
 int FakeForm::ItemCount(int id) const {
   const Control* const control = Find(id);
   return control == nullptr ? 0 : static_cast<int>(control->items.size());
 }
 
-void FakeForm::AddItem(int id, std::string_view text) {
+void FakeForm::FillItems(int id, std::span<const std::string_view> texts) {
+  ClearItems(id);
+  AddItems(id, texts);
+}
+
+void FakeForm::AddItems(int id, std::span<const std::string_view> texts) {
   Control* const control = Find(id);
   if (control == nullptr) return;
-  const std::string item(text);
-  const auto place = control->IsSorted()
-                         ? std::ranges::lower_bound(control->items, item, ComesBefore)
-                         : control->items.end();
-  const auto index = place - control->items.begin();
-  control->items.insert(place, item);
-  if (control->selection >= index) ++control->selection;
+  for (const std::string_view text : texts) control->Insert(std::string(text));
+  ++control->fills;
 }
 
 void FakeForm::ClearItems(int id) {
@@ -132,13 +159,22 @@ std::optional<std::string> FakeForm::SelectedText(int id) const {
 }
 
 void FakeForm::RemoveSelectedItem(int id) {
-  Control* const control = Find(id);
-  if (control == nullptr || control->selection < 0) return;
-  control->items.erase(control->items.begin() + control->selection);
-  control->selection = -1;
+  const Control* const control = Find(id);
+  if (control != nullptr) RemoveItem(id, control->selection);
 }
 
-void FakeForm::Focus(int id) { log_.push_back("focus " + std::to_string(id)); }
+void FakeForm::RemoveItem(int id, int index) {
+  Control* const control = Find(id);
+  if (control == nullptr || index < 0 || index >= ItemCount(id)) return;
+  control->items.erase(control->items.begin() + index);
+  if (control->selection == index) control->selection = -1;
+  if (control->selection > index) --control->selection;
+}
+
+void FakeForm::Focus(int id) {
+  log_.push_back("focus " + std::to_string(id));
+  MoveFocusTo(id);
+}
 
 void FakeForm::Scroll(int id, ScrollStep step) {
   Control* const control = Find(id);

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/dialog.h"
 #include "base/form.h"
 #include "shell/controls.h"
 
@@ -35,27 +36,38 @@ class FakeForm final : public Form {
   void Choose(int id, const std::string& item);
   void Type(int id, const std::string& text);
   void Press(int id);
+  void PressEnter();  // in a dialog: presses its default button
+  void MoveFocusTo(int id);
 
   // What a person sees.
   std::string Text(int id) const { return ReadText(id, std::string::npos); }
   const std::vector<std::string>& Items(int id) const;
   std::set<int> ShownKeys() const;
+  // How often the list was filled or added to: every time, a person sees it drawn.
+  int Fills(int id) const;
   // Of a multi-line edit, counted from 0. It shows kVisibleLines of them.
   int FirstVisibleLine(int id) const;
   static constexpr int kVisibleLines = 30;
+  // The fields in which a typed comma is a point.
+  const std::set<int>& NumberFields() const { return number_fields_; }
   // Moves of the focus and closings, in order.
   const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
+  void LimitText(int id, std::size_t limit) override;
+  void TakeNumbers(int id) override { number_fields_.insert(id); }
   int ItemCount(int id) const override;
-  void AddItem(int id, std::string_view text) override;
+  void FillItems(int id, std::span<const std::string_view> texts) override;
+  void AddItems(int id, std::span<const std::string_view> texts) override;
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
+  void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SetDefaultButton(int id) override { default_button_ = id; }
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
   void HideAll() override;
@@ -67,11 +79,14 @@ class FakeForm final : public Form {
     std::uint32_t style;
     std::string text;
     std::vector<std::string> items;
+    int fills = 0;
     int selection = -1;
+    std::size_t limit = std::string::npos;  // of what can be typed
     int first_line = 0;
     bool shown = false;
 
     bool IsSorted() const;
+    void Insert(const std::string& item);
   };
 
   Control* Find(int key);
@@ -79,6 +94,9 @@ class FakeForm final : public Form {
   void Notify(int id, int notification);
 
   std::map<int, Control> controls_;
+  int focused_ = 0;
+  int default_button_ = kOkButton;
+  std::set<int> number_fields_;
   std::vector<std::string> log_;
   Listener listener_;
 };

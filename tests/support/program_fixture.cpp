@@ -4,6 +4,31 @@
 
 namespace velnor {
 
+void FakeMainWindow::OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
+  OpenDialog(resource_id, std::move(dialog));
+  session_dialogs.push_back({.dialog = opened});
+}
+
+void FakeMainWindow::CloseSessionDialogs() {
+  const std::vector<SessionDialog> open = std::exchange(session_dialogs, {});
+  for (const auto& [dialog, form] : open) {
+    if (form != nullptr) dialog->OnCommand(*form, kCancelButton, kButtonClicked);
+  }
+}
+
+void FakeMainWindow::UseForm(FakeForm& form) {
+  const auto of_session = std::ranges::find(session_dialogs, opened, &SessionDialog::dialog);
+  if (of_session != session_dialogs.end()) of_session->form = &form;
+  const std::weak_ptr<Dialog> dialog = opened;
+  form.SetListener([this, dialog, &form](int id, int notification) {
+    const std::shared_ptr<Dialog> open = dialog.lock();
+    if (open == nullptr) return;
+    open->OnCommand(form, id, notification);
+    const bool is_closed = std::ranges::find(form.Log(), "close") != form.Log().end();
+    if (is_closed) std::erase_if(session_dialogs, [&](const auto& of) { return of.dialog == open; });
+  });
+}
+
 void FakeMainWindow::RunDialog(int resource_id, Dialog& dialog) {
   // The person presses OK at once.
   FakeForm form;
@@ -16,6 +41,7 @@ void FakeMainWindow::RunDialog(int resource_id, Dialog& dialog) {
 ProgramTest::ProgramTest() { form_.AddMainWindowControls(); }
 
 Program& ProgramTest::Start(const std::string& date) {
+  window_.session_dialogs.clear();
   Program& program = program_.emplace(folder_.path(), date, form_, window_, boxes_);
   form_.SetListener([&program](int id, int notification) { program.OnCommand(id, notification); });
   program.Start();
@@ -38,10 +64,8 @@ RecordingCanvas ProgramTest::Open(int command) {
 void ProgramTest::OpenDialog(int command, FakeForm& form) {
   program_->OnCommand(command, kButtonClicked);
   ASSERT_NE(window_.opened, nullptr) << "command " << command << " opened no dialog";
-  Dialog& dialog = *window_.opened;
-  form.SetListener(
-      [&dialog, &form](int id, int notification) { dialog.OnCommand(form, id, notification); });
-  dialog.OnOpen(form);
+  window_.UseForm(form);
+  window_.opened->OnOpen(form);
 }
 
 void ProgramTest::LogIn(const std::string& name, const std::string& profile) {

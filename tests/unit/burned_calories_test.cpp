@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text_file.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -342,7 +343,7 @@ TEST_F(BurnedTotalTest, WithoutTheFolderNothingIsKept) {
 // Nothing can be written into the folder: the file keeps what it holds.
 TEST_F(BurnedTotalTest, AReadOnlyFileKeepsItsBytes) {
   Write("6.3.2008;120;");
-  std::filesystem::create_directory(Path() + ".new");
+  std::filesystem::create_directory(TemporaryPath(Path()));
   EXPECT_EQ(total_.RefreshForToday(), "120");
   EXPECT_EQ(total_.RefreshForToday(), "120");
   EXPECT_EQ(total_.Add("9"), "129.");

@@ -98,9 +98,11 @@ TEST(ParseNumberTest, ReadsTheLeadingNumber) {
 
 TEST(ParseNumberTest, TakesWhatIsNoNumberForZero) {
   for (const char* const text : {"", " ", "abc", "???", "-", "+", ".", "-.", "+-1", "--1", "   -",
-                                 "e5", "nan", "inf", "-infinity", "NaN(1)"}) {
+                                 "e5", "nan", "inf", "-infinity", "NaN(1)", "-x", "--"}) {
     EXPECT_EQ(ParseNumber(text), 0.0) << text;
+    EXPECT_FALSE(std::signbit(ParseNumber(text))) << text;
   }
+  EXPECT_TRUE(std::signbit(ParseNumber("-0")));
   EXPECT_EQ(ParseNumber("0x1p4"), 0);  // the 0 before the x
 }
 
@@ -204,6 +206,28 @@ TEST(TruncateTwoDecimalsTest, CountsInSinglePrecision) {
 TEST(TruncateTwoDecimalsTest, TakesNumbersOfAnySize) {
   EXPECT_EQ(TruncateTwoDecimals("1e30"), 1e30F);
   EXPECT_EQ(FormatNumber(TruncateTwoDecimals("1e40"), 6), "nan");
+}
+
+TEST(FormatFixedTest, HasExactlyTheDecimalsAskedFor) {
+  EXPECT_EQ(FormatFixed(70, 0), "70");
+  EXPECT_EQ(FormatFixed(1.745, 1), "1.7");
+  EXPECT_EQ(FormatFixed(-0.5, 3), "-0.500");
+  EXPECT_EQ(FormatFixed(1e30, 0), "1000000000000000019884624838656");
+  EXPECT_EQ(FormatFixed(1, -3), "1");
+  EXPECT_EQ(FormatFixed(1, 30), "1.000000000");
+}
+
+TEST(FormatFixedTest, ZeroHasNoSign) {
+  EXPECT_EQ(FormatFixed(-0.0, 0), "0");
+  EXPECT_EQ(FormatFixed(-0.04, 1), "0.0");
+  EXPECT_EQ(FormatFixed(-0.06, 1), "-0.1");
+}
+
+TEST(FormatFixedTest, WhatIsNotFiniteIsAWord) {
+  EXPECT_EQ(FormatFixed(std::numeric_limits<double>::infinity(), 2), "inf");
+  EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::infinity(), 2), "-inf");
+  EXPECT_EQ(FormatFixed(std::numeric_limits<double>::quiet_NaN(), 2), "nan");
+  EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::max(), 9).size(), 1 + 309 + 1 + 9);
 }
 
 }  // namespace

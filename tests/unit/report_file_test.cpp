@@ -169,7 +169,7 @@ TEST_F(ReportFileTest, NothingIsCutWhenAnEarlierRestWouldBeLost) {
   const std::string bytes = ReportOf(30'001);
   folder_.Write("waga.ASC", bytes);
   folder_.Write("waga.ASC.rest.txt", "earlier");
-  std::filesystem::create_directory(folder_.path() + "waga.ASC.rest.txt.new");
+  std::filesystem::create_directory(TemporaryPath(folder_.path() + "waga.ASC.rest.txt"));
   EXPECT_FALSE(SaveAsShown());
   EXPECT_EQ(File(), bytes);
   EXPECT_EQ(Rest(), "earlier");

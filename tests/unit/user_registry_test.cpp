@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text_file.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -283,7 +284,7 @@ TEST_F(UserFilesTest, CreatingAUserAgainEmptiesTheEight) {
 
 TEST_F(UserFilesTest, CreatingAUserLeavesNothingOfInterruptedWrites) {
   MakeUser("Ann");
-  for (const std::string& file : kFirstFiles) folder_.Write("Ann/" + file + ".new", "half");
+  for (const std::string& file : kFirstFiles) folder_.Write(TemporaryPath("Ann/" + file), "half");
   CreateUserFiles(session_, "Ann");
   EXPECT_EQ(NamesIn("Ann"), kAllFiles);
 }
@@ -322,8 +323,10 @@ TEST_F(UserFilesTest, AnyOtherFileKeepsTheFolder) {
 
 TEST_F(UserFilesTest, DeletingAUserTakesWhatInterruptedWritesLeft) {
   MakeUser("Ann");
-  for (const std::string& file : kAllFiles) folder_.Write("Ann/" + file + ".new", "half");
-  for (const char* const file : {"z1.ASC.new", "z2.ASC.new"}) folder_.Write("Ann/"s + file, "half");
+  for (const std::string& file : kAllFiles) folder_.Write(TemporaryPath("Ann/" + file), "half");
+  for (const char* const file : {"Ann/z1.ASC", "Ann/z2.ASC"}) {
+    folder_.Write(TemporaryPath(file), "half");
+  }
   DeleteUserFiles(session_, "Ann");
   EXPECT_FALSE(Exists("Ann"));
 }
@@ -341,7 +344,7 @@ TEST_F(UserFilesTest, DeletingAUserTakesWhatWasKeptBesideTheReports) {
   for (const char* const file :
        {"waga.ASC", "whr.ASC", "mirvo.ASC", "zestaw.ASC", "cwiczenia.ASC"}) {
     folder_.Write("Ann/"s + file + ".rest.txt", "rest");
-    folder_.Write("Ann/"s + file + ".rest.txt.new", "half");
+    folder_.Write(TemporaryPath("Ann/"s + file + ".rest.txt"), "half");
   }
   DeleteUserFiles(session_, "Ann");
   EXPECT_FALSE(Exists("Ann"));
