@@ -68,8 +68,8 @@ int ButtonOfEnter(ScreenId screen, int focused_key) {
   const auto row = std::ranges::find(rows, id, &ControlRow::id);
   if (row == rows.end()) return 0;
   if (row->control_class == ControlClass::kButton) return id;
-  const bool is_field = row->control_class == ControlClass::kEdit &&
-                        (row->style & control_style::kMultiLine) == 0;
+  const bool is_field =
+      row->control_class == ControlClass::kEdit && (row->style & control_style::kMultiLine) == 0;
   const auto* const main = std::ranges::find(kMainButtons, screen, &MainButton::screen);
   return is_field && main != std::end(kMainButtons) ? main->button : 0;
 }

@@ -28,8 +28,8 @@ struct KeyPress {
 bool RunKey(Program& program, const KeyPress& press);
 
 // The button that Enter presses while the control `focused_key` of `screen` has the focus: in a
-// field of one line the main button of the screen, on a button that button. 0: none, then the key is
-// the control's.
+// field of one line the main button of the screen, on a button that button. 0: none, then the key
+// is the control's.
 int ButtonOfEnter(ScreenId screen, int focused_key);
 
 }  // namespace velnor

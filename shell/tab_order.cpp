@@ -41,7 +41,7 @@ Block FindControls(std::span<const int> keys) {
 }
 
 // Cuts the block at the gaps in one direction; `from` and `to` are the bounds in it.
-std::vector<Block> Cut(Block block, int PlacedControl::* from, int PlacedControl::* to) {
+std::vector<Block> Cut(Block block, int PlacedControl::*from, int PlacedControl::*to) {
   std::ranges::stable_sort(block, {}, from);
   std::vector<Block> parts;
   int reached = 0;
@@ -57,8 +57,8 @@ int TopOf(const Block& block) {
   return std::ranges::min_element(block, {}, &PlacedControl::top)->top;
 }
 
-// Of the columns that begin on the line of the highest one, the leftmost is next; they lie from left
-// to right.
+// Of the columns that begin on the line of the highest one, the leftmost is next; they lie from
+// left to right.
 std::vector<Block> InReadingOrder(std::vector<Block> columns) {
   std::vector<Block> ordered;
   while (!columns.empty()) {

@@ -1,8 +1,7 @@
 #include "shell/win32/accessible_names.h"
 
-#include <oleacc.h>
-
 #include <memory>
+#include <oleacc.h>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -29,8 +28,8 @@ struct Releaser {
 };
 using Services = std::unique_ptr<IAccPropServices, Releaser>;
 
-// The library is loaded here and not with the program, which would start the later for it. It stays:
-// the names are kept by what it has made.
+// The library is loaded here and not with the program, which would start the later for it. It
+// stays: the names are kept by what it has made.
 Services OpenServices() {
   const HMODULE library = LoadLibraryExA("ole32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (library == nullptr) return nullptr;

@@ -1,8 +1,7 @@
 #include "shell/win32/guide.h"
 
-#include <shellapi.h>
-
 #include <array>
+#include <shellapi.h>
 #include <string>
 
 namespace velnor {
@@ -33,8 +32,8 @@ Function FindFunction(HMODULE library, const char* name) {
   return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
-// The library is loaded here and not with the program, which would start the later for it. It stays:
-// what it has started may go on in the background.
+// The library is loaded here and not with the program, which would start the later for it. It
+// stays: what it has started may go on in the background.
 bool OpenText(HWND owner, const std::wstring& path) {
   const HMODULE library = LoadLibraryExA("shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (library == nullptr) return false;
@@ -46,9 +45,8 @@ bool OpenText(HWND owner, const std::wstring& path) {
       reinterpret_cast<INT_PTR>(find(path.c_str(), nullptr, reader.data())) > kLastError;
   const std::wstring quoted = L'"' + path + L'"';
   const HINSTANCE result =
-      has_reader
-          ? execute(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL)
-          : execute(owner, L"open", L"notepad.exe", quoted.c_str(), nullptr, SW_SHOWNORMAL);
+      has_reader ? execute(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL)
+                 : execute(owner, L"open", L"notepad.exe", quoted.c_str(), nullptr, SW_SHOWNORMAL);
   return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 

@@ -52,8 +52,8 @@ bool OwnMenus::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) const {
   }
 }
 
-// Edits open a menu of the platform's own and never ask. A click on a list stays without a menu; the
-// keyboard has no other place to click on. The title bar and the menu bar keep what they have.
+// Edits open a menu of the platform's own and never ask. A click on a list stays without a menu;
+// the keyboard has no other place to click on. The title bar and the menu bar keep what they have.
 bool OwnMenus::OnContextMenu(HWND clicked, LPARAM place) const {
   if (OwnMenuItems().empty()) return false;
   if (place == kByKeyboard) {

@@ -57,8 +57,7 @@ bool ScreenKeys::OnKeyDown(const MSG& message) {
 // As in the platform's dialogs the text of a field is selected, so that typing replaces it. That of
 // a report is not.
 void ScreenKeys::MoveFocus(bool backwards) {
-  const int next =
-      NextInTabOrder(TabOrder(form_.UsableKeys()), form_.KeyOf(GetFocus()), backwards);
+  const int next = NextInTabOrder(TabOrder(form_.UsableKeys()), form_.KeyOf(GetFocus()), backwards);
   const HWND control = form_.Find(next);
   if (control == nullptr) return;
   by_keys_ = true;

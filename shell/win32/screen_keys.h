@@ -22,8 +22,8 @@ class ScreenKeys {
   // place of a comma that was typed into a number field.
   bool OnMessage(MSG& message);
 
-  // The frame follows the focus as long as that is moved by keys; a click takes it off. `picture` is
-  // what the window shows around its controls.
+  // The frame follows the focus as long as that is moved by keys; a click takes it off. `picture`
+  // is what the window shows around its controls.
   void UpdateFrame(HDC picture);
   // The window has been painted over: what was drawn around the control is gone.
   void ForgetFrame() { framed_ = nullptr; }
@@ -36,8 +36,8 @@ class ScreenKeys {
   HWND window_;
   MainForm& form_;
   Program& program_;
-  bool by_keys_ = false;     // how the focus was moved last
-  HWND framed_ = nullptr;    // the control with the frame
+  bool by_keys_ = false;   // how the focus was moved last
+  HWND framed_ = nullptr;  // the control with the frame
 };
 
 }  // namespace velnor

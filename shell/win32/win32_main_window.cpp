@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "shell/win32/caption_icon.h"
 #include "shell/win32/accessible_names.h"
+#include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
 #include "shell/win32/fault_barrier.h"
 #include "shell/win32/file_picker.h"
@@ -167,8 +167,8 @@ bool Win32MainWindow::OnMouseWheel(WPARAM wparam) {
   return program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
 }
 
-// The first question of a screen reader, or of a tool like one. What is done about it loads a library
-// and waits until the question is answered.
+// The first question of a screen reader, or of a tool like one. What is done about it loads a
+// library and waits until the question is answered.
 void Win32MainWindow::OnAccessibility() {
   if (!std::exchange(fields_named_, true)) PostMessageA(window_, kNameFields, 0, 0);
 }

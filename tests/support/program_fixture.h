@@ -60,7 +60,7 @@ class FakeMainWindow final : public MainWindow {
   std::vector<std::string> log;
   std::optional<std::string> file_to_choose;  // what the person will choose
   std::function<void()> on_paint_now;
-  std::string guide;                // the file that can be opened as the guide
+  std::string guide;               // the file that can be opened as the guide
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::shared_ptr<Dialog> opened;  // the last one
 
