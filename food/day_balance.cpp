@@ -25,7 +25,7 @@ constexpr int kSeriesDigits = 6;
 // day of thousands, less than 0.0001 with each change. No food counts for so little.
 constexpr double kTotalRest = 1e-3;
 constexpr double kExchangeRest = 1e-4;
-constexpr double kRestDigits = kStoredDigits - 1;  // a rest is no unit of the last of these
+constexpr int kRestDigits = kStoredDigits - 1;  // a rest is less than a unit of the last of these
 
 // The eight characters that are read of an exchange file would take the digits of a figure such as
 // 1.2345678e-05 for the whole of it.
