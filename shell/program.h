@@ -10,7 +10,6 @@
 
 #include "activity/burned_calories.h"
 #include "activity/burned_screen.h"
-#include "food/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -24,6 +23,7 @@
 #include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/day_balance.h"
+#include "food/energy_screen.h"
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
