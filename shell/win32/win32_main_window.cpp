@@ -60,6 +60,7 @@ bool Win32MainWindow::Open(int show_command) {
 int Win32MainWindow::RunMessageLoop() {
   MSG message;
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    if (modeless_dialog_ != nullptr && OfferKey(modeless_dialog_, message)) continue;
     if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) continue;
     // The wheel is the screen's before it is that of the control which has the focus: an edit would
     // scroll as many lines as it likes.
