@@ -223,10 +223,10 @@ TEST(QuickAddTest, AnEmptyFoodShowsWhatIsEatenAtThisTime) {
 // that are none, that are longer than what is weighed with.
 TEST(QuickAddTest, AddsExactlyWhatTheCounterWould) {
   const std::string own =
-      kPie + "fruits;fresh;apple trace;100;52.37;0.04;0.012;13.81;\r\n" +
+      kPie + "fruits;fresh;zesty trace;100;52.37;0.04;0.012;13.81;\r\n" +
       "fruits;fresh;apple without mass;0;52;1;2;3;\r\nfruits;fresh;plain words;a;b;c;d;e;\r\n";
   const std::vector<Texts> products = {{"fruits", "fresh", "apple pie"},
-                                       {"fruits", "fresh", "apple trace"},
+                                       {"fruits", "fresh", "zesty trace"},
                                        {"fruits", "fresh", "apple without mass"},
                                        {"fruits", "fresh", "plain words"},
                                        {"fruits", "frozen", "frozen sour cherries"}};
