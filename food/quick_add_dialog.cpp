@@ -31,7 +31,7 @@ struct Step {
 constexpr Step kSteps[] = {
     {Key::kUp, -1}, {Key::kDown, 1}, {Key::kPageUp, -7}, {Key::kPageDown, 7}};
 
-// As it is typed; half of Europe types a comma.
+// A comma may have been pasted.
 std::string TypedWeight(const Form& form) {
   std::string weight = form.ReadText(kWeight, kListedWeightLimit);
   std::ranges::replace(weight, ',', '.');
@@ -54,6 +54,7 @@ void QuickAddDialog::OnOpen(Form& form) {
   habits_ = EatingHabits(ReadFile(history_path_, kHistoryLimit));
   form.LimitText(kQuery, kQueryLimit);
   form.LimitText(kWeight, kListedWeightLimit);
+  form.TakeNumbers(kWeight);
   Refill(form);
   form.Focus(kQuery);
 }

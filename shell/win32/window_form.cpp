@@ -4,6 +4,7 @@
 #include <array>
 
 #include "shell/win32/list_order.h"
+#include "shell/win32/number_field.h"
 
 namespace velnor {
 namespace {
@@ -156,6 +157,8 @@ void WindowForm::LimitText(int id, std::size_t limit) {
   SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
 }
 
+void WindowForm::TakeNumbers(int id) { MarkNumberField(Control(id)); }
+
 int WindowForm::ItemCount(int id) const {
   const HWND control = Control(id);
   const LRESULT count = SendMessageA(control, MessagesOf(control).count, 0, 0);
@@ -255,6 +258,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.holds_number) MarkNumberField(control);
     if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
@@ -292,6 +296,21 @@ void MainForm::ShowChosen() {
       InvalidateRect(control, nullptr, FALSE);
     }
   }
+}
+
+std::vector<int> MainForm::UsableKeys() const {
+  std::vector<int> keys;
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && IsWindowEnabled(control) != FALSE) keys.push_back(key);
+  }
+  return keys;
+}
+
+int MainForm::KeyOf(HWND control) const {
+  for (const auto& [key, candidate] : controls_by_key_) {
+    if (candidate == control) return key;
+  }
+  return 0;
 }
 
 HWND MainForm::Control(int key) const {
