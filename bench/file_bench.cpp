@@ -49,10 +49,12 @@ class PlainForm final : public Form {
   void ClearItems(int) override {}
   std::string ItemText(int, int) const override { return ""; }
   void SelectItem(int, int) override {}
+  std::optional<int> SelectedItem(int) const override { return std::nullopt; }
   std::optional<std::string> SelectedText(int) const override { return std::nullopt; }
   void RemoveSelectedItem(int) override {}
   void RemoveItem(int, int) override {}
   void Focus(int) override {}
+  void SelectAllText(int) override {}
   void LimitText(int, std::size_t) override {}
   void TakeNumbers(int) override {}
   void SetDefaultButton(int) override {}

@@ -77,6 +77,7 @@ int Win32MainWindow::RunMessageLoop() {
 // What does not go to the control with the focus, and whether it was dealt with here.
 bool Win32MainWindow::TakeFirst(MSG& message) {
   if (screen_keys_->OnMessage(message)) return true;
+  if (modeless_dialog_ != nullptr && OfferKey(modeless_dialog_, message)) return true;
   if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) return true;
   // An edit would scroll as many lines at a turn of the wheel as it likes.
   const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;

@@ -200,11 +200,16 @@ void WindowForm::SelectItem(int id, int index) {
   SendMessageA(control, MessagesOf(control).select, static_cast<WPARAM>(index), 0);
 }
 
-std::optional<std::string> WindowForm::SelectedText(int id) const {
+std::optional<int> WindowForm::SelectedItem(int id) const {
   const HWND control = Control(id);
   const LRESULT selection = SendMessageA(control, MessagesOf(control).selection, 0, 0);
   if (control == nullptr || selection < 0) return std::nullopt;
-  return ItemText(id, static_cast<int>(selection));
+  return static_cast<int>(selection);
+}
+
+std::optional<std::string> WindowForm::SelectedText(int id) const {
+  const std::optional<int> selection = SelectedItem(id);
+  return selection ? std::optional(ItemText(id, *selection)) : std::nullopt;
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
@@ -217,6 +222,8 @@ void WindowForm::RemoveItem(int id, int index) {
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
+
+void WindowForm::SelectAllText(int id) { SendMessageA(Control(id), EM_SETSEL, 0, -1); }
 
 void WindowForm::SetDefaultButton(int id) {
   SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
