@@ -17,9 +17,7 @@ namespace {
 constexpr std::string_view kTemporaryMark = ".velnor-";
 constexpr std::string_view kTemporaryEnding = ".new";
 
-File Open(const std::string& path, const char* mode) {
-  return File(path.empty() ? nullptr : OpenFile(path, mode));
-}
+File Open(const std::string& path, const char* mode) { return File(OpenFile(path, mode)); }
 
 bool IsTemporaryName(std::string_view name) {
   const std::size_t mark = name.rfind(kTemporaryMark);
@@ -31,7 +29,7 @@ bool IsTemporaryName(std::string_view name) {
 
 bool WriteTemporary(const std::string& path, std::string_view bytes) {
   // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (path.empty() || IsWriteProtected(path)) return false;
+  if (IsWriteProtected(path)) return false;
   return WriteNewFile(TemporaryPath(path), bytes);
 }
 
@@ -51,7 +49,7 @@ struct OldFile {
 
 void Restore(const OldFile& old) {
   if (old.existed) {
-    ReplaceFile(old.path, old.bytes);
+    PassOver(ReplaceFile(old.path, old.bytes));
   } else {
     RemoveFile(old.path);
   }
@@ -60,7 +58,6 @@ void Restore(const OldFile& old) {
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
-  if (path.empty()) return "";
   errno = 0;
   const File file = Open(path, "rb");
   if (!file) {

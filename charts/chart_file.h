@@ -16,9 +16,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kWeightSeriesFile = "wykwag.txt";    // date;weight;BMI;
-inline constexpr std::string_view kNutrientSeriesFile = "wykoda.txt";  // date;kcal;P;F;C;
-
 inline constexpr std::size_t kChartSlots = 22;
 
 // The lines of a series in the order of the file, without line ends.
@@ -43,8 +40,8 @@ std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_v
                                           std::span<const std::string> fields);
 
 // Writes that. False when the file keeps what it held, which is not reported to anyone.
-bool UpdateChartFile(const std::string& path, std::string_view date,
-                     std::span<const std::string> fields);
+[[nodiscard]] bool UpdateChartFile(const std::string& path, std::string_view date,
+                                   std::span<const std::string> fields);
 
 }  // namespace velnor
 

@@ -99,10 +99,10 @@ void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
 
 ChartSeries LoadSeries(const Chart& chart, const SessionState& session) {
   // Without a user there is no folder that a series could lie in.
-  if (session.user_name.empty()) return {};
-  const std::string path = session.UserFile(chart.file);
+  if (!session.user) return {};
+  const std::string path = session.user->File(chart.file);
   ChartSeries series = LoadChartFile(path);
-  if (series.file_is_empty) AppendToFile(path, "");  // makes it when it is missing
+  if (series.file_is_empty) PassOver(AppendToFile(path, ""));  // makes it when it is missing
   return series;
 }
 

@@ -9,6 +9,7 @@
 #include "diary/spreadsheet.h"
 #include "diary/weight_trend.h"
 #include "users/history_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -55,10 +56,10 @@ DiaryFiles MakeDiary(const DiaryInputs& inputs) {
           .deeds = DeedsSpreadsheet(content.table)};
 }
 
-bool WriteDiary(const SessionState& session, const DiaryFiles& files) {
-  const std::array<FileBytes, 3> written = {{{session.UserFile(kDiaryPageFile), files.page},
-                                             {session.UserFile(kDiaryDaysFile), files.days},
-                                             {session.UserFile(kDiaryDeedsFile), files.deeds}}};
+bool WriteDiary(const UserFolder& user, const DiaryFiles& files) {
+  const std::array<FileBytes, 3> written = {{{user.File(kDiaryPageFile), files.page},
+                                             {user.File(kDiaryDaysFile), files.days},
+                                             {user.File(kDiaryDeedsFile), files.deeds}}};
   return ReplaceFiles(written);
 }
 

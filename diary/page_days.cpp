@@ -5,6 +5,7 @@
 
 #include "diary/markup.h"
 #include "diary/page.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {

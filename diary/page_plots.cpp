@@ -89,11 +89,17 @@ class RangePanel {
     return eaten_.empty() ? 0 : sum / static_cast<double>(eaten_.size());
   }
 
+  // What a bar stands for, which the two shapes may differ in.
   std::string PieceText() const {
     constexpr std::array<std::string_view, 4> kPieces = {"a day", "mean of a week",
                                                          "mean of a month", "mean of a year"};
-    const BucketUnit unit = ChooseUnit(range_, kPlotShapes.front().most_buckets);
-    return std::string(kPieces[static_cast<std::size_t>(unit)]);
+    std::string text;
+    for (const PlotShape& shape : kPlotShapes) {
+      const BucketUnit unit = ChooseUnit(range_, shape.most_buckets);
+      text += "<span class=\"" + std::string(shape.css_class) + "\">" +
+              std::string(kPieces[static_cast<std::size_t>(unit)]) + "</span>";
+    }
+    return text;
   }
 
   std::string Calories() const {

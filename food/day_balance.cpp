@@ -8,6 +8,7 @@
 
 #include "base/number_text.h"
 #include "charts/chart_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -72,12 +73,13 @@ bool EmptyFile(const std::string& path) {
 
 // The balance of today: a new day is started when it is not.
 std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
-  const std::string path = session.UserFile(kBalanceFile);
+  if (!session.user) return std::nullopt;
+  const std::string path = session.user->File(kBalanceFile);
   std::optional<BalanceLines> lines = ReadLines(path);
   if (!lines || lines->front().starts_with(session.date_text)) return lines;
   // The date comes last: when it stands, the day has been started whole.
   for (const std::string_view file : kExchangeFiles) {
-    if (!EmptyFile(session.UserFile(file))) return std::nullopt;
+    if (!EmptyFile(session.user->File(file))) return std::nullopt;
   }
   if (!ReplaceFile(path, session.date_text)) return std::nullopt;
   return BalanceLines{session.date_text};
@@ -85,13 +87,16 @@ std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
 
 }  // namespace
 
-bool DayBalance::StartDayIfNew() const { return LinesOfToday(session_).has_value(); }
+bool DayBalance::StartDayIfNew() { return LinesOfToday(session_).has_value(); }
 
-void DayBalance::MakeExchangeFiles() const {
-  for (const std::string_view file : kExchangeFiles) AppendToFile(session_.UserFile(file), "");
+void DayBalance::MakeExchangeFiles() {
+  if (!session_.user) return;
+  for (const std::string_view file : kExchangeFiles) {
+    PassOver(AppendToFile(session_.user->File(file), ""));
+  }
 }
 
-std::optional<DayTotals> DayBalance::ReadTotals() const {
+std::optional<DayTotals> DayBalance::ReadTotals() {
   const std::optional<BalanceLines> lines = LinesOfToday(session_);
   if (!lines) return std::nullopt;
   const auto number = [&](std::size_t line) { return ParseNumber((*lines)[line]); };
@@ -99,30 +104,32 @@ std::optional<DayTotals> DayBalance::ReadTotals() const {
 }
 
 double DayBalance::ReadKcalOfAnyDay() const {
-  return ParseNumber(ReadLines(BalancePath()).value_or(BalanceLines{})[1]);
+  if (!session_.user) return 0;
+  return ParseNumber(ReadLines(session_.user->File(kBalanceFile)).value_or(BalanceLines{})[1]);
 }
 
 DayExchanges DayBalance::ReadExchanges() const {
-  return {ReadExchange(session_.UserFile(kCarbohydrateExchangeFile)).value_or(0),
-          ReadExchange(session_.UserFile(kProteinFatExchangeFile)).value_or(0)};
+  if (!session_.user) return {};
+  return {ReadExchange(session_.user->File(kCarbohydrateExchangeFile)).value_or(0),
+          ReadExchange(session_.user->File(kProteinFatExchangeFile)).value_or(0)};
 }
 
-bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) const {
+bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) {
   return Make(Change::kAdd, totals, exchanges);
 }
 
-bool DayBalance::TakeOff(const DayTotals& totals,
-                         const std::optional<DayExchanges>& exchanges) const {
+bool DayBalance::TakeOff(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) {
   return Make(Change::kTakeOff, totals, exchanges);
 }
 
 bool DayBalance::Make(Change change, const DayTotals& totals,
-                      const std::optional<DayExchanges>& exchanges) const {
+                      const std::optional<DayExchanges>& exchanges) {
   const auto changed = [change](double figure, double by, double rest) {
     return change == Change::kAdd ? Sum(figure, by) : Difference(figure, by, rest);
   };
   const std::optional<DayTotals> before = ReadTotals();
   if (!before) return false;
+  const UserFolder& user = *session_.user;  // whose totals those are
   DayTotals after;
   for (double DayTotals::*const figure :
        {&DayTotals::kcal, &DayTotals::protein, &DayTotals::fat, &DayTotals::carbohydrate}) {
@@ -132,39 +139,41 @@ bool DayBalance::Make(Change change, const DayTotals& totals,
   if (exchanges) {
     const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
     for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
-      const std::string path = session_.UserFile(kExchangeFiles[i]);
+      const std::string path = user.File(kExchangeFiles[i]);
       const std::optional<double> exchange = ReadExchange(path);
       if (!exchange) return false;
       const double figure = changed(*exchange, changes[i], kExchangeRest);
       exchange_files.push_back({path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure)});
     }
   }
-  return Write(session_.date_text + '\n' + Stored(after.kcal) + '\n' + Stored(after.protein) +
+  return Write(user,
+               session_.date_text + '\n' + Stored(after.kcal) + '\n' + Stored(after.protein) +
                    '\n' + Stored(after.fat) + '\n' + Stored(after.carbohydrate),
                after, exchange_files);
 }
 
-bool DayBalance::Clear() const {
+bool DayBalance::Clear() {
+  if (!session_.user) return false;
   std::vector<FileBytes> exchange_files;
   for (const std::string_view file : kExchangeFiles) {
-    exchange_files.push_back({session_.UserFile(file), "0"});
+    exchange_files.push_back({session_.user->File(file), "0"});
   }
-  return Write(session_.date_text, {}, exchange_files);
+  return Write(*session_.user, session_.date_text, {}, exchange_files);
 }
 
 // One after the other and not together, a failure would leave the day half changed, and a person
 // who tries again would count the other half twice.
-bool DayBalance::Write(std::string_view balance, const DayTotals& totals,
-                       std::span<const FileBytes> exchange_files) const {
+bool DayBalance::Write(const UserFolder& user, std::string_view balance, const DayTotals& totals,
+                       std::span<const FileBytes> exchange_files) {
   const auto text = [](double figure) {
     return FormatNumber(static_cast<float>(figure), kSeriesDigits);
   };
   std::optional<FileBytes> series =
-      UpdatedChartFile(session_.UserFile(kNutrientSeriesFile), session_.date_text,
+      UpdatedChartFile(user.File(kNutrientSeriesFile), session_.date_text,
                        std::array{text(totals.kcal), text(totals.protein), text(totals.fat),
                                   text(totals.carbohydrate)});
   if (!series) return false;
-  std::vector<FileBytes> files = {{BalancePath(), WithCrLf(balance)}};
+  std::vector<FileBytes> files = {{user.File(kBalanceFile), WithCrLf(balance)}};
   files.insert(files.end(), exchange_files.begin(), exchange_files.end());
   files.push_back(std::move(*series));
   return ReplaceFiles(files);

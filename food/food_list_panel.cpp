@@ -54,7 +54,7 @@ std::string ExchangeText(float exchange) {
 
 }  // namespace
 
-FoodListPanel::FoodListPanel(const FoodTable& food, const DayBalance& day, Exchanges& exchanges,
+FoodListPanel::FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& exchanges,
                              Form& form, MessageBoxes& message_boxes)
     : food_(food), day_(day), exchanges_(exchanges), form_(form), message_boxes_(message_boxes) {}
 

@@ -21,7 +21,7 @@ namespace velnor {
 
 class FoodListPanel {
  public:
-  FoodListPanel(const FoodTable& food, const DayBalance& day, Exchanges& exchanges, Form& form,
+  FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& exchanges, Form& form,
                 MessageBoxes& message_boxes);
 
   // Puts what the upper half weighs on the list, under the name `product`. A weight below 1 g is
@@ -51,7 +51,7 @@ class FoodListPanel {
   void ReportFailedWrite();
 
   const FoodTable& food_;
-  const DayBalance& day_;
+  DayBalance& day_;
   Exchanges& exchanges_;
   Form& form_;
   MessageBoxes& message_boxes_;

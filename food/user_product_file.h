@@ -24,7 +24,7 @@ inline constexpr std::string_view kUsualProductMass = "100";
 // Adds the product as a line of its own at the end of the file, which is made when it is missing.
 // A ";" inside a field is not kept from breaking the line's fields. False when it was not written;
 // then the file is as it was.
-bool AddUserProduct(const std::string& path, const ProductRecord& product);
+[[nodiscard]] bool AddUserProduct(const std::string& path, const ProductRecord& product);
 
 // The same with many products, all of them or none.
 bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products);
@@ -47,7 +47,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name);
 // than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
 // old bytes or its new ones. Does nothing when no line goes. False when the file could not be read,
 // or a line should have gone but it could not be written.
-bool RemoveUserProduct(const std::string& path, std::string_view name);
+[[nodiscard]] bool RemoveUserProduct(const std::string& path, std::string_view name);
 
 }  // namespace velnor
 

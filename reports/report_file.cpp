@@ -12,11 +12,11 @@ namespace velnor {
 namespace {
 
 constexpr ReportFile kReports[] = {
-    {4, "Reports overview - WEIGHT", "waga.ASC"},
-    {5, "Reports overview - WHR", "whr.ASC"},
-    {8, "Reports overview - CALORIE", "mirvo.ASC"},
-    {9, "Reports overview - RECIPES", "zestaw.ASC"},
-    {11, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
+    {4, "Reports overview - WEIGHT", kWeightReportFile},
+    {5, "Reports overview - WHR", kWhrReportFile},
+    {8, "Reports overview - CALORIE", kCalorieReportFile},
+    {9, "Reports overview - RECIPES", kRecipeReportFile},
+    {11, "Reports overview - BURNED CALORIES", kBurnedReportFile},
 };
 
 }  // namespace
@@ -61,8 +61,6 @@ bool SaveReport(const std::string& path, std::string_view shown, std::string_vie
   const FileBytes files[] = {{RestPath(path), kept->append(rest)}, {path, std::string(text)}};
   return ReplaceFiles(files);
 }
-
-std::string RestPath(const std::string& path) { return path + ".rest.txt"; }
 
 bool HasRest(const std::string& path) { return !ReadFile(RestPath(path), 1).empty(); }
 

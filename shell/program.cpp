@@ -135,7 +135,7 @@ void Program::LogOut() {
   message_boxes_.Show({.text = "BYE, SEE YOU SOON!"});
   ApplyMenuState(MenuState::kAfterLogout, window_);
   window_.CloseSessionDialogs();
-  session_.user_name.clear();
+  session_.user.reset();
   session_.screen = kHomeScreen;
   window_.PaintNow();
 }
@@ -224,7 +224,7 @@ void Program::OpenBurnedRecord() {
 }
 
 void Program::StartUserDay() {
-  day_.StartDayIfNew();
+  PassOver(day_.StartDayIfNew());
   requirement_.OnLogin();
   food_list_.Empty("");
 }

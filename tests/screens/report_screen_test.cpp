@@ -228,7 +228,7 @@ TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
   Open(kOpenCalorie);
   form_.SetText(119, "new\r\n");
   boxes_.while_open = [&] {
-    AppendToFile(path, "appended\n");
+    ASSERT_TRUE(AppendToFile(path, "appended\n"));
     Repaint();
   };
   form_.Press(kSave);

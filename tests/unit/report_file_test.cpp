@@ -132,7 +132,7 @@ TEST_F(ReportFileTest, SavingKeepsWhatStandsBehindANul) {
 TEST_F(ReportFileTest, SavingKeepsARecordThatWasAppendedMeanwhile) {
   folder_.Write("waga.ASC", "one\r\n");
   const std::string shown = LoadReport(path_);
-  AppendToFile(path_, "two\n");
+  ASSERT_TRUE(AppendToFile(path_, "two\n"));
   EXPECT_TRUE(SaveReport(path_, shown, "changed\r\n"));
   EXPECT_EQ(File(), "changed\r\n");
   EXPECT_EQ(Rest(), "two\r\n");

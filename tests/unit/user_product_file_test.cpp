@@ -177,7 +177,7 @@ TEST_F(UserProductFileTest, AKilledRemovalLeavesTheOldFileOrTheNewOne) {
     Write(old);
     const pid_t child = fork();
     if (child == 0) {
-      RemoveUserProduct(Path(), "apple pie");
+      PassOver(RemoveUserProduct(Path(), "apple pie"));
       _exit(0);
     }
     usleep(delay * 200);
