@@ -27,6 +27,7 @@ WeightRecordDialog::WeightRecordDialog(const SessionState& session, const Weight
 void WeightRecordDialog::OnOpen(Form& form) {
   for (const int id : {kRecordDate, kWeight, kBmi}) form.LimitText(id, kRecordTextLimit);
   form.LimitText(kRecordOther, kOtherLimit);
+  for (const int id : {kWeight, kBmi}) form.TakeNumbers(id);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWeight, weight_.text);
   if (bmi_.value > 0) form.SetText(kBmi, FormatNumber(bmi_.value, kRecordDigits));

@@ -25,6 +25,7 @@ WhrRecordDialog::WhrRecordDialog(const SessionState& session, const WhrResult& w
 void WhrRecordDialog::OnOpen(Form& form) {
   for (const int id : {kRecordDate, kWaist, kHip, kWhr}) form.LimitText(id, kRecordTextLimit);
   form.LimitText(kRecordOther, kOtherLimit);
+  for (const int id : {kWaist, kHip, kWhr}) form.TakeNumbers(id);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWaist, whr_.waist);
   form.SetText(kHip, whr_.hip);

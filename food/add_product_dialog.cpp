@@ -51,6 +51,7 @@ void AddProductDialog::OnOpen(Form& form) {
   form.LimitText(kName, kRemovableNameLimit);
   for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
     form.LimitText(id, kNumberLimit);
+    form.TakeNumbers(id);
   }
   form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;

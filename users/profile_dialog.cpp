@@ -49,7 +49,10 @@ ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWi
     : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
 
 void ProfileDialog::OnOpen(Form& form) {
-  for (const int id : {kAge, kHeight}) form.LimitText(id, kTypedLimit);
+  for (const int id : {kAge, kHeight}) {
+    form.LimitText(id, kTypedLimit);
+    form.TakeNumbers(id);
+  }
   form.FillItems(kSex, kSexes);
   form.FillItems(kLifeStyle, kLifeStyles);
   form.FillItems(kOther, kOthers);
