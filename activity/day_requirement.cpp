@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -22,13 +22,19 @@ void DayRequirement::Update() { UpdateRequirement(profile_, ReadLimits(), requir
 
 void DayRequirement::Activate(const PersonalLimits& limits) {
   if (const auto path = session_.UserFile(kLimitsFile)) {
-    PassOver(WritePersonalLimits(*path, limits));
+    Transaction deed(session_.base_folder);
+    WritePersonalLimits(deed, *path, limits);
+    deed.CommitUnreported();
   }
   limits_ = ReadLimits();
 }
 
 void DayRequirement::Clear() {
-  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WriteNoLimits(*path));
+  if (const auto path = session_.UserFile(kLimitsFile)) {
+    Transaction deed(session_.base_folder);
+    WriteNoLimits(deed, *path);
+    deed.CommitUnreported();
+  }
   limits_active_ = false;
 }
 

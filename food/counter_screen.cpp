@@ -61,7 +61,7 @@ constexpr PickerControls kPicker = {.matching = Matching::kCounter,
                                     .fat = kFat,
                                     .carbohydrate = kCarbohydrate,
                                     .weight_limit = kCounterWeightLimit,
-                                    .name_limit = 99};
+                                    .name_limit = kCounterNameLimit};
 
 constexpr std::string_view kNoValue = "   -";
 

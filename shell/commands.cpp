@@ -8,7 +8,6 @@
 #include "base/text_file.h"
 #include "food/add_product_dialog.h"
 #include "food/remove_product_dialog.h"
-#include "food/user_product_file.h"
 #include "shell/about_box.h"
 #include "shell/parts.h"
 #include "shell/screens.h"
@@ -65,24 +64,17 @@ void OpenProfile(Parts& parts) {
 
 void Exit(Parts& parts) { parts.window.Close(); }
 
-// After a product of the user's own came or went.
-void OnProductsChanged(Parts& parts) {
-  parts.counter_screen.OnProductsChanged();
-  parts.overview_screen.OnProductsChanged();
-}
-
 void OpenAddProduct(Parts& parts) {
-  parts.window.OpenDialog(kAddProductResource,
-                          std::make_unique<AddProductDialog>(
-                              parts.food, parts.session.BaseFile(kUserProductsFile),
-                              parts.message_boxes, [&parts] { OnProductsChanged(parts); }));
+  parts.window.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
+                                                   parts.food, parts.session, parts.message_boxes,
+                                                   [&parts] { parts.OnProductsChanged(); }));
 }
 
 void OpenRemoveProduct(Parts& parts) {
-  parts.window.OpenDialog(kRemoveProductResource,
-                          std::make_unique<RemoveProductDialog>(
-                              parts.food, parts.session.BaseFile(kUserProductsFile),
-                              parts.message_boxes, [&parts] { OnProductsChanged(parts); }));
+  parts.window.OpenDialog(
+      kRemoveProductResource,
+      std::make_unique<RemoveProductDialog>(parts.food, parts.session, parts.message_boxes,
+                                            [&parts] { parts.OnProductsChanged(); }));
 }
 
 void OpenAboutBox(Parts& parts) {

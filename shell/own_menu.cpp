@@ -4,17 +4,16 @@
 #include <memory>
 
 #include "food/import_products_dialog.h"
-#include "food/user_product_file.h"
 #include "shell/parts.h"
 
 namespace velnor {
 namespace {
 
 void OpenImportProducts(Parts& parts) {
-  parts.window.OpenDialog(
-      kImportProductsResource,
-      std::make_unique<ImportProductsDialog>(parts.food, parts.session.BaseFile(kUserProductsFile),
-                                             parts.window, parts.message_boxes));
+  parts.window.OpenDialog(kImportProductsResource,
+                          std::make_unique<ImportProductsDialog>(
+                              parts.food, parts.session, parts.window, parts.message_boxes,
+                              [&parts] { parts.OnProductsChanged(); }));
 }
 
 constexpr OwnMenuItem kItems[] = {

@@ -30,4 +30,9 @@ Parts::Parts(std::string base_folder, std::string date_text, Form& main_form,
       bmr_screen(profile, weight, form, window),
       energy_screen(day, burned_total, form, window, message_boxes) {}
 
+void Parts::OnProductsChanged() {
+  counter_screen.OnProductsChanged();
+  overview_screen.OnProductsChanged();
+}
+
 }  // namespace velnor

@@ -38,6 +38,11 @@ struct Parts {
   // `base_folder`: the start-up directory with a separator at its end. `date_text`: today.
   Parts(std::string base_folder, std::string date_text, Form& main_form, MainWindow& main_window,
         MessageBoxes& boxes);
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+
+  // A product of the user's own came or went: the lists of products show it.
+  void OnProductsChanged();
 
   Form& form;
   MainWindow& window;

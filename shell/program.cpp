@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/transaction.h"
 #include "food/user_product_file.h"
 #include "shell/commands.h"
 #include "shell/header.h"
@@ -26,11 +27,13 @@ Screen* Program::CurrentScreen() const {
 }
 
 void Program::Start() {
+  OpenDataFolder(parts_.session.base_folder);
   ApplyMenuState(MenuState::kLoggedOut, parts_.window);
   parts_.food.user_products.Load(parts_.session.BaseFile(kUserProductsFile));
 }
 
 void Program::OnCommand(int id, int notification) {
+  FinishWhatWasBegun(parts_.session.base_folder);
   if (RunCommand(parts_, id)) return;
   // Two screens may have a control of the same id: the current one is meant. Until a chosen screen
   // has been painted, the controls of the one before can still be used.
@@ -47,6 +50,7 @@ bool Program::OnMouseWheel(std::int32_t movement) {
 }
 
 void Program::PreparePaint() {
+  FinishWhatWasBegun(parts_.session.base_folder);
   parts_.form.HideAll();
   Screen* const current = CurrentScreen();
   if (current == nullptr) return;

@@ -77,6 +77,7 @@ int Win32MainWindow::RunMessageLoop() {
 // What does not go to the control with the focus, and whether it was dealt with here.
 bool Win32MainWindow::TakeFirst(MSG& message) {
   if (screen_keys_->OnMessage(message)) return true;
+  if (modeless_dialog_ != nullptr && OfferKey(modeless_dialog_, message)) return true;
   if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) return true;
   // An edit would scroll as many lines at a turn of the wheel as it likes.
   const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
@@ -105,6 +106,7 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SIZE:
       client_width_ = LOWORD(lparam);
       client_height_ = HIWORD(lparam);
+      drawn_.reset();
       return 0;
     case WM_ERASEBKGND:  // the screens cover the client area with their picture
       return 0;
@@ -179,10 +181,14 @@ void Win32MainWindow::OnPaint() {
   // Hiding the control that has the focus takes the focus away; a screen that shows it again gets
   // it back.
   const HWND focused = GetFocus();
-  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->PreparePaint();
+  Painting painting;
+  program_->Paint(painting);
   const HDC picture = back_buffer_.Begin(client_width_, client_height_);
-  if (picture != nullptr) Draw(picture);
+  if (picture == nullptr) drawn_.reset();
+  if (picture == nullptr || DrawInMemory(picture, painting)) {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+  }
   form_->HideTheRest();
   PAINTSTRUCT paint;
   const HDC context = BeginPaint(window_, &paint);
@@ -190,7 +196,8 @@ void Win32MainWindow::OnPaint() {
   if (picture != nullptr) {
     BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
   } else {
-    Draw(context);
+    GdiCanvas canvas(context, surface_, resources_);
+    painting.DrawOn(canvas);
   }
   EndPaint(window_, &paint);
   form_->ShowChosen();
@@ -199,9 +206,14 @@ void Win32MainWindow::OnPaint() {
   program_->FinishPaint();
 }
 
-void Win32MainWindow::Draw(HDC context) {
-  GdiCanvas canvas(context, surface_, resources_);
-  program_->Paint(canvas);
+// Returns false if the picture in memory shows this painting already.
+bool Win32MainWindow::DrawInMemory(HDC picture, const Painting& painting) {
+  if (drawn_ == painting) return false;
+  drawn_.reset();
+  GdiCanvas canvas(picture, surface_, resources_);
+  painting.DrawOn(canvas);
+  if (canvas.is_complete()) drawn_ = painting;
+  return true;
 }
 
 // The platform gives the focus to the window itself when it comes to the front again; it belongs to

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/main_window.h"
+#include "shell/painting.h"
 #include "shell/program.h"
 #include "shell/win32/gdi_canvas.h"
 #include "shell/win32/own_menus.h"
@@ -51,9 +52,9 @@ class Win32MainWindow final : public MainWindow {
   bool OnCreate();
   bool OnMouseWheel(WPARAM wparam);
   void OnPaint();
-  void Draw(HDC context);
   void OnAccessibility();
   bool TakeFirst(MSG& message);
+  bool DrawInMemory(HDC picture, const Painting& painting);
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;
 
@@ -68,6 +69,7 @@ class Win32MainWindow final : public MainWindow {
   std::vector<HWND> session_dialogs_;  // the open ones
   GdiResources resources_;
   MemoryPicture back_buffer_;
+  std::optional<Painting> drawn_;  // what the picture in memory shows; nothing: what, is not known
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;
