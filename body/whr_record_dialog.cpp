@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
 #include "users/user_files.h"
@@ -45,7 +45,9 @@ void WhrRecordDialog::Save(Form& form) {
                             .other = form.ReadText(kRecordOther, kOtherLimit)};
   // Whether the record could be written is not reported.
   if (const auto path = session_.UserFile(kWhrReportFile)) {
-    PassOver(AppendToFile(*path, WhrRecordLine(record)));
+    Transaction deed(session_.base_folder);
+    deed.Append(*path, WhrRecordLine(record));
+    deed.CommitUnreported();
   }
   form.Close();
 }
