@@ -53,8 +53,13 @@ std::optional<std::string> ReadTable(const std::string& path) {
 }  // namespace
 
 ImportProductsDialog::ImportProductsDialog(FoodTable& food, std::string path, MainWindow& window,
-                                           MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), window_(window), message_boxes_(message_boxes) {}
+                                           MessageBoxes& message_boxes,
+                                           std::function<void()> on_changed)
+    : food_(food),
+      path_(std::move(path)),
+      window_(window),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void ImportProductsDialog::OnOpen(Form& form) {
   form.FillItems(kMainCategory, ListMainCategories(food_));
@@ -93,7 +98,7 @@ void ImportProductsDialog::Import(Form& form) {
     Say(kNotOpened);
     return;
   }
-  food_.user_products.Load(path_);  // what another program has added since counts too
+  Reload();  // what another program has added since counts too
   const ImportPlan plan = PlanImport(*bytes, food_,
                                      {form.SelectedText(kMainCategory).value_or(""),
                                       form.SelectedText(kSubcategory).value_or("")});
@@ -124,8 +129,13 @@ void ImportProductsDialog::CarryOut(const ImportPlan& plan) {
     if (records.size() < plan.fitting) records.push_back(product.AsRecord());
   }
   const bool written = records.empty() || AddUserProducts(path_, records);
-  food_.user_products.Load(path_);
+  Reload();
   Say(written ? ImportReport(plan, records.size()) : std::string(kNotWritten));
+}
+
+void ImportProductsDialog::Reload() {
+  food_.user_products.Load(path_);
+  on_changed_();
 }
 
 void ImportProductsDialog::Say(std::string_view text) {

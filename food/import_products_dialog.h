@@ -3,6 +3,7 @@
 #ifndef VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
 #define VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,9 +19,10 @@ inline constexpr int kImportProductsResource = 10023;
 
 class ImportProductsDialog final : public Dialog {
  public:
-  // Adds to the file `path` and reloads the user's products of `food` from it.
+  // Adds to the file `path` and reloads the user's products of `food` from it. Calls `on_changed`
+  // when they may be others than before.
   ImportProductsDialog(FoodTable& food, std::string path, MainWindow& window,
-                       MessageBoxes& message_boxes);
+                       MessageBoxes& message_boxes, std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -32,12 +34,14 @@ class ImportProductsDialog final : public Dialog {
   // Whether the plan is carried out, as far as the slots go; asks where that is not all of it.
   bool Confirm(const ImportPlan& plan);
   void CarryOut(const ImportPlan& plan);
+  void Reload();
   void Say(std::string_view text);
 
   FoodTable& food_;
   std::string path_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
+  std::function<void()> on_changed_;
 };
 
 }  // namespace velnor

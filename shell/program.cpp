@@ -170,9 +170,10 @@ void Program::OpenAddProduct() {
 }
 
 void Program::OpenImportProducts() {
-  window_.OpenDialog(kImportProductsResource,
-                     std::make_unique<ImportProductsDialog>(
-                         food_, session_.BaseFile(kUserProductsFile), window_, message_boxes_));
+  window_.OpenDialog(
+      kImportProductsResource,
+      std::make_unique<ImportProductsDialog>(food_, session_.BaseFile(kUserProductsFile), window_,
+                                             message_boxes_, [this] { OnProductsChanged(); }));
 }
 
 void Program::OpenRemoveProduct() {
