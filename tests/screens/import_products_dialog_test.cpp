@@ -54,13 +54,13 @@ class ImportProductsTest : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  SessionState session_{.base_folder = folder_.path()};
   FoodTable food_;
   FakeMainWindow window_;
   FakeMessageBoxes boxes_;
   FakeForm form_;
-  std::size_t told_ = 0;  // how many products there were when the lists heard of a change
-  ImportProductsDialog dialog_{food_, folder_.path() + "data.txt", window_, boxes_,
-                               [this] { told_ = food_.user_products.products().size(); }};
+  int changes_ = 0;
+  ImportProductsDialog dialog_{food_, session_, window_, boxes_, [this] { ++changes_; }};
 };
 
 TEST_F(ImportProductsTest, OpensWithTheCategoryForWhatBelongsToNoOther) {
@@ -80,8 +80,8 @@ TEST_F(ImportProductsTest, AddsTheProductsAndSaysWhatWasLeftOut) {
   folder_.Write("data.txt", "fruits;fresh;figs;100;74;1;0;19;\r\n");
   EXPECT_EQ(Import(kTable), Texts{kReport});
   EXPECT_EQ(Data(), "fruits;fresh;figs;100;74;1;0;19;\r\n" + kLines);
-  EXPECT_EQ(told_, 3U);              // the lists have them at once
-  EXPECT_TRUE(form_.Log().empty());  // and the dialog is still open
+  EXPECT_EQ(food_.user_products.products().size(), 3U);  // the lists have them at once
+  EXPECT_TRUE(form_.Log().empty());                      // and the dialog is still open
 }
 
 TEST_F(ImportProductsTest, RowsWithoutACategoryGoToTheChosenOne) {
