@@ -371,7 +371,7 @@ TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
 TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
   TypeWhatCannotBeSaved();
   LetItBeWritten();
-  AppendToFile(path_, "a record\n");
+  ASSERT_TRUE(AppendToFile(path_, "a record\n"));
   Repaint();
   EXPECT_EQ(Shown(), "typed");
   form_.Press(kSave);
