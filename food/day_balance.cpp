@@ -155,6 +155,7 @@ bool DayBalance::Make(Change change, const DayTotals& totals,
 bool DayBalance::Clear() {
   if (!session_.user) return false;
   std::vector<FileBytes> exchange_files;
+  exchange_files.reserve(kExchangeFiles.size());
   for (const std::string_view file : kExchangeFiles) {
     exchange_files.push_back({session_.user->File(file), "0"});
   }
