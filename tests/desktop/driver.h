@@ -88,6 +88,8 @@ class App {
   explicit App(const WorkFolder& folder);
   // The same with another copy of the program, by its path.
   App(const std::string& program, const Folder& folder);
+  // The same in a folder that may have any name.
+  App(const std::string& program, const std::wstring& folder);
   App(const App&) = delete;
   App& operator=(const App&) = delete;
   ~App();
@@ -113,6 +115,11 @@ class App {
   RECT ItemPlace(HMENU menu, UINT position) const;
   // Whether each item of the menu can be chosen, by its command.
   std::map<int, bool> MenuStates() const;
+
+  // The icon of the program, and the one that a window was given for its caption (ICON_SMALL or
+  // ICON_BIG), by their handles; 0: none. Wine tells other programs nothing of icons.
+  DWORD Icon() const;
+  DWORD CaptionIcon(HWND window, WPARAM size) const;
 
   // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
   // or an empty box when none comes.
