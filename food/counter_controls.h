@@ -9,7 +9,7 @@ namespace velnor::counter {
 inline constexpr int kMainCategory = 124;
 inline constexpr int kSubcategory = 125;
 inline constexpr int kProducts = 126;
-inline constexpr int kAdd = 127;
+inline constexpr int kAddFood = 127;
 inline constexpr int kWeight = 128;
 inline constexpr int kKcal = 129;
 inline constexpr int kProtein = 130;
@@ -18,7 +18,7 @@ inline constexpr int kCarbohydrate = 132;
 inline constexpr int kProductFrame = 133;
 inline constexpr int kList = 134;
 inline constexpr int kTotalsFrame = 135;
-inline constexpr int kRemove = 136;
+inline constexpr int kRemoveFood = 136;
 inline constexpr int kTotalWeight = 137;
 inline constexpr int kTotalKcal = 138;
 inline constexpr int kTotalProtein = 139;

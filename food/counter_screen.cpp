@@ -16,7 +16,7 @@ constexpr ControlRow kControls[] = {
     DropDownList(kMainCategory, {25, 100, 280, 450}, "Choose main category"),
     DropDownList(kSubcategory, {25, 170, 280, 450}, "Choose subcategory"),
     ListBox(kProducts, {330, 100, 330, 140}, "Choose product"),
-    MainButton(kAdd, "Add", {570, 264, 65, 35}),
+    MainButton(kAddFood, "Add", {570, 264, 65, 35}),
     NumberField(kWeight, {25, 270, 50, 23}, kListedFigureLimit, "Food weight[g]"),
     Figure(kKcal, {125, 270, 50, 23}),
     Figure(kProtein, {225, 270, 50, 23}),
@@ -25,7 +25,7 @@ constexpr ControlRow kControls[] = {
     Frame(kProductFrame, {10, 58, 665, 250}),
     ListBox(kList, {25, 345, 330, 155}, "Your list"),
     Frame(kTotalsFrame, {380, 320, 350, 200}),
-    Button(kRemove, "Remove", {25, 500, 100, 35}),
+    Button(kRemoveFood, "Remove", {25, 500, 100, 35}),
     Figure(kTotalWeight, {500, 340, 75, 23}),
     Figure(kTotalKcal, {500, 370, 75, 23}),
     Figure(kTotalProtein, {500, 400, 75, 23}),
@@ -44,8 +44,8 @@ constexpr ControlRow kControls[] = {
 
 constexpr ControlEvent<CounterScreen> kEvents[] = {
     {kFind, kButtonClicked, &CounterScreen::OpenSearch},
-    {kAdd, kButtonClicked, &CounterScreen::AddToList},
-    {kRemove, kButtonClicked, &CounterScreen::RemoveFromList},
+    {kAddFood, kButtonClicked, &CounterScreen::AddToList},
+    {kRemoveFood, kButtonClicked, &CounterScreen::RemoveFromList},
     {kClearList, kButtonClicked, &CounterScreen::ClearList},
     {kSaveReport, kButtonClicked, &CounterScreen::OpenCalorieRecord},
     {kSaveFood, kButtonClicked, &CounterScreen::OpenRecipeRecord},
