@@ -5,6 +5,7 @@
 #ifndef VELNOR_BASE_SCREEN_H_
 #define VELNOR_BASE_SCREEN_H_
 
+#include <algorithm>
 #include <optional>
 #include <span>
 
@@ -53,12 +54,12 @@ struct ControlEvent {
 // Runs the event. Returns false when the table has none for it.
 template <typename S>
 bool RunEvent(S& screen, std::span<const ControlEvent<S>> events, int id, int notification) {
-  for (const ControlEvent<S>& event : events) {
-    if (event.id != id || event.notification != notification) continue;
-    (screen.*event.run)();
-    return true;
-  }
-  return false;
+  const auto event = std::ranges::find_if(events, [=](const ControlEvent<S>& row) {
+    return row.id == id && row.notification == notification;
+  });
+  if (event == events.end()) return false;
+  (screen.*event->run)();
+  return true;
 }
 
 }  // namespace velnor

@@ -60,6 +60,7 @@ std::vector<ControlRow> CollectControls() {
       by_id.emplace(std::pair{row.id(), row.key}, row);
   }
   std::vector<ControlRow> controls;
+  controls.reserve(by_id.size());
   for (const auto& [id, row] : by_id) controls.push_back(row);
   return controls;
 }
