@@ -173,7 +173,7 @@ void UsersDialog::Confirm(Form& form) {
 bool UsersDialog::Write(const Form& form) const {
   Transaction deed(session_.base_folder);
   const std::string path = session_.BaseFile(kRegistryFile);
-  // What somebody holds for a moment is waited for before it is read.
+  // One that somebody else has open for a moment is waited for before it is read.
   if (!opened_ || !CanBeChanged(path)) return false;
   std::optional<UserRegistry> registry = ReadUserRegistry(path);
   if (!registry) return false;
