@@ -7,6 +7,8 @@
 #include <iterator>
 #include <optional>
 
+#include "base/user_folder.h"
+
 namespace velnor {
 namespace {
 
@@ -115,7 +117,8 @@ bool StaysInside(std::string_view path) {
   }
   for (;;) {
     const std::size_t end = path.find_first_of("/\\");
-    if (path.substr(0, end).find_first_not_of(". ") == std::string_view::npos) return false;
+    const std::string_view name = path.substr(0, end);
+    if (name.find_first_not_of(". ") == std::string_view::npos || IsDeviceName(name)) return false;
     if (end == std::string_view::npos) return true;
     path.remove_prefix(end + 1);
   }

@@ -35,7 +35,8 @@ struct Note {
 };
 
 // Whether a path of a note lies below the start-up folder whatever the system makes of it: it takes
-// points and blanks off the end of a name, so that ".. " is the folder above.
+// points and blanks off the end of a name, so that ".. " is the folder above, and has names that
+// mean devices.
 bool StaysInside(std::string_view path);
 
 // Reads the bytes of a note. One with a path that does not stay in the start-up folder is not

@@ -12,8 +12,9 @@ constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
 
 char Capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-// What counts is what stands before the first point, without blanks at its end.
-bool IsDevice(std::string_view name) {
+}  // namespace
+
+bool IsDeviceName(std::string_view name) {
   std::string stem(name.substr(0, name.find('.')));
   stem.erase(stem.find_last_not_of(' ') + 1);
   std::ranges::transform(stem, stem.begin(), Capital);
@@ -23,11 +24,10 @@ bool IsDevice(std::string_view name) {
   return std::ranges::find(kNumberedDevices, stem) != std::end(kNumberedDevices);
 }
 
-}  // namespace
-
 bool IsFolderName(std::string_view name) {
   if (name.empty() || name.size() > kUserNameLimit) return false;
-  if (name.find_first_of("\\/:*?\"<>|") != std::string_view::npos || IsDevice(name)) return false;
+  if (name.find_first_of("\\/:*?\"<>|") != std::string_view::npos) return false;
+  if (IsDeviceName(name)) return false;
   // The platform takes dots and blanks off the end of a name: ".. " is the folder above.
   return name.find_first_not_of(". ") != std::string_view::npos &&
          std::ranges::none_of(name, [](char c) { return c >= '\0' && c < ' '; });

@@ -24,6 +24,10 @@ inline constexpr char kPathSeparator =
 // An empty name is no folder name, nor is one longer than kUserNameLimit.
 bool IsFolderName(std::string_view name);
 
+// Whether a file of that name would be a device. What counts is what stands before the first point,
+// without blanks at its end, in capitals or not.
+bool IsDeviceName(std::string_view name);
+
 class UserFolder {
  public:
   // The folder of the user `name` in `base_folder`, a path with a separator at its end. Nothing

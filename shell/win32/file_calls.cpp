@@ -19,8 +19,10 @@ constexpr DWORD kSharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE
 // In the start-up folder while somebody holds its lock.
 constexpr std::string_view kLockFile = "velnor.blokada";
 
+// Of a name that no file can have there is none either.
 bool IsMissing(DWORD error) {
-  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
+         error == ERROR_INVALID_NAME;
 }
 
 // Whether the file could not be had because somebody, a backup or a virus scanner say, has it open,

@@ -101,6 +101,11 @@ Done Work(const App& app, int deeds, const std::string& name) {
   Done done;
   const Window& window = app.main();
   const auto count = [&] { return static_cast<int>(window.Items(kFoods).size()); };
+  const auto press = [&](int button) {
+    for (const std::string& text : app.CommandAndAnswer(window, button)) {
+      ADD_FAILURE() << name << button << ": " << text;
+    }
+  };
   for (int i = 0; i < deeds; ++i) {
     int expected = done.foods + 1;
     if (i % 29 == 28) {
@@ -114,14 +119,14 @@ Done Work(const App& app, int deeds, const std::string& name) {
       continue;
     }
     if (i % 23 == 22) {
-      window.Command(kClearList);
+      press(kClearList);
       expected = 0;
-    } else if (i % 5 == 4) {
+    } else if (i % 5 == 4 && done.foods > 0) {
       window.Choose(kFoods, window.Items(kFoods).front());
-      window.Command(kTakeOff);
+      press(kTakeOff);
       expected = done.foods - 1;
     } else {
-      window.Command(kAdd);
+      press(kAdd);
     }
     done.foods = count();
     done.refused += done.foods == expected ? 0 : 1;

@@ -52,8 +52,8 @@ TEST(NoteTest, OfAnotherVersionIsToldFromASpoiledOne) {
 }
 
 TEST(NoteTest, WithAPathThatLeavesTheFolderIsNotWhole) {
-  for (const char* const path :
-       {"", "/a", "../a", "a/..", "a/.. /b", "a//b", "C:a", "a\\..\\b", "a/\x1F", "."}) {
+  for (const char* const path : {"", "/a", "../a", "a/..", "a/.. /b", "a//b", "C:a", "a\\..\\b",
+                                 "NUL", "a/com1.new", "a/\x1F", "."}) {
     const Change remove = {.kind = ChangeKind::kRemove, .path = path};
     EXPECT_EQ(ReadNote(NoteBytes({&remove, 1})).state, NoteState::kNotWhole) << path;
     const Change replace = {.kind = ChangeKind::kReplace, .path = "a", .beside = path};

@@ -83,8 +83,8 @@ class Install : public testing::Test {
     app.main().Command(127);
   }
   // The first day with the program: registers, logs in, eats.
-  static void SpendADay() {
-    const App app = StartFromMenu();
+  static void SpendADay() { SpendADay(StartFromMenu()); }
+  static void SpendADay(const App& app) {
     const Window users = OpenDialog(app, 202);
     users.SetText(701, "Ann");
     users.Command(702);
@@ -178,6 +178,32 @@ TEST_F(Install, AnUpgradeGoesWhereTheProgramIsAndKeepsItsDataFolder) {
   Uninstall();
   EXPECT_EQ(Folder(elsewhere.path()).Names(), Texts({"the data"}));
   EXPECT_EQ(Folder(data + '\\').Read("users.ASC"), "Ann");
+}
+
+TEST_F(Install, UnderAnAccountWithLettersThatTheCodePageLacks) {
+  const std::wstring account = L"C:\\users\\\u0141ukasz \u4E2D\\";
+  const std::wstring documents = account + L"Documents";
+  const std::wstring local = account + L"Local";
+  for (const std::wstring& folder : {account, documents, local}) {
+    ASSERT_NE(CreateDirectoryW(folder.c_str(), nullptr), 0);
+  }
+  const OtherKnownFolder other_documents(L"Personal", documents);
+  const OtherKnownFolder other_local(L"Local AppData", local);
+  ASSERT_EQ(RunCommand(kSetup), 0U);
+  const Shortcut shortcut = ReadShortcut(kStartMenu + "Velnor calorie counter.lnk");
+  EXPECT_EQ(shortcut.wide_start_in, documents + L"\\Velnor");
+  const std::string program = ShortPath(local + L"\\Programs\\Velnor") + '\\';
+  ASSERT_EQ(Folder(program).Names(), kInstalled);
+  SpendADay({program + "velnor.exe", shortcut.wide_start_in});
+  const Tree data = ReadTree(ShortPath(shortcut.wide_start_in) + '\\');
+  EXPECT_EQ(data.at("users.ASC"), "Ann");
+  EXPECT_EQ(data.at("Ann\\bilans.ASC"), Today() + "\r\n70.\r\n1.75\r\n1.\r\n13.5");
+
+  ASSERT_EQ(RunCommand('"' + program + "uninstall.exe\" /S"), 0U);
+  ASSERT_TRUE(WaitUntil([] { return !DisplayedVersion(); }));
+  EXPECT_TRUE(WaitUntil([&] { return ReadTree(program).empty(); }));
+  EXPECT_EQ(ReadTree(ShortPath(shortcut.wide_start_in) + '\\'), data);
+  RemoveTree(ShortPath(account));
 }
 
 TEST_F(Install, RemovalLeavesWhatAPersonHasPutBesideTheProgram) {

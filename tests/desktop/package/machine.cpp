@@ -1,5 +1,6 @@
 #include "tests/desktop/package/machine.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <stdexcept>
@@ -10,6 +11,14 @@ namespace velnor::desktop {
 namespace {
 
 constexpr DWORD kPatience = 60'000;  // ms
+
+constexpr wchar_t kShellFolders[] =
+    LR"(Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders)";
+
+void SetShellFolder(const wchar_t* name, const std::wstring& path) {
+  RegSetKeyValueW(HKEY_CURRENT_USER, kShellFolders, name, REG_EXPAND_SZ, path.c_str(),
+                  static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
+}
 
 bool IsFolder(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -68,6 +77,31 @@ Tree ReadTree(const std::string& folder) {
   return tree;
 }
 
+std::string ShortPath(const std::wstring& path) {
+  std::array<wchar_t, MAX_PATH> name = {};
+  const DWORD length = GetShortPathNameW(path.c_str(), name.data(), MAX_PATH);
+  return {name.data(), name.data() + std::min<DWORD>(length, MAX_PATH)};
+}
+
+OtherKnownFolder::OtherKnownFolder(const wchar_t* name, const std::wstring& path) : name_(name) {
+  std::array<wchar_t, MAX_PATH> before = {};
+  DWORD size = sizeof before;
+  if (RegGetValueW(HKEY_CURRENT_USER, kShellFolders, name,
+                   RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND, nullptr, before.data(),
+                   &size) == ERROR_SUCCESS) {
+    before_ = before.data();
+  }
+  SetShellFolder(name, path);
+}
+
+OtherKnownFolder::~OtherKnownFolder() {
+  if (before_.empty()) {
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, kShellFolders, name_);
+  } else {
+    SetShellFolder(name_, before_);
+  }
+}
+
 void RemoveTree(const std::string& folder) {
   for (const std::string& name : Folder(folder).Names()) {
     if (IsFolder(folder + name)) {
@@ -100,6 +134,7 @@ Shortcut ReadShortcut(const std::string& path) {
   CoInitialize(nullptr);
   Shortcut shortcut;
   IShellLinkA* link = nullptr;
+  IShellLinkW* wide_link = nullptr;
   IPersistFile* file = nullptr;
   if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
                                  reinterpret_cast<void**>(&link))) &&
@@ -110,6 +145,12 @@ Shortcut ReadShortcut(const std::string& path) {
     shortcut.target = text.data();
     link->GetWorkingDirectory(text.data(), MAX_PATH);
     shortcut.start_in = text.data();
+    if (SUCCEEDED(link->QueryInterface(IID_IShellLinkW, reinterpret_cast<void**>(&wide_link)))) {
+      std::array<wchar_t, MAX_PATH> wide = {};
+      wide_link->GetWorkingDirectory(wide.data(), MAX_PATH);
+      shortcut.wide_start_in = wide.data();
+      wide_link->Release();
+    }
   }
   if (file != nullptr) file->Release();
   if (link != nullptr) link->Release();
