@@ -81,7 +81,7 @@ LockAnswer LockFolder(const std::string& folder, LockHandle& handle);
 void UnlockFolder(LockHandle handle);
 
 // Of the running process; no other has it now.
-unsigned long ProcessId();
+std::uint64_t ProcessId();
 
 void Pause(int milliseconds);
 

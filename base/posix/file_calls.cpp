@@ -91,9 +91,13 @@ std::optional<std::vector<FolderEntry>> ListFolder(const std::string& path) {
   while (const dirent* const entry = readdir(folder.get())) {
     std::string name = entry->d_name;
     if (name == "." || name == "..") continue;
-    // Some file systems do not tell here what it is; a separator behind it asks the long way.
-    const bool is_folder =
-        entry->d_type == DT_UNKNOWN ? HasFolder(path + '/' + name + '/') : entry->d_type == DT_DIR;
+    bool is_folder = entry->d_type == DT_DIR;
+    if (entry->d_type == DT_UNKNOWN) {
+      // Some file systems do not tell; a separator behind the name asks the long way.
+      std::string inner = path;
+      inner.append("/").append(name).append("/");
+      is_folder = HasFolder(inner);
+    }
     entries.push_back({std::move(name), is_folder});
     errno = 0;
   }
@@ -116,7 +120,7 @@ LockAnswer LockFolder(const std::string& folder, LockHandle& handle) {
 
 void UnlockFolder(LockHandle handle) { close(static_cast<int>(handle)); }
 
-unsigned long ProcessId() { return static_cast<unsigned long>(getpid()); }
+std::uint64_t ProcessId() { return static_cast<std::uint64_t>(getpid()); }
 
 void Pause(int milliseconds) { usleep(static_cast<useconds_t>(milliseconds) * 1000); }
 

@@ -199,7 +199,7 @@ LockAnswer LockFolder(const std::string& folder, LockHandle& handle) {
 
 void UnlockFolder(LockHandle handle) { CloseHandle(reinterpret_cast<HANDLE>(handle)); }
 
-unsigned long ProcessId() { return GetCurrentProcessId(); }
+std::uint64_t ProcessId() { return GetCurrentProcessId(); }
 
 void Pause(int milliseconds) { Sleep(static_cast<DWORD>(milliseconds)); }
 
