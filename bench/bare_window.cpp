@@ -50,7 +50,7 @@ HFONT FontOf(const ControlRow& row) {
   description.lfHeight = font.height;
   description.lfWeight = font.weight;
   description.lfCharSet = kCentralEuropean;
-  description.lfQuality = font.smooth ? ANTIALIASED_QUALITY : NONANTIALIASED_QUALITY;
+  description.lfQuality = ANTIALIASED_QUALITY;
   return CreateFontIndirectA(&description);
 }
 
