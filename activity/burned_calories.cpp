@@ -5,8 +5,11 @@
 #include <optional>
 
 #include "activity/activity_table.h"
+#include "base/file_calls.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -54,9 +57,11 @@ Burned CountBurned(std::string_view activity, std::string_view minutes) {
 }
 
 BurnedTotal::DayLine BurnedTotal::Read() const {
-  // On disk a line ends with CR LF, which counts as one character.
-  const std::optional<std::string> text = ReadFileToRewrite(Path(), kLineLimit + 1);
   DayLine result;
+  if (!session_.user) return result;
+  // On disk a line ends with CR LF, which counts as one character.
+  const std::optional<std::string> text =
+      ReadFileToRewrite(session_.user->File(kBurnedFile), kLineLimit + 1);
   if (!text) return result;
   std::string_view line = LineReader(*text, kLineLimit).Next().value_or("");
   result.date = NextField(line);
@@ -66,9 +71,17 @@ BurnedTotal::DayLine BurnedTotal::Read() const {
   return result;
 }
 
+bool BurnedTotal::IsOfAnotherDay(const DayLine& line) const {
+  return line.is_readable && !line.is_empty && !IsSameDay(line.date, session_.date_text);
+}
+
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
-  if (line.is_empty) AppendToFile(Path(), "");
+  if (line.is_empty && session_.user && !IsThere(session_.user->File(kBurnedFile))) {
+    Transaction deed(session_.base_folder);
+    deed.Append(session_.user->File(kBurnedFile), "");
+    deed.CommitUnreported();
+  }
   kcal_ = static_cast<float>(ParseNumber(line.kcal));
   return line;
 }
@@ -77,24 +90,33 @@ std::string BurnedTotal::Refresh() { return Take().kcal; }
 
 std::string BurnedTotal::RefreshForToday() {
   const DayLine line = Take();
-  const bool may_be_emptied = line.is_readable && !line.is_empty;
-  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) ReplaceFile(Path(), "");
+  if (!session_.user || !IsOfAnotherDay(line)) return line.kcal;
+  Transaction deed(session_.base_folder);
+  // Another program may have begun the day meanwhile.
+  if (IsOfAnotherDay(Read())) deed.Replace(session_.user->File(kBurnedFile), "");
+  deed.CommitUnreported();
   return line.kcal;
 }
 
 std::string BurnedTotal::Add(std::string_view burned) {
+  Transaction deed(session_.base_folder);
   const DayLine line = Read();
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
   if (line.is_readable) {
-    ReplaceFile(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);
+    deed.Replace(session_.user->File(kBurnedFile), session_.date_text + kFieldEnd + total + kFieldEnd);
   }
+  deed.CommitUnreported();
   return total;
 }
 
 void BurnedTotal::Clear() {
-  ReplaceFile(Path(), "");
+  if (session_.user) {
+    Transaction deed(session_.base_folder);
+    deed.Replace(session_.user->File(kBurnedFile), "");
+    deed.CommitUnreported();
+  }
   kcal_ = 0;
 }
 

@@ -10,8 +10,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kBurnedReportFile = "cwiczenia.ASC";
-
 // Characters that a figure of a record has at most; what a longer one has too much is cut off.
 inline constexpr std::size_t kRecordFigureLimit = 5;
 
@@ -28,9 +26,6 @@ struct BurnedRecord {
 // The record as it stands in the file: two lines, the first of which ends with two blanks, and a
 // line of 99 dashes. Lines end with LF here.
 std::string BurnedRecordText(const BurnedRecord& record);
-
-// Adds the record to the end of the report. False when the report is what it was before.
-bool AppendBurnedRecord(const std::string& path, const BurnedRecord& record);
 
 }  // namespace velnor
 

@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <utility>
 
+#include "base/transaction.h"
+#include "users/user_files.h"
+
 namespace velnor {
 namespace {
 
@@ -36,13 +39,16 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  AppendBurnedRecord(session_.UserFile(kBurnedReportFile),
-                     {.date = form.ReadText(kDate, kTextLimit),
-                      .activity = counted_activity_,
-                      .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                      .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                      .fat = form.ReadText(kFat, kRecordFigureLimit),
-                      .other = form.ReadText(kOther, kTextLimit)});
+  if (const auto path = session_.UserFile(kBurnedReportFile)) {
+    Transaction deed(session_.base_folder);
+    deed.Append(*path, BurnedRecordText({.date = form.ReadText(kDate, kTextLimit),
+                                         .activity = counted_activity_,
+                                         .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                                         .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                                         .fat = form.ReadText(kFat, kRecordFigureLimit),
+                                         .other = form.ReadText(kOther, kTextLimit)}));
+    deed.CommitUnreported();
+  }
   form.Close();
 }
 

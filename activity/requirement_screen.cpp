@@ -5,6 +5,8 @@
 #include <string>
 
 #include "base/number_text.h"
+#include "base/transaction.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -85,16 +87,17 @@ RequirementScreen::RequirementScreen(const SessionState& session, const UserProf
       window_(window),
       message_boxes_(message_boxes) {}
 
-std::string RequirementScreen::LimitsPath() const { return session_.UserFile(kLimitsFile); }
+PersonalLimits RequirementScreen::ReadLimits() const {
+  const std::optional<std::string> path = session_.UserFile(kLimitsFile);
+  return path ? ReadPersonalLimits(*path) : PersonalLimits();
+}
 
 void RequirementScreen::OnLogin() {
-  limits_ = ReadPersonalLimits(LimitsPath());
+  limits_ = ReadLimits();
   limits_active_ = limits_.ShowAsActive();
 }
 
-void RequirementScreen::Update() {
-  UpdateRequirement(profile_, ReadPersonalLimits(LimitsPath()), requirement_);
-}
+void RequirementScreen::Update() { UpdateRequirement(profile_, ReadLimits(), requirement_); }
 
 RequirementBounds RequirementScreen::DayBounds() const {
   return limits_active_ ? BoundsOf(limits_) : BoundsOf(requirement_);
@@ -153,13 +156,21 @@ void RequirementScreen::Activate() {
     message_boxes_.Show({.text = *fault});
     return;
   }
-  WritePersonalLimits(LimitsPath(), typed);
-  limits_ = ReadPersonalLimits(LimitsPath());
+  if (const auto path = session_.UserFile(kLimitsFile)) {
+    Transaction deed(session_.base_folder);
+    WritePersonalLimits(deed, *path, typed);
+    deed.CommitUnreported();
+  }
+  limits_ = ReadLimits();
   window_.Invalidate();
 }
 
 void RequirementScreen::Clear() {
-  WriteNoLimits(LimitsPath());
+  if (const auto path = session_.UserFile(kLimitsFile)) {
+    Transaction deed(session_.base_folder);
+    WriteNoLimits(deed, *path);
+    deed.CommitUnreported();
+  }
   limits_active_ = false;
   window_.Invalidate();
 }

@@ -43,9 +43,9 @@ void ChooseProduct(Stage& stage) {
 
 void AddPicking(std::vector<Deed>& deeds, const FoodTable& food) {
   const std::vector<std::string> subcategories =
-      Texts(ListSubcategories(food, Layout::kCounter, kFood[0]));
+      Texts(ListSubcategories(food, Matching::kCounter, kFood[0]));
   const std::vector<std::string> products =
-      Texts(ListProducts(food, Layout::kCounter, kFood[0], kFood[1]));
+      Texts(ListProducts(food, Matching::kCounter, kFood[0], kFood[1]));
   const Work counter = {On(kOpenCounter), Do(kScreen, kCounterScreen)};
   const Work fill_subcategories = {On(124, kChosen), Do(kFill, 125, subcategories), Do(kFill, 126)};
   const Work fill_products = {On(125, kChosen), Do(kFill, 126, products)};

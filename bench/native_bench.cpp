@@ -29,6 +29,7 @@ constexpr ComparedRow kInMemory[] = {
     {"3000 user products reloaded", "Reload/3000", "ReloadFloor", 2},
     {"16 numbers to text, 6 digits", "Format/6", "FormatFloor/6", 1},
     {"16 numbers to text, 8 digits", "Format/8", "FormatFloor/8", 1},
+    {"diary of ten years, beside reading it", "Diary/3652", "DiaryFloor/3652", 0},
 };
 
 struct GrowthRow {
@@ -47,12 +48,47 @@ constexpr GrowthRow kByProducts[] = {
      {nullptr, "ProductRemove/300/real_time", "ProductRemove/3000/real_time"}},
 };
 
+// With ten years of history.
+constexpr GrowthRow kQuickAdd[] = {
+    {"key, 1 letter",
+     {"QuickFindKey/0/0/40000", "QuickFindKey/0/300/40000", "QuickFindKey/0/3000/40000"}},
+    {"key, 3 letters",
+     {"QuickFindKey/1/0/40000", "QuickFindKey/1/300/40000", "QuickFindKey/1/3000/40000"}},
+    {"key, 2 words",
+     {"QuickFindKey/2/0/40000", "QuickFindKey/2/300/40000", "QuickFindKey/2/3000/40000"}},
+    {"key, nothing found",
+     {"QuickFindKey/3/0/40000", "QuickFindKey/3/300/40000", "QuickFindKey/3/3000/40000"}},
+    {"what is eaten at this time",
+     {"QuickFindEmpty/0/40000", "QuickFindEmpty/300/40000", "QuickFindEmpty/3000/40000"}},
+    {"first key after the products changed",
+     {"QuickFindFirstKey/0", "QuickFindFirstKey/300", "QuickFindFirstKey/3000"}},
+};
+
+constexpr GrowthRow kByHistory[] = {
+    {"habits read", {"HabitsRead/0", "HabitsRead/4000", "HabitsRead/40000"}},
+};
+
 constexpr GrowthRow kByBytes[] = {
     {"record added to a report",
      {"ReportAppend/1000/real_time", "ReportAppend/100000/real_time",
       "ReportAppend/10000000/real_time"}},
     {"report read",
      {"ReportRead/1000/real_time", "ReportRead/100000/real_time", "ReportRead/10000000/real_time"}},
+};
+
+constexpr GrowthRow kByHistory[] = {
+    {"diary made of a history", {"Diary/30", "Diary/365", "Diary/3652"}},
+};
+
+struct AllowedRow {
+  const char* what;
+  const char* measured;
+  double microseconds;
+};
+
+// What a person waits for after a key is measured against what is not felt as waiting.
+constexpr AllowedRow kAllowed[] = {
+    {"diary of ten years", "Diary/3652", 150'000},
 };
 
 // Keeps the median of every benchmark, in microseconds, and says nothing until the end.
@@ -96,6 +132,15 @@ std::vector<Comparison> Compare(MedianReporter& medians, std::span<const Compare
   return compared;
 }
 
+std::vector<Comparison> CompareAllowed(MedianReporter& medians) {
+  std::vector<Comparison> compared;
+  for (const AllowedRow& row : kAllowed) {
+    const std::optional<double> measured = medians.Find(row.measured);
+    if (measured) compared.push_back({row.what, *measured, row.microseconds, 1});
+  }
+  return compared;
+}
+
 std::vector<Growth> Grow(MedianReporter& medians, std::span<const GrowthRow> rows) {
   std::vector<Growth> grown;
   for (const GrowthRow& row : rows) {
@@ -123,10 +168,16 @@ int Run(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks(&medians);
   PrintComparisons("in memory", "us", Compare(medians, kInMemory));
   PrintComparisons("to the disk", "us", CompareFileWork());
+  PrintComparisons("beside what is allowed", "us", CompareAllowed(medians));
   PrintGrowth("by products of the user's", "us", {"0", "300", "3000"}, Grow(medians, kByProducts));
+  PrintGrowth("quick add, by products of the user's", "us", {"0", "300", "3000"},
+              Grow(medians, kQuickAdd));
+  PrintGrowth("quick add, by lines of history", "us", {"0", "4,000", "40,000"},
+              Grow(medians, kByHistory));
   PrintGrowth("by days in the chart", "us", {"1", "20"}, GrowFileWork());
   PrintGrowth("by bytes of a report", "us", {"1,000", "100,000", "10,000,000"},
               Grow(medians, kByBytes));
+  PrintGrowth("by days of a history", "us", {"30", "365", "3652"}, Grow(medians, kByHistory));
   return medians.complete() ? 0 : 1;
 }
 

@@ -4,7 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/file_calls.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 #include "charts/chart.h"
 
 namespace velnor {
@@ -99,10 +101,14 @@ void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
 
 ChartSeries LoadSeries(const Chart& chart, const SessionState& session) {
   // Without a user there is no folder that a series could lie in.
-  if (session.user_name.empty()) return {};
-  const std::string path = session.UserFile(chart.file);
+  if (!session.user) return {};
+  const std::string path = session.user->File(chart.file);
   ChartSeries series = LoadChartFile(path);
-  if (series.file_is_empty) AppendToFile(path, "");  // makes it when it is missing
+  if (series.file_is_empty && !IsThere(path)) {
+    Transaction deed(session.base_folder);
+    deed.Append(path, "");
+    deed.CommitUnreported();
+  }
   return series;
 }
 

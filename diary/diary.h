@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "activity/requirement.h"
-#include "base/session.h"
+#include "base/user_folder.h"
 #include "users/profile.h"
 
 namespace velnor {
@@ -32,9 +32,10 @@ struct DiaryFiles {
 // known.
 DiaryFiles MakeDiary(const DiaryInputs& inputs);
 
-// Writes the files into the folder of the user who is logged in. False when they hold what they
-// held before.
-[[nodiscard]] bool WriteDiary(const SessionState& session, const DiaryFiles& files);
+// Writes the files into the folder of the user, which lies in `base_folder`, all of them or none.
+// Returns false if they hold what they held before.
+[[nodiscard]] bool WriteDiary(const std::string& base_folder, const UserFolder& user,
+                              const DiaryFiles& files);
 
 }  // namespace velnor
 

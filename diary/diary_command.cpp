@@ -6,8 +6,7 @@
 
 #include "base/text_file.h"
 #include "diary/diary.h"
-#include "diary/page.h"
-#include "users/history_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -22,9 +21,10 @@ constexpr std::string_view kNoBrowser = "No browser could be opened. The diary i
 }  // namespace
 
 void DiaryCommand::Run(const UserProfile& profile, const RequirementBounds& requirement) const {
-  if (session_.user_name.empty()) return;
+  if (!session_.user) return;
+  const UserFolder& user = *session_.user;
   const std::optional<std::string> history =
-      ReadFileToRewrite(session_.UserFile(kHistoryFile), kHistoryLimit);
+      ReadFileToRewrite(user.File(kHistoryFile), kHistoryLimit);
   if (!history) {
     message_boxes_.Show({.text = kNotRead});
     return;
@@ -33,16 +33,15 @@ void DiaryCommand::Run(const UserProfile& profile, const RequirementBounds& requ
                                       .profile = profile,
                                       .requirement = requirement,
                                       .date_text = session_.date_text,
-                                      .user_name = session_.user_name});
-  if (!WriteDiary(session_, files)) {
+                                      .user_name = user.name()});
+  if (!WriteDiary(session_.base_folder, user, files)) {
     message_boxes_.Show({.text = kNotWritten});
     return;
   }
-  const std::string page = session_.UserFile(kDiaryPageFile);
+  const std::string page = user.File(kDiaryPageFile);
   if (window_.OpenInBrowser(page)) return;
   message_boxes_.Show({.text = std::string(kNoBrowser) + "\n\n" + page + '\n' +
-                               session_.UserFile(kDiaryDaysFile) + '\n' +
-                               session_.UserFile(kDiaryDeedsFile)});
+                               user.File(kDiaryDaysFile) + '\n' + user.File(kDiaryDeedsFile)});
 }
 
 }  // namespace velnor

@@ -2,6 +2,7 @@
 
 #include "diary/markup.h"
 #include "diary/page_style.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {

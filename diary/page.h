@@ -16,11 +16,6 @@
 
 namespace velnor {
 
-// The files of the diary, which the page names.
-inline constexpr std::string_view kDiaryPageFile = "dziennik.html";
-inline constexpr std::string_view kDiaryDaysFile = "dziennik-dni.csv";
-inline constexpr std::string_view kDiaryDeedsFile = "dziennik-potrawy.csv";
-
 // What all sections draw from.
 struct DiaryContent {
   DayTable table = {};

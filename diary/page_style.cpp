@@ -63,7 +63,7 @@ figcaption p{font-size:15px;color:var(--soft);max-width:72ch;margin-top:2px}
 .blue{background:var(--blue)}.vermilion{background:var(--vermilion)}.purple{background:var(--purple)}
 svg{display:block;width:100%;height:auto;font:13px system-ui,-apple-system,"Segoe UI",Roboto,"Liberation Sans",Arial,sans-serif;
  font-variant-numeric:tabular-nums}
-svg.narrow{display:none}
+.narrow{display:none}
 svg path{fill:none;stroke-linecap:butt;stroke-linejoin:round}
 .label,.unit,.nothing{fill:var(--soft)}
 .number{fill:var(--ink);paint-order:stroke;stroke:var(--card);stroke-width:4px;stroke-linejoin:round;font-weight:600}
@@ -134,7 +134,8 @@ footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
  .tiles,.facts{grid-template-columns:repeat(2,minmax(0,1fr));gap:12px}
  .tile{padding:14px 16px}
  .tile .value{font-size:23px}
- svg.wide{display:none}
+ .wide{display:none}
+ .narrow{display:inline}
  svg.narrow{display:block;max-width:460px;margin:0 auto}
  summary{grid-template-columns:minmax(0,1fr) auto 14px;padding:10px 16px}
  summary::after{grid-column:3}
@@ -159,8 +160,9 @@ footer{color:var(--soft);font-size:13.5px;padding-top:44px;padding-bottom:56px}
  .files,.ranges,summary::after{display:none}
  .card,figure,.tile,.days{border-radius:6px}
  figure,.card,.tile,details,.month>p,tr{break-inside:avoid}
+ .wide{display:inline}
  svg.wide{display:block}
- svg.narrow{display:none}
+ .narrow,svg.narrow{display:none}
  .month>p{break-after:avoid}
  .big{font-size:32px}
  .tile{padding:12px 14px}

@@ -64,10 +64,14 @@ void DrawMassIndex(SvgDrawing& drawing, const PlotShape& shape, const PlotPanel&
   drawing.Text({shape.width, panel.top - kUnitAbove}, TextAnchor::kEnd, "BMI", "unit");
 }
 
+bool IsDense(const TimeAxis& time) { return time.DayWidth() < kSmallPoints; }
+
 void DrawTrend(SvgDrawing& drawing, std::span<const DayValue> trend, const PlotInput& input,
                const TimeAxis& time, const PlotPanel& panel) {
   const ThinnedValues line = ThinOut(trend, input.shape, input.range);
-  drawing.Path(CurveThrough(line.values, time, panel, kMostTrendDays + line.step), "smooth");
+  const SvgPath curve = CurveThrough(line.values, time, panel, kMostTrendDays + line.step);
+  if (IsDense(time)) drawing.Path(curve, "casing");
+  drawing.Path(curve, "smooth");
 }
 
 void DrawPoints(SvgDrawing& drawing, std::span<const DayValue> points, const TimeAxis& time,
@@ -84,7 +88,7 @@ void DrawPoints(SvgDrawing& drawing, std::span<const DayValue> points, const Tim
       dots.Dot({x, panel.Y(point.value)});
     }
   }
-  drawing.Path(dots, time.DayWidth() < kSmallPoints ? "points small" : "points");
+  drawing.Path(dots, IsDense(time) ? "points small" : "points");
   drawing.Path(beyond, "beyond");
 }
 
@@ -114,8 +118,10 @@ std::string DrawWeightPlot(const PlotInput& input, std::span<const DayValue> wei
   panel.axis = *axis;
   DrawValueAxis(drawing, shape, panel, "kg");
   if (height) DrawMassIndex(drawing, shape, panel, *height);
-  DrawTrend(drawing, trend, input, time, panel);
+  // Few points lie on the line, so that none is lost; many would hide it.
+  if (!IsDense(time)) DrawTrend(drawing, trend, input, time, panel);
   DrawPoints(drawing, Within(weights, input.range), time, panel);
+  if (IsDense(time)) DrawTrend(drawing, trend, input, time, panel);
   DrawTimeAxis(drawing, shape, panel, time);
   return drawing.Finish();
 }

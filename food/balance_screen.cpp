@@ -126,7 +126,7 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
 
 }  // namespace
 
-void PaintBalance(Canvas& canvas, const DayBalance& day, const DailyRequirement& requirement) {
+void PaintBalance(Canvas& canvas, DayBalance& day, const DailyRequirement& requirement) {
   day.MakeExchangeFiles();
   const DayTotals totals = day.ReadTotals().value_or(DayTotals{});
   PaintHead(canvas, day.ReadExchanges());

@@ -1,7 +1,8 @@
 #include "food/recipe_record_dialog.h"
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "food/recipe_record.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -31,10 +32,13 @@ void RecipeRecordDialog::OnCommand(Form& form, int id, int notification) {
 
 // Whether the record could be written is not reported.
 void RecipeRecordDialog::Save(const Form& form) const {
-  AppendToFile(session_.UserFile(kRecipeReportFile),
-               RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
-                                 list_.Totals(kTotalLimit), composition_,
-                                 form.ReadText(kRecipe, kRecipeLimit)}));
+  const std::optional<std::string> path = session_.UserFile(kRecipeReportFile);
+  if (!path) return;
+  Transaction deed(session_.base_folder);
+  deed.Append(*path, RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
+                                       list_.Totals(kTotalLimit), composition_,
+                                       form.ReadText(kRecipe, kRecipeLimit)}));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

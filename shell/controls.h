@@ -41,7 +41,9 @@ struct ControlRow {
   const char* text;
   std::uint32_t style;
   Rectangle place;
-  std::size_t limit = 0;  // characters that can be typed into it; 0: nothing can, or any number
+  std::size_t limit = 0;   // characters that can be typed into it; 0: nothing can, or any number
+  const char* label = "";  // of a field: the text painted beside it, without what ends it
+  bool holds_number = false;
 
   // Every control has a sunken edge, only group boxes have none.
   bool has_sunken_edge() const { return style != control_style::kGroupBox; }

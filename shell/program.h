@@ -65,6 +65,7 @@ class Program {
   void OpenUsers();
   void OpenProfile();
   void OpenAddProduct();
+  void OpenImportProducts();
   void OpenRemoveProduct();
   void OpenSearch();
   void OpenCalorieRecord();
@@ -86,7 +87,7 @@ class Program {
   EnergyScreen& energy() { return energy_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
-  const DayBalance& day() const { return day_; }
+  DayBalance& day() { return day_; }
   const SessionState& session() const { return session_; }
 
  private:

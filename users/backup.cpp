@@ -1,7 +1,6 @@
 #include "users/backup.h"
 
 #include <algorithm>
-#include <limits>
 #include <set>
 
 #include "base/file_calls.h"
@@ -11,12 +10,11 @@
 #include "base/transaction.h"
 #include "users/history_file.h"
 #include "users/profile.h"
+#include "users/user_files.h"
 #include "users/user_registry.h"
 
 namespace velnor {
 namespace {
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 // The shared files of a data folder.
 constexpr std::string_view kSharedFiles[] = {kRegistryFile, "data.txt"};
@@ -71,12 +69,12 @@ class Copier {
  public:
   // False when the file could not be copied or is not the same when it is read back.
   bool Copy(const std::string& from, const std::string& to) {
-    const std::optional<std::string> bytes = ReadFileToRewrite(from, kNoLimit);
+    const std::optional<std::string> bytes = ReadFileToRewrite(from, kWholeFile);
     return bytes && Write(to, *bytes);
   }
 
   bool Write(const std::string& to, std::string_view bytes) {
-    if (!WriteNewFile(to, bytes) || ReadFileToRewrite(to, kNoLimit) != bytes) return false;
+    if (!WriteNewFile(to, bytes) || ReadFileToRewrite(to, kWholeFile) != bytes) return false;
     ++size_.files;
     size_.bytes += bytes.size();
     return true;

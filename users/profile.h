@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-namespace velnor {
+#include "base/transaction.h"
 
-inline constexpr std::string_view kProfileFile = "info.ASC";
+namespace velnor {
 
 // Texts as they were typed or chosen, at most kLimit characters each. Readers test sex and other by
 // their first letter. Empty or "0": not given.
@@ -47,9 +47,8 @@ UserProfile ProfileOf(const ProfileLines& lines);
 // Whether age and height are known and sex and life style have three characters or more.
 bool IsComplete(const UserProfile& profile);
 
-// Writes the lines, "0" for each empty one, without a line end behind the last. False when the file
-// keeps what it held.
-bool WriteProfileLines(const std::string& path, const ProfileLines& lines);
+// Writes the lines, "0" for each empty one, without a line end behind the last.
+void WriteProfileLines(Transaction& deed, const std::string& path, const ProfileLines& lines);
 
 }  // namespace velnor
 

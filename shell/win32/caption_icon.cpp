@@ -1,5 +1,7 @@
 #include "shell/win32/caption_icon.h"
 
+#include <initializer_list>
+
 namespace velnor {
 namespace {
 
@@ -26,7 +28,8 @@ HICON ProgramIcon() {
 
 void SetCaptionIcon(HWND window) {
   const auto icon = reinterpret_cast<LPARAM>(ProgramIcon());
-  for (const WPARAM size : {ICON_SMALL, ICON_BIG}) SendMessageA(window, WM_SETICON, size, icon);
+  for (const WPARAM size : {WPARAM{ICON_SMALL}, WPARAM{ICON_BIG}})
+    SendMessageA(window, WM_SETICON, size, icon);
 }
 
 BoxIcons::BoxIcons()

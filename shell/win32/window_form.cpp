@@ -4,6 +4,7 @@
 #include <array>
 
 #include "shell/win32/list_order.h"
+#include "shell/win32/number_field.h"
 
 namespace velnor {
 namespace {
@@ -156,6 +157,8 @@ void WindowForm::LimitText(int id, std::size_t limit) {
   SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
 }
 
+void WindowForm::TakeNumbers(int id) { MarkNumberField(Control(id)); }
+
 int WindowForm::ItemCount(int id) const {
   const HWND control = Control(id);
   const LRESULT count = SendMessageA(control, MessagesOf(control).count, 0, 0);
@@ -197,11 +200,16 @@ void WindowForm::SelectItem(int id, int index) {
   SendMessageA(control, MessagesOf(control).select, static_cast<WPARAM>(index), 0);
 }
 
-std::optional<std::string> WindowForm::SelectedText(int id) const {
+std::optional<int> WindowForm::SelectedItem(int id) const {
   const HWND control = Control(id);
   const LRESULT selection = SendMessageA(control, MessagesOf(control).selection, 0, 0);
   if (control == nullptr || selection < 0) return std::nullopt;
-  return ItemText(id, static_cast<int>(selection));
+  return static_cast<int>(selection);
+}
+
+std::optional<std::string> WindowForm::SelectedText(int id) const {
+  const std::optional<int> selection = SelectedItem(id);
+  return selection ? std::optional(ItemText(id, *selection)) : std::nullopt;
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
@@ -214,6 +222,8 @@ void WindowForm::RemoveItem(int id, int index) {
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
+
+void WindowForm::SelectAllText(int id) { SendMessageA(Control(id), EM_SETSEL, 0, -1); }
 
 void WindowForm::SetDefaultButton(int id) {
   SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
@@ -248,6 +258,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.holds_number) MarkNumberField(control);
     if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
@@ -285,6 +296,21 @@ void MainForm::ShowChosen() {
       InvalidateRect(control, nullptr, FALSE);
     }
   }
+}
+
+std::vector<int> MainForm::UsableKeys() const {
+  std::vector<int> keys;
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && IsWindowEnabled(control) != FALSE) keys.push_back(key);
+  }
+  return keys;
+}
+
+int MainForm::KeyOf(HWND control) const {
+  for (const auto& [key, candidate] : controls_by_key_) {
+    if (candidate == control) return key;
+  }
+  return 0;
 }
 
 HWND MainForm::Control(int key) const {

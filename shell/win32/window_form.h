@@ -7,6 +7,7 @@
 
 #include <map>
 #include <set>
+#include <vector>
 
 #include "base/form.h"
 #include "shell/controls.h"
@@ -22,16 +23,19 @@ class WindowForm : public Form {
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   void LimitText(int id, std::size_t limit) override;
+  void TakeNumbers(int id) override;
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
+  std::optional<int> SelectedItem(int id) const override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SelectAllText(int id) override;
   void SetDefaultButton(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
@@ -66,6 +70,13 @@ class MainForm final : public WindowForm {
   void ClipTo(HDC context) const;
   // After that: shows what the repaint showed, and draws the frames that the picture went over.
   void ShowChosen();
+
+  // The keys of the controls that a person can reach now.
+  std::vector<int> UsableKeys() const;
+  // The key of a control; 0 for any other window.
+  int KeyOf(HWND control) const;
+  // By key; null when there is none.
+  HWND Find(int key) const { return Control(key); }
 
  protected:
   HWND Control(int key) const override;

@@ -1,7 +1,6 @@
 // What all dialogs and edits have in common: the icon in the caption, how much can be pasted, the
 // key Enter, and that a dialog ends with the session of its user.
 
-#include <cstring>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -46,14 +45,11 @@ class Dialogs : public testing::Test {
   WorkFolder folder_;
 };
 
-// Icons are known by their handle, which the windows of one process share.
-LRESULT IconOf(HWND window, WPARAM size) { return SendMessageA(window, WM_GETICON, size, 0); }
-
 void ExpectProgramIcon(const App& app, HWND window, const std::string& what) {
-  const auto program = static_cast<LRESULT>(GetClassLongPtrA(app.main().handle(), GCLP_HICON));
-  EXPECT_NE(program, 0);
-  EXPECT_EQ(IconOf(window, ICON_SMALL), program) << what;
-  EXPECT_EQ(IconOf(window, ICON_BIG), program) << what;
+  const DWORD icon = app.Icon();
+  EXPECT_NE(icon, 0U);
+  EXPECT_EQ(app.CaptionIcon(window, ICON_SMALL), icon) << what;
+  EXPECT_EQ(app.CaptionIcon(window, ICON_BIG), icon) << what;
 }
 
 TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
@@ -79,44 +75,33 @@ TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
   Answer(box, IDOK);
 }
 
-void PutOnClipboard(const std::string& text) {
-  ASSERT_TRUE(WaitUntil([] { return OpenClipboard(nullptr) != FALSE; }));
-  EmptyClipboard();
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-  std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
-  GlobalUnlock(memory);
-  SetClipboardData(CF_TEXT, memory);
-  CloseClipboard();
-}
-
-// What the edit holds when a text has been pasted over the one it held; "(hangs)" when the program
-// does not come to an end with it.
-std::string Paste(HWND edit) {
+// What the field holds when the text has come in place of the one it held, as typing and pasting
+// make it come; "(hangs)" when the program does not come to an end with it. The clipboard is left
+// alone: all programs of the display share it.
+std::string Paste(const Window& window, int id, const std::string& text) {
   constexpr UINT kPatience = 20'000;  // milliseconds
+  const HWND edit = window.Control(id);
   SendMessageA(edit, EM_SETSEL, 0, -1);
   DWORD_PTR result = 0;
-  if (SendMessageTimeoutA(edit, WM_PASTE, 0, 0, SMTO_NORMAL, kPatience, &result) == 0) {
-    return "(hangs)";
-  }
-  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(edit)) + 1, '\0');
-  text.resize(static_cast<std::size_t>(
-      SendMessageA(edit, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-  return text;
+  const bool ends =
+      SendMessageTimeoutA(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()),
+                          SMTO_NORMAL, kPatience, &result) != 0;
+  return ends ? window.Text(id) : "(hangs)";
 }
 
 // A field of the main window takes no more than fits its width, either.
 TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
   const App app(folder_);
   LogIn(app);
-  PutOnClipboard(std::string(1'000'000, '1'));
+  const std::string much(1'000'000, '1');
   for (const int id : {101, 104, 105, 111, 128, 160, 166, 173, 181}) {
-    const HWND edit = app.main().Control(id);
-    const std::string pasted = Paste(edit);
+    const std::string pasted = Paste(app.main(), id, much);
     EXPECT_TRUE(!pasted.empty() && pasted.find_first_not_of('1') == std::string::npos)
         << id << ' ' << pasted;
-    EXPECT_LE(pasted.size(), static_cast<std::size_t>(SendMessageA(edit, EM_GETLIMITTEXT, 0, 0)));
+    EXPECT_LE(pasted.size(), static_cast<std::size_t>(
+                                 SendMessageA(app.main().Control(id), EM_GETLIMITTEXT, 0, 0)));
   }
-  EXPECT_EQ(Paste(app.main().Control(111)), "1111");
+  EXPECT_EQ(Paste(app.main(), 111, much), "1111");
   EXPECT_EQ(SendMessageA(app.main().Control(128), EM_GETLIMITTEXT, 0, 0), 30);
 
   struct {
@@ -127,7 +112,7 @@ TEST_F(Dialogs, AMegabyteIsPastedAtOnceAndLeavesWhatCountsOfIt) {
                       {145, 723, 99},          {147, 724, 99}, {147, 725, 499}, {162, 745, 26}};
   for (const auto& [command, id, limit] : fields) {
     const Window dialog = Open(app, command);
-    EXPECT_EQ(Paste(dialog.Control(id)).size(), limit) << command << ' ' << id;
+    EXPECT_EQ(Paste(dialog, id, much).size(), limit) << command << ' ' << id;
     Close(dialog, IDCANCEL);
   }
 }

@@ -72,6 +72,14 @@ HWND FindTopWindow(DWORD process_id, const char* class_name, HWND known = nullpt
   return nullptr;
 }
 
+std::wstring Wide(const std::string& narrow) {
+  const int size = static_cast<int>(narrow.size());
+  std::wstring wide(narrow.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_ACP, 0, narrow.data(), size, wide.data(), size)));
+  return wide;
+}
+
 std::string ToNarrow(const std::wstring& wide) {
   const int size = static_cast<int>(wide.size());
   std::string narrow(wide.size() * 2, '\0');
@@ -281,13 +289,15 @@ void Window::SavePicture(const std::string& path) const {
 
 App::App(const WorkFolder& folder) : App(ProgramPath(), folder) {}
 
-App::App(const std::string& program, const Folder& folder) {
-  std::string command_line = '"' + program + '"';
-  STARTUPINFOA start = {};
+App::App(const std::string& program, const Folder& folder) : App(program, Wide(folder.path())) {}
+
+App::App(const std::string& program, const std::wstring& folder) {
+  std::wstring command_line = L'"' + Wide(program) + L'"';
+  STARTUPINFOW start = {};
   start.cb = sizeof start;
-  if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     folder.path().c_str(), &start, &process_) == 0) {
-    throw std::runtime_error("cannot start " + command_line);
+  if (CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     folder.c_str(), &start, &process_) == 0) {
+    throw std::runtime_error("cannot start " + program);
   }
   HWND window = nullptr;
   WaitUntil([&] {
@@ -362,10 +372,23 @@ DWORD App::CallInside(const char* function, std::vector<ULONG_PTR> arguments) co
 
 std::vector<App::MenuItem> App::ReadMenu() const {
   Settle();
+  return ItemsOf(GetMenu(main_.handle()));
+}
+
+std::vector<App::MenuItem> App::ItemsOf(HMENU menu) const {
   Sleep(kQuiet);
   std::vector<MenuItem> items;
-  AppendMenu(reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle())), items);
+  AppendMenu(reinterpret_cast<ULONG_PTR>(menu), items);
   return items;
+}
+
+RECT App::ItemPlace(HMENU menu, UINT position) const {
+  RECT place = {};
+  const RemoteMemory buffer(process_.hProcess, sizeof place, PAGE_READWRITE);
+  CallInside("GetMenuItemRect", {0, reinterpret_cast<ULONG_PTR>(menu), position,
+                                 reinterpret_cast<ULONG_PTR>(buffer.address())});
+  buffer.Read(&place, sizeof place);
+  return place;
 }
 
 void App::AppendMenu(ULONG_PTR menu, std::vector<MenuItem>& items) const {
@@ -392,6 +415,15 @@ std::map<int, bool> App::MenuStates() const {
     if (item.id > 0) states[item.id] = item.enabled;
   }
   return states;
+}
+
+DWORD App::Icon() const {
+  return CallInside("GetClassLongPtrA", {reinterpret_cast<ULONG_PTR>(main_.handle()),
+                                         static_cast<ULONG_PTR>(GCLP_HICON)});
+}
+
+DWORD App::CaptionIcon(HWND window, WPARAM size) const {
+  return CallInside("SendMessageA", {reinterpret_cast<ULONG_PTR>(window), WM_GETICON, size});
 }
 
 Window App::WaitForPopup(const Window& known) const {

@@ -88,6 +88,8 @@ class App {
   explicit App(const WorkFolder& folder);
   // The same with another copy of the program, by its path.
   App(const std::string& program, const Folder& folder);
+  // The same in a folder that may have any name.
+  App(const std::string& program, const std::wstring& folder);
   App(const App&) = delete;
   App& operator=(const App&) = delete;
   ~App();
@@ -107,8 +109,17 @@ class App {
     bool enabled;
   };
   std::vector<MenuItem> ReadMenu() const;
+  // The items of another menu of the program, and where one of them is on the display while its
+  // menu is open.
+  std::vector<MenuItem> ItemsOf(HMENU menu) const;
+  RECT ItemPlace(HMENU menu, UINT position) const;
   // Whether each item of the menu can be chosen, by its command.
   std::map<int, bool> MenuStates() const;
+
+  // The icon of the program, and the one that a window was given for its caption (ICON_SMALL or
+  // ICON_BIG), by their handles; 0: none. Wine tells other programs nothing of icons.
+  DWORD Icon() const;
+  DWORD CaptionIcon(HWND window, WPARAM size) const;
 
   // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
   // or an empty box when none comes.
@@ -155,9 +166,12 @@ bool WaitUntilGone(HWND window);
 
 // Real input events, which go to whatever window is in front, as from mouse and keyboard.
 void ClickOn(HWND control);
+void ClickAt(POINT on_display);
+void RightClickAt(POINT on_display);
 void TurnWheel(int distance);          // negative: towards the person; goes where the focus is
 void TypeKeys(std::string_view keys);  // letters, digits and points
-void PressKey(WORD virtual_key, bool with_alt = false);
+enum class KeyModifier { kNone, kAlt, kControl, kShift };
+void PressKey(WORD virtual_key, KeyModifier modifier = KeyModifier::kNone);
 
 }  // namespace velnor::desktop
 

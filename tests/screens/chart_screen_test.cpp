@@ -46,7 +46,7 @@ class ChartScreenTest : public ProgramTest {
     OpenDialog(200, login);
     login.Choose(700, "Ann");
     login.Press(1);
-    ASSERT_EQ(program_->session().user_name, "Ann");
+    ASSERT_EQ(program_->session().user.value().name(), "Ann");
     boxes_.TakeTexts();
   }
 };

@@ -48,22 +48,27 @@ class FakeForm final : public Form {
   // Of a multi-line edit, counted from 0. It shows kVisibleLines of them.
   int FirstVisibleLine(int id) const;
   static constexpr int kVisibleLines = 30;
-  // Moves of the focus and closings, in order.
+  // The fields in which a typed comma is a point.
+  const std::set<int>& NumberFields() const { return number_fields_; }
+  // Moves of the focus, selections of whole texts and closings, in order.
   const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   void LimitText(int id, std::size_t limit) override;
+  void TakeNumbers(int id) override { number_fields_.insert(id); }
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
+  std::optional<int> SelectedItem(int id) const override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SelectAllText(int id) override;
   void SetDefaultButton(int id) override { default_button_ = id; }
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;
@@ -93,6 +98,7 @@ class FakeForm final : public Form {
   std::map<int, Control> controls_;
   int focused_ = 0;
   int default_button_ = kOkButton;
+  std::set<int> number_fields_;
   std::vector<std::string> log_;
   Listener listener_;
 };

@@ -41,6 +41,10 @@ class FakeMainWindow final : public MainWindow {
     log.push_back("choose " + std::string(kind.patterns));
     return file_to_choose;
   }
+  bool OpenGuideFile(std::string_view name) override {
+    log.push_back("guide " + std::string(name));
+    return name == guide;
+  }
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
   }
@@ -56,6 +60,7 @@ class FakeMainWindow final : public MainWindow {
   std::vector<std::string> log;
   std::optional<std::string> file_to_choose;  // what the person will choose
   std::function<void()> on_paint_now;
+  std::string guide;               // the file that can be opened as the guide
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::shared_ptr<Dialog> opened;  // the last one
 

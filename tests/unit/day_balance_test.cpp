@@ -36,12 +36,14 @@ class DayBalanceTest : public testing::Test {
   std::string After(std::string_view bytes, const std::string& date = "5.3.2026") {
     session_.date_text = date;
     Write("bilans.ASC", bytes);
-    day_.StartDayIfNew();
+    EXPECT_TRUE(day_.StartDayIfNew());
     return Read("bilans.ASC");
   }
 
   TemporaryFolder folder_;
-  SessionState session_{.user_name = "Ann", .base_folder = folder_.path(), .date_text = "5.3.2026"};
+  SessionState session_{.user = UserFolder::In(folder_.path(), "Ann"),
+                        .base_folder = folder_.path(),
+                        .date_text = "5.3.2026"};
   DayBalance day_{session_};
 };
 
@@ -91,7 +93,7 @@ TEST_F(DayBalanceTest, LongAndBinaryFilesAreOtherDays) {
 }
 
 TEST_F(DayBalanceTest, WithoutTheFolderNothingHappens) {
-  session_.user_name = "nobody";
+  session_.user = UserFolder::In(folder_.path(), "nobody");
   EXPECT_FALSE(day_.StartDayIfNew());
   EXPECT_FALSE(day_.Add({1, 2, 3, 4}));
   EXPECT_FALSE(day_.Add({1, 2, 3, 4}, DayExchanges{1, 2}));

@@ -165,8 +165,9 @@ class DiaryCommandTest : public testing::Test {
   TemporaryFolder folder_;
   FakeMainWindow window_;
   FakeMessageBoxes boxes_;
-  SessionState session_ = {
-      .user_name = "Ann", .base_folder = folder_.path(), .date_text = std::string(kToday)};
+  SessionState session_ = {.user = UserFolder::In(folder_.path(), "Ann"),
+                           .base_folder = folder_.path(),
+                           .date_text = std::string(kToday)};
 };
 
 TEST_F(DiaryCommandTest, WritesThreeFilesAndOpensThePage) {
@@ -215,7 +216,7 @@ TEST_F(DiaryCommandTest, WhatCannotBeReadIsSaidAndNothingWritten) {
 }
 
 TEST_F(DiaryCommandTest, WithoutAUserNothingHappens) {
-  session_.user_name.clear();
+  session_.user.reset();
   Run();
   EXPECT_TRUE(boxes_.shown.empty());
   EXPECT_TRUE(window_.log.empty());
