@@ -33,6 +33,16 @@ std::string Today() {
   return DateText(now.wDay, now.wMonth, now.wYear);
 }
 
+// As the frame draws itself over the picture.
+void DrawFrame(HWND window, HWND frame, HDC picture) {
+  POINT at = {};
+  MapWindowPoints(frame, window, &at, 1);
+  POINT before = {};
+  SetViewportOrgEx(picture, at.x, at.y, &before);
+  SendMessageA(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture), PRF_CLIENT);
+  SetViewportOrgEx(picture, before.x, before.y, nullptr);
+}
+
 }  // namespace
 
 Win32MainWindow::Win32MainWindow(HINSTANCE instance)
@@ -183,9 +193,8 @@ void Win32MainWindow::OnPaint() {
   program_->HideControls();
   Painting painting;
   program_->Paint(painting);
-  if (DrawInMemory(std::move(painting))) {
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
-  }
+  DrawInMemory(std::move(painting));
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   form_->HideTheRest();
   PAINTSTRUCT paint;
   const HDC context = BeginPaint(window_, &paint);
@@ -199,16 +208,17 @@ void Win32MainWindow::OnPaint() {
   program_->FinishPaint();
 }
 
-// Returns false if the picture in memory shows this painting already.
-bool Win32MainWindow::DrawInMemory(Painting painting) {
-  if (drawn_ == painting) return false;
+// Draws nothing if the picture in memory shows just this.
+void Win32MainWindow::DrawInMemory(Painting painting) {
+  Drawn wanted = {std::move(painting), form_->ChosenFrames()};
+  if (drawn_ == wanted) return;
   drawn_.reset();
   const HDC picture = back_buffer_.Begin(client_width_, client_height_);
-  if (picture == nullptr) return true;
+  if (picture == nullptr) return;
   GdiCanvas canvas(picture, surface_, resources_);
-  painting.DrawOn(canvas);
-  if (canvas.is_complete()) drawn_ = std::move(painting);
-  return true;
+  wanted.painting.DrawOn(canvas);
+  for (const HWND frame : wanted.frames) DrawFrame(window_, frame, picture);
+  if (canvas.is_complete()) drawn_ = std::move(wanted);
 }
 
 // The platform gives the focus to the window itself when it comes to the front again; it belongs to
