@@ -44,6 +44,7 @@ bool ScreenKeys::OnKeyDown(const MSG& message) {
                           .control = IsDown(VK_CONTROL),
                           .shift = IsDown(VK_SHIFT),
                           .alt = IsDown(VK_MENU)};
+  UpdateWindow(window_);  // a screen that has just been chosen shows its controls first
   if (press.key == kTabKey && !press.control && !press.alt) {
     MoveFocus(press.shift);
     return true;
@@ -74,11 +75,19 @@ bool ScreenKeys::PressButton() const {
   return true;
 }
 
-void ScreenKeys::UpdateFrame(HDC picture) {
+HWND ScreenKeys::ToBeFramed() const {
   const HWND focused = GetFocus();
   const bool on_screen = by_keys_ && form_.KeyOf(focused) != 0 && IsWindowVisible(focused) != FALSE;
-  const HWND wanted = on_screen ? focused : nullptr;
-  if (wanted == framed_) return;
+  return on_screen ? focused : nullptr;
+}
+
+void ScreenKeys::UpdateFrame(HDC picture) {
+  if (ToBeFramed() != framed_) RedrawFrame(picture);
+}
+
+void ScreenKeys::RedrawFrame(HDC picture) {
+  const HWND wanted = ToBeFramed();
+  if (wanted == nullptr && framed_ == nullptr) return;
   const HDC context = GetDC(window_);
   form_.ClipTo(context);
   if (framed_ != nullptr) {

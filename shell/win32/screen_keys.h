@@ -25,13 +25,15 @@ class ScreenKeys {
   // The frame follows the focus as long as that is moved by keys; a click takes it off. `picture`
   // is what the window shows around its controls.
   void UpdateFrame(HDC picture);
-  // The window has been painted over: what was drawn around the control is gone.
-  void ForgetFrame() { framed_ = nullptr; }
+  // The same after the window has been painted, over the frame or beside it.
+  void RedrawFrame(HDC picture);
 
  private:
   bool OnKeyDown(const MSG& message);
   void MoveFocus(bool backwards);
   bool PressButton() const;
+  // The control that is to have the frame; null: none.
+  HWND ToBeFramed() const;
 
   HWND window_;
   MainForm& form_;

@@ -204,7 +204,7 @@ void Win32MainWindow::OnPaint() {
   EndPaint(window_, &paint);
   form_->ShowChosen();
   FocusIfShown(focused);
-  screen_keys_->ForgetFrame();
+  screen_keys_->RedrawFrame(picture);
   program_->FinishPaint();
 }
 

@@ -206,7 +206,8 @@ TEST_F(WriteProtectedFolder, CostsNoByte) {
 
 TEST_F(WriteProtectedFolder, LetsTheProgramStart) { StartInTrouble(folder_, trouble_); }
 
-// Moves a folder away and back. Nothing must come into being in its place, or beside it.
+// Moves a folder away and back. Nothing must come into being in its place, or beside it, but for
+// the profile: saving it makes the folder of its user again.
 class VanishingFolder : public testing::Test {
  protected:
   VanishingFolder() { CreateDirectoryA((outer_.path() + "start").c_str(), nullptr); }
@@ -223,9 +224,20 @@ TEST_F(VanishingFolder, OfAUserCostsNoByte) {
     moved = GetFileAttributesA(ann.c_str()) != INVALID_FILE_ATTRIBUTES;
     EXPECT_TRUE(!moved || MoveFileA(ann.c_str(), away.c_str()) != 0);
   };
-  const auto move_back = [&] { EXPECT_TRUE(!moved || MoveFileA(away.c_str(), ann.c_str()) != 0); };
+  const auto is_made_again = [&] {
+    return moved && GetFileAttributesA(ann.c_str()) != INVALID_FILE_ATTRIBUTES;
+  };
+  const auto move_back = [&] {
+    if (is_made_again()) {
+      EXPECT_TRUE(DeleteFileA((ann + "\\info.ASC").c_str()) != 0);
+      EXPECT_TRUE(RemoveDirectoryA(ann.c_str()) != 0);
+    }
+    EXPECT_TRUE(!moved || MoveFileA(away.c_str(), ann.c_str()) != 0);
+  };
   const auto expect_nothing_new = [&] {
-    EXPECT_TRUE(!moved || GetFileAttributesA(ann.c_str()) == INVALID_FILE_ATTRIBUTES);
+    if (is_made_again()) {
+      EXPECT_EQ(start_.Names("Ann"), Texts{"info.ASC"});
+    }
     EXPECT_EQ(outer_.Names(), moved ? (Texts{"away", "start"}) : (Texts{"start"}));
   };
   const int refused =

@@ -34,11 +34,12 @@ class TwoPrograms : public testing::Test {
     CreateDirectoryA((folder_.path() + "Ann").c_str(), nullptr);
     folder_.Write("users.ASC", "Ann");
     folder_.Write("Ann\\info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone");
-    // Of round figures, and not proportional to those of the other: from a day's totals one can
-    // tell how many of each were taken.
+    // Of round figures, with names that removing does not take for one another, and not
+    // proportional to those of the other: from a day's totals one can tell how many of each were
+    // taken.
     folder_.Write("data.txt",
-                  "fruits;fresh;round one;100;100;10;0;0;\r\n"
-                  "fruits;fresh;round two;100;1;0;1;0;\r\n");
+                  "fruits;fresh;apple;100;100;10;0;0;\r\n"
+                  "fruits;fresh;big melon;100;1;0;1;0;\r\n");
   }
   static void LogIn(const App& app) {
     app.main().Command(200);
@@ -160,7 +161,7 @@ TEST_F(TwoPrograms, OnOneUserLoseNothing) {
   const App two(folder_);
   for (const App* const app : {&one, &two}) {
     LogIn(*app);
-    Choose(*app, "round one");
+    Choose(*app, "apple");
   }
   std::atomic<int> working = 2;
   std::array<Done, 2> done;
@@ -177,7 +178,7 @@ TEST_F(TwoPrograms, OnOneUserLoseNothing) {
   while (working > 0) {
     const App third(folder_);
     LogIn(third);
-    Choose(third, "round two");
+    Choose(third, "big melon");
     WorkAndDie(third, random() % 300);
     ++kills;
   }
