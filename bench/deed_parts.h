@@ -101,9 +101,9 @@ inline Action Both(const Action& first, const Action& second) {
   };
 }
 
-void AddScreens(std::vector<Deed>& deeds);
-void AddFood(std::vector<Deed>& deeds, const FoodTable& food);
-void AddDialogs(std::vector<Deed>& deeds, const FoodTable& food);
+void AddScreens(std::vector<TimedDeed>& deeds);
+void AddFood(std::vector<TimedDeed>& deeds, const FoodTable& food);
+void AddDialogs(std::vector<TimedDeed>& deeds, const FoodTable& food);
 
 }  // namespace velnor::bench
 

@@ -40,8 +40,8 @@ void LogIn(Stage& stage) {
   AfterConfirming(stage);
 }
 
-std::vector<Deed> AllDeeds(const FoodTable& food) {
-  std::vector<Deed> deeds;
+std::vector<TimedDeed> AllDeeds(const FoodTable& food) {
+  std::vector<TimedDeed> deeds;
   AddFood(deeds, food);
   AddScreens(deeds);
   AddDialogs(deeds, food);

@@ -26,7 +26,7 @@ using Action = std::function<void(Stage&)>;
 
 inline void Nothing(Stage&) {}
 
-struct Deed {
+struct TimedDeed {
   std::string name;
   std::string detail = {};  // what it depends on, as how many are found; may be empty
   Bound bound = kBound;
@@ -50,7 +50,7 @@ void OpenLogin(Stage& stage);
 void LogIn(Stage& stage);
 
 // Everything that is measured. `food` holds the own products.
-std::vector<Deed> AllDeeds(const FoodTable& food);
+std::vector<TimedDeed> AllDeeds(const FoodTable& food);
 
 }  // namespace velnor::bench
 

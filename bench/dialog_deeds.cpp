@@ -49,7 +49,7 @@ Work OpenAndClose(const DialogRow& dialog) {
   return work;
 }
 
-void AddOpening(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddOpening(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   for (const DialogRow& dialog : Dialogs(food)) {
     const bool lists_products = dialog.resource == 10011;
     deeds.push_back({.name = std::string("dialog opened: ") + dialog.name,
@@ -85,7 +85,7 @@ const RecordRow kRecords[] = {
     {"burned record", 745, {{"Ann\\cwiczenia.ASC", 100}}},
 };
 
-void AddSaves(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddSaves(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   const std::vector<DialogRow> dialogs = Dialogs(food);
   for (const RecordRow& record : kRecords) {
     const DialogRow& dialog = *std::ranges::find(dialogs, std::string_view(record.dialog),
@@ -114,7 +114,7 @@ void AddSaves(std::vector<Deed>& deeds, const FoodTable& food) {
                    .after = AfterConfirming});
 }
 
-void AddOwnProduct(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddOwnProduct(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   const int count = static_cast<int>(food.user_products.products().size());
   const std::string file = OwnProducts(count);
   Work work = {On(240), Do(kOpen, 10010), Do(kShow), On(kCancel), Do(kClose), On(kOk)};
@@ -148,7 +148,7 @@ void AddOwnProduct(std::vector<Deed>& deeds, const FoodTable& food) {
                    .at_end = Both(Closing, Writing("data.txt", file))});
 }
 
-void AddLogin(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddLogin(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   Work work = OpenAndClose(Dialogs(food).front());
   work.push_back(On(kOk));
   Append(work, SetTexts(kTotals, ""));
@@ -162,7 +162,7 @@ void AddLogin(std::vector<Deed>& deeds, const FoodTable& food) {
 
 }  // namespace
 
-void AddDialogs(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddDialogs(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   AddOpening(deeds, food);
   AddSaves(deeds, food);
   AddOwnProduct(deeds, food);

@@ -28,6 +28,7 @@
 #include "food/food_list_panel.h"
 #include "food/user_product_file.h"
 #include "tests/support/temporary_folder.h"
+#include "users/user_files.h"
 
 namespace velnor::bench {
 namespace {

@@ -41,7 +41,7 @@ void ChooseProduct(Stage& stage) {
   stage.Settle();
 }
 
-void AddPicking(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddPicking(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   const std::vector<std::string> subcategories =
       Texts(ListSubcategories(food, Matching::kCounter, kFood[0]));
   const std::vector<std::string> products =
@@ -94,7 +94,7 @@ void AddPicking(std::vector<Deed>& deeds, const FoodTable& food) {
                        }});
 }
 
-void AddList(std::vector<Deed>& deeds) {
+void AddList(std::vector<TimedDeed>& deeds) {
   const Action add = Send(127);
   const Action clear = Send(146);
   Work changing = {On(kOpenCounter), Do(kScreen, kCounterScreen), On(127),
@@ -128,7 +128,7 @@ void AddList(std::vector<Deed>& deeds) {
                    .before = add});
 }
 
-void AddSearches(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddSearches(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   for (const std::string query : {"strawberries", "e"}) {
     const std::vector<std::string> found = SearchProducts(food, query);
     deeds.push_back(
@@ -153,7 +153,7 @@ void AddSearches(std::vector<Deed>& deeds, const FoodTable& food) {
 
 }  // namespace
 
-void AddFood(std::vector<Deed>& deeds, const FoodTable& food) {
+void AddFood(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   AddPicking(deeds, food);
   AddSearches(deeds, food);
   AddList(deeds);

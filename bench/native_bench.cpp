@@ -76,7 +76,7 @@ constexpr GrowthRow kByBytes[] = {
      {"ReportRead/1000/real_time", "ReportRead/100000/real_time", "ReportRead/10000000/real_time"}},
 };
 
-constexpr GrowthRow kByHistory[] = {
+constexpr GrowthRow kByDays[] = {
     {"diary made of a history", {"Diary/30", "Diary/365", "Diary/3652"}},
 };
 
@@ -177,7 +177,7 @@ int Run(int argc, char** argv) {
   PrintGrowth("by days in the chart", "us", {"1", "20"}, GrowFileWork());
   PrintGrowth("by bytes of a report", "us", {"1,000", "100,000", "10,000,000"},
               Grow(medians, kByBytes));
-  PrintGrowth("by days of a history", "us", {"30", "365", "3652"}, Grow(medians, kByHistory));
+  PrintGrowth("by days of a history", "us", {"30", "365", "3652"}, Grow(medians, kByDays));
   return medians.complete() ? 0 : 1;
 }
 

@@ -25,14 +25,14 @@ Work ScreenWork(const ScreenRow& screen) {
 }  // namespace
 
 // Each from a screen that has no controls.
-void AddScreens(std::vector<Deed>& deeds) {
+void AddScreens(std::vector<TimedDeed>& deeds) {
   for (const ScreenRow& screen : Screens()) {
     if (screen.command == 0) continue;
     const bool is_start = screen.id == kExchangesScreen;
-    Deed deed = {.name = "screen " + std::to_string(screen.id) + " opened",
-                 .work = ScreenWork(screen),
-                 .press = Send(screen.command),
-                 .before = Send(is_start ? kOpenWeightChart : kOpenExchanges)};
+    TimedDeed deed = {.name = "screen " + std::to_string(screen.id) + " opened",
+                      .work = ScreenWork(screen),
+                      .press = Send(screen.command),
+                      .before = Send(is_start ? kOpenWeightChart : kOpenExchanges)};
     Append(deed.work, is_start ? Work{On(kOpenWeightChart), Do(kScreen, kWeightChartScreen)}
                                : Work{On(kOpenExchanges), Do(kScreen, kExchangesScreen)});
     deeds.push_back(deed);

@@ -13,6 +13,7 @@
 #include <exception>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,7 +32,8 @@ constexpr int kOwnProducts[] = {0, 300, 3000};
 constexpr int kMany = 3000;
 constexpr const char* kStart = "start to first complete paint";
 constexpr Bound kStartBound = {1.10, 0};
-constexpr double kAtMostMs = 50;  // at the 99th percentile with many own products
+constexpr DWORD kShortCalm = 200;  // of a window that was only opened
+constexpr double kAtMostMs = 50;   // at the 99th percentile with many own products
 
 // By the deed and the number of own products.
 using Samples = std::map<std::pair<std::string, int>, std::vector<double>>;
@@ -53,18 +55,18 @@ struct Setting {
   }
 };
 
-bool IsWanted(const Plan& plan, const Deed& deed) {
+bool IsWanted(const Plan& plan, const TimedDeed& deed) {
   return deed.name.find(plan.only) != std::string::npos;
 }
 
-double TimeOf(const Deed& deed, Stage& stage) {
+double TimeOf(const TimedDeed& deed, Stage& stage) {
   const double begin = Milliseconds();
   deed.press(stage);
   return Milliseconds() - begin;
 }
 
 // The first press is not counted: it may fill what is kept from then on.
-void SampleDeed(const Deed& deed, Stage& stage, int presses, std::vector<double>& samples) {
+void SampleDeed(const TimedDeed& deed, Stage& stage, int presses, std::vector<double>& samples) {
   stage.Learn(deed.work);
   deed.once(stage);
   for (int i = -1; i < presses; ++i) {
@@ -78,7 +80,7 @@ void SampleDeed(const Deed& deed, Stage& stage, int presses, std::vector<double>
 }
 
 // Deeds that do not depend on own products are done with none and with many, and have one floor.
-bool IsDone(const Plan& plan, Player player, const Deed& deed, int own_products) {
+bool IsDone(const Plan& plan, Player player, const TimedDeed& deed, int own_products) {
   const bool is_end = own_products == kMany || (own_products == 0 && player == Player::kVelnor);
   return IsWanted(plan, deed) && (deed.depends_on_products || is_end);
 }
@@ -87,10 +89,13 @@ void SampleSetting(const Plan& plan, Player player, const Setting& setting, Samp
   WriteAnn(setting.folder, setting.own_products);
   Stage stage(player, plan.program, setting.folder);
   if (player == Player::kVelnor) LogIn(stage);
-  for (const Deed& deed : AllDeeds(setting.food)) {
+  for (const TimedDeed& deed : AllDeeds(setting.food)) {
     if (!IsDone(plan, player, deed, setting.own_products)) continue;
-    std::fprintf(stderr, "%s, %d\n", deed.name.c_str(), setting.own_products);
-    SampleDeed(deed, stage, plan.presses / kRounds, samples[{deed.name, setting.own_products}]);
+    try {
+      SampleDeed(deed, stage, plan.presses / kRounds, samples[{deed.name, setting.own_products}]);
+    } catch (const std::exception& error) {
+      throw std::runtime_error(deed.name + ": " + error.what());
+    }
   }
 }
 
@@ -131,11 +136,12 @@ void PrintWaits(const std::vector<Row>& rows) {
 }
 
 // Medians, by the number of own products.
-void PrintGrowth(const Samples& waits, const std::vector<Deed>& deeds) {
+void PrintGrowth(const Samples& waits, const std::vector<TimedDeed>& deeds) {
   std::puts("\nHow it grows with own products:\n");
   std::puts("| ms | 0 | 300 | 3000 |");
   std::puts("|---|---|---|---|");
-  for (const Deed& deed : deeds) {
+  for (const TimedDeed& deed : deeds) {
+    if (!waits.contains({deed.name, kMany})) continue;
     std::string line = "| " + deed.name;
     for (const int own_products : kOwnProducts) {
       const auto found = waits.find({deed.name, own_products});
@@ -147,10 +153,10 @@ void PrintGrowth(const Samples& waits, const std::vector<Deed>& deeds) {
   }
 }
 
-std::vector<Row> RowsOf(const std::vector<Deed>& deeds, int own_products, const Samples& waits,
+std::vector<Row> RowsOf(const std::vector<TimedDeed>& deeds, int own_products, const Samples& waits,
                         const Samples& floors) {
   std::vector<Row> rows;
-  for (const Deed& deed : deeds) {
+  for (const TimedDeed& deed : deeds) {
     const auto found = waits.find({deed.name, own_products});
     const auto floor = floors.find({deed.name, own_products});
     if (found == waits.end() || floor == floors.end()) continue;
@@ -164,9 +170,10 @@ std::vector<Row> RowsOf(const std::vector<Deed>& deeds, int own_products, const 
 // A window opens for the first time; it has the program's duties in either.
 void SampleStarts(const Plan& plan, const WorkFolder& folder, Samples& waits, Samples& floors) {
   for (int i = 0; i < plan.presses; ++i) {
-    waits[{kStart, kMany}].push_back(Started(plan.program, kVelnorClass, folder.path()).start_ms());
+    waits[{kStart, kMany}].push_back(
+        Started(plan.program, kVelnorClass, folder.path(), kShortCalm).start_ms());
     floors[{kStart, kMany}].push_back(
-        Started("bare_window.exe 0", kBareClass, folder.path()).start_ms());
+        Started("bare_window.exe 0", kBareClass, folder.path(), kShortCalm).start_ms());
   }
 }
 
