@@ -9,6 +9,7 @@
 #include "food/food_table.h"
 #include "food/user_product_file.h"
 #include "fuzz/program_run.h"
+#include "tests/support/committed.h"
 
 namespace velnor {
 namespace {
@@ -87,7 +88,8 @@ void Remove(ProgramRun& run) {
     run.PressInDialog(kOkButton);
     const std::string left = run.Read(kFile);
     run.Write("copy", left);
-    Require(RemoveUserProduct(run.Path("copy"), name), "a file that can be written is written");
+    Require(Committed(run.Path(""), RemoveUserProduct, run.Path("copy"), name),
+            "a file that can be written is written");
     Require(run.Read("copy") == left, "what was removed is gone at once");
   }
   run.PressInDialog(kCancelButton);

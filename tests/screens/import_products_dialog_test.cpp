@@ -135,7 +135,7 @@ TEST_F(ImportProductsTest, WhatIsNoTableIsSaidAndChangesNothing) {
   const std::string old = "fruits;fresh;figs;100;74;1;0;19;\r\n";
   folder_.Write("data.txt", old);
   std::string junk;
-  for (int i = 0; i < 100'000; ++i) junk += static_cast<char>(i * i % 251 + 1);
+  for (unsigned i = 0; i < 100'000; ++i) junk += static_cast<char>(i * i % 251 + 1);
   for (const std::string& table : {std::string(), junk, std::string(1'000'000, 'x'),
                                    std::string("MZ\0\0", 4), std::string(500'000, '"')}) {
     const Texts texts = Import(table);
