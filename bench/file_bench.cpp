@@ -175,7 +175,7 @@ class Rewrite {
 
 bool Update(const SessionState& session, std::string_view date) {
   Transaction deed(session.base_folder);
-  return UpdateChartFile(deed, session.UserFile(kNutrientSeriesFile), date, kFigures) &&
+  return UpdateChartFile(deed, session.user->File(kNutrientSeriesFile), date, kFigures) &&
          deed.Commit();
 }
 
