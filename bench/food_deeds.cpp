@@ -15,7 +15,7 @@ constexpr int kFigures[] = {129, 130, 131, 132};
 // The day as it is after every change.
 Work WriteDay() {
   return {Do(kWrite, 45, {"bilans.ASC"}), Do(kWrite, 7, {"z1.ASC"}), Do(kWrite, 7, {"z2.ASC"}),
-          Do(kWrite, 760, {"wykoda.txt"})};
+          Do(kWrite, 760, {"wykoda.txt"}), Do(kAppend, 75, {"dziennik.csv"})};
 }
 
 void ShowCounter(Stage& stage) {
