@@ -105,7 +105,8 @@ std::string BurnedTotal::Add(std::string_view burned) {
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
   if (line.is_readable) {
-    deed.Replace(session_.user->File(kBurnedFile), session_.date_text + kFieldEnd + total + kFieldEnd);
+    deed.Replace(session_.user->File(kBurnedFile),
+                 session_.date_text + kFieldEnd + total + kFieldEnd);
   }
   deed.CommitUnreported();
   return total;

@@ -48,10 +48,9 @@ void CalorieRecordDialog::Save(const Form& form) const {
   const std::optional<std::string> path = session_.UserFile(kCalorieReportFile);
   if (!path) return;
   Transaction deed(session_.base_folder);
-  deed.Append(
-      *path,
-      CalorieRecordText({form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
-                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
+  deed.Append(*path, CalorieRecordText(
+                         {form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
+                          exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
   deed.CommitUnreported();
 }
 

@@ -99,7 +99,8 @@ void ImportProductsDialog::Import(Form& form) {
     Say(kNotOpened);
     return;
   }
-  food_.user_products.Load(session_.BaseFile(kUserProductsFile));  // what another program has added since counts too
+  food_.user_products.Load(
+      session_.BaseFile(kUserProductsFile));  // what another program has added since counts too
   const ImportPlan plan = PlanImport(*bytes, food_,
                                      {form.SelectedText(kMainCategory).value_or(""),
                                       form.SelectedText(kSubcategory).value_or("")});

@@ -173,8 +173,10 @@ void UsersDialog::Confirm(Form& form) {
 bool UsersDialog::Write(const Form& form) const {
   Transaction deed(session_.base_folder);
   const std::string path = session_.BaseFile(kRegistryFile);
+  // One that somebody else has open for a moment is waited for before it is read.
+  if (!opened_ || !CanBeChanged(path)) return false;
   std::optional<UserRegistry> registry = ReadUserRegistry(path);
-  if (!opened_ || !registry) return false;
+  if (!registry) return false;
   std::vector<std::string> names = Listed(form).names;
   for (const std::string& name : Without(registry->names, opened_->names)) names.push_back(name);
   for (const std::string& name : Without(opened_->names, registry->names)) {

@@ -164,8 +164,8 @@ TEST_F(KeyboardOfAnn, TheScreensOfTheDay) {
   }));
 }
 
-// Left out of the runs: once in some runs under Wine it never ends, and why is not known yet. Run it
-// with --gtest_also_run_disabled_tests.
+// Left out of the runs: once in some runs under Wine it never ends, and why is not known yet. Run
+// it with --gtest_also_run_disabled_tests.
 TEST_F(KeyboardOfAnn, DISABLED_ReportsAreReadWrittenAndLeftWithTab) {
   std::string lines;
   for (int line = 1; line <= 90; ++line) lines += "line " + std::to_string(line) + "\r\n";
