@@ -23,6 +23,7 @@ inline constexpr std::string_view kRemove = "remove";  // id: its first item
 inline constexpr std::string_view kText = "text";      // id, text
 inline constexpr std::string_view kSelect = "select";  // id, index
 inline constexpr std::string_view kWrite = "write";    // bytes, file name
+inline constexpr std::string_view kAppend = "append";  // bytes, file name
 inline constexpr std::string_view kOpen = "open";      // id of a dialog, hidden at first
 inline constexpr std::string_view kShow = "show";      // 0: the open dialog
 inline constexpr std::string_view kClose = "close";    // 0: the open dialog

@@ -29,6 +29,16 @@ void WriteBytes(const std::string& name, int count) {
   MoveFileExA(fresh.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING);
 }
 
+void AppendBytes(const std::string& name, int count) {
+  const std::string bytes(static_cast<std::size_t>(count), '0');
+  const HANDLE file = CreateFileA(name.c_str(), FILE_APPEND_DATA, 0, nullptr, OPEN_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  DWORD written = 0;
+  WriteFile(file, bytes.data(), static_cast<DWORD>(count), &written, nullptr);
+  FlushFileBuffers(file);
+  CloseHandle(file);
+}
+
 void Redraw(HWND window) {
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
 }
@@ -61,6 +71,7 @@ void BareWorker::Perform(const Step& step) {
   if (step.verb == kText) SetWindowTextA(control, step.texts.front().c_str());
   if (step.verb == kSelect) SendMessageA(control, CB_SETCURSEL, 0, 0);
   if (step.verb == kWrite) WriteBytes(step.texts.front(), step.number);
+  if (step.verb == kAppend) AppendBytes(step.texts.front(), step.number);
   if (step.verb == kOpen) OpenDialog(step.number);
   if (step.verb == kShow) ShowWindow(dialog_, SW_SHOW);
   if (step.verb == kClose) DestroyWindow(std::exchange(dialog_, nullptr));

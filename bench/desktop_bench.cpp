@@ -1,5 +1,5 @@
-// The costs of the whole program under its window system, beside those of a bare window: from the
-// start to the first complete paint, one repaint, memory; and the size of velnor.exe.
+// The costs of the whole program under its window system, beside those of a bare window: one
+// repaint, memory; and the size of velnor.exe.
 //
 // Usage: desktop_bench.exe [ROUNDS]
 // A round starts and measures each program, one after the other: what else the machine does falls
@@ -31,7 +31,6 @@ using desktop::Window;
 using desktop::WorkFolder;
 
 constexpr int kRepaints = 15;  // of each screen in a round
-constexpr int kStartsInRound = 3;
 constexpr int kRounds = 10;
 constexpr double kMegabyte = 1e6;
 constexpr double kExeBound = 6;  // MB
@@ -115,19 +114,6 @@ void SampleBare(const WorkFolder& folder, Samples& samples) {
   }
 }
 
-void SampleStarts(const WorkFolder& folder, Samples& samples) {
-  constexpr std::array kStarts = {
-      std::array{"velnor.exe", kVelnorClass, "start"},
-      std::array{"bare_window.exe", kBareClass, "bare start"},
-      std::array{"bare_window.exe 0", kBareClass, "bare start with all pictures"},
-  };
-  for (int i = 0; i < kStartsInRound; ++i) {
-    for (const auto& [command, window_class, what] : kStarts) {
-      samples[what].push_back(Started(command, window_class, folder.path()).start_ms());
-    }
-  }
-}
-
 // A person with twenty days behind them.
 void Write(const WorkFolder& folder) {
   CreateDirectoryA((folder.path() + "Ann").c_str(), nullptr);
@@ -205,7 +191,6 @@ struct ComparedRow {
 };
 
 constexpr ComparedRow kBesideBare[] = {
-    {"start to first complete paint", "start", "bare start", 1.15},
     {"repaint of screen 7", "7", "bare", 1.5},
     {"repaint of screen 14", "14", "bare", 1.5},
     {"screen 7, controls too", "7, controls too", "bare, controls too", 0},
@@ -214,7 +199,6 @@ constexpr ComparedRow kBesideBare[] = {
 
 // What the platform alone takes for what a screen has to do.
 constexpr ComparedRow kBesideDuties[] = {
-    {"start to first complete paint", "start", "bare start with all pictures", 0},
     {"repaint of screen 7", "7", "bare with controls of 7", 0},
     {"repaint of screen 14", "14", "bare with controls of 14", 0},
     {"screen 7, controls too", "7, controls too", "bare with controls of 7, controls too", 0},
@@ -249,10 +233,7 @@ int Run(int rounds) {
   const WorkFolder folder;
   Write(folder);
   Samples samples;
-  Samples warm_up;  // the first start reads everything from the disk
-  SampleStarts(folder, warm_up);
   for (int round = 0; round < rounds; ++round) {
-    SampleStarts(folder, samples);
     SampleVelnor(folder, samples);
     SampleBare(folder, samples);
   }

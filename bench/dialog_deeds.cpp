@@ -49,6 +49,11 @@ Work OpenAndClose(const DialogRow& dialog) {
   return work;
 }
 
+// The login that was opened has logged out whoever was there.
+void LogInAgain(Stage& stage) {
+  if (stage.is_velnor()) LogIn(stage);
+}
+
 void AddOpening(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   for (const DialogRow& dialog : Dialogs(food)) {
     const bool lists_products = dialog.resource == 10011;
@@ -57,7 +62,8 @@ void AddOpening(std::vector<TimedDeed>& deeds, const FoodTable& food) {
                      .depends_on_products = lists_products,
                      .work = OpenAndClose(dialog),
                      .press = Opening(dialog.command),
-                     .after = Closing});
+                     .after = Closing,
+                     .at_end = dialog.command == kOpenLogin ? LogInAgain : Nothing});
   }
   // This one keeps its command until it is closed.
   deeds.push_back({.name = "dialog opened: about",
@@ -75,11 +81,12 @@ struct RecordRow {
   const char* dialog;
   int field;                                       // one that is filled in
   std::vector<std::pair<std::string, int>> files;  // with the bytes they get
+  bool is_history = false;                         // whether the history gets a line too
 };
 
 const RecordRow kRecords[] = {
-    {"weight record", 710, {{"Ann\\waga.ASC", 70}, {"Ann\\wykwag.txt", 24}}},
-    {"WHR record", 713, {{"Ann\\whr.ASC", 70}}},
+    {"weight record", 710, {{"Ann\\waga.ASC", 70}, {"Ann\\wykwag.txt", 24}}, true},
+    {"WHR record", 713, {{"Ann\\whr.ASC", 70}}, true},
     {"calorie record", 723, {{"Ann\\mirvo.ASC", 190}}},
     {"recipe", 724, {{"Ann\\zestaw.ASC", 210}}},
     {"burned record", 745, {{"Ann\\cwiczenia.ASC", 100}}},
@@ -97,6 +104,7 @@ void AddSaves(std::vector<TimedDeed>& deeds, const FoodTable& food) {
       work.push_back(Do(kWrite, bytes, {file.substr(4)}));
       fill_in = Both(fill_in, Writing(file, ""));
     }
+    if (record.is_history) work.push_back(Do(kAppend, 60, {"dziennik.csv"}));
     work.push_back(Do(kClose));
     deeds.push_back({.name = std::string("saved: ") + record.dialog,
                      .work = work,

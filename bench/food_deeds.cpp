@@ -10,12 +10,13 @@ namespace velnor::bench {
 namespace {
 
 constexpr const char* kFood[] = {"fruits", "fresh"};
+constexpr int kShownOfProduct[] = {128, 129, 130, 131, 132};
 constexpr int kFigures[] = {129, 130, 131, 132};
 
 // The day as it is after every change.
 Work WriteDay() {
   return {Do(kWrite, 45, {"bilans.ASC"}), Do(kWrite, 7, {"z1.ASC"}), Do(kWrite, 7, {"z2.ASC"}),
-          Do(kWrite, 760, {"wykoda.txt"})};
+          Do(kWrite, 760, {"wykoda.txt"}), Do(kAppend, 75, {"dziennik.csv"})};
 }
 
 void ShowCounter(Stage& stage) {
@@ -47,7 +48,8 @@ void AddPicking(std::vector<TimedDeed>& deeds, const FoodTable& food) {
   const std::vector<std::string> products =
       Texts(ListProducts(food, Matching::kCounter, kFood[0], kFood[1]));
   const Work counter = {On(kOpenCounter), Do(kScreen, kCounterScreen)};
-  const Work fill_subcategories = {On(124, kChosen), Do(kFill, 125, subcategories), Do(kFill, 126)};
+  Work fill_subcategories = {On(124, kChosen), Do(kFill, 125, subcategories), Do(kFill, 126)};
+  Append(fill_subcategories, SetTexts(kShownOfProduct, "0"));
   const Work fill_products = {On(125, kChosen), Do(kFill, 126, products)};
   Work picking = counter;
   Append(picking, fill_subcategories);

@@ -14,12 +14,24 @@ bool IsComboBox(HWND control) {
   return lstrcmpiA(name.data(), "combobox") == 0;
 }
 
+// What the boxes say that are open.
+std::string OpenBoxes() {
+  constexpr int kMessageText = 0xFFFF;
+  std::string texts;
+  HWND box = nullptr;
+  while ((box = FindWindowExA(nullptr, box, kDialogClass, nullptr)) != nullptr) {
+    texts += " \"" + desktop::Window(box).Text(kMessageText) + '"';
+  }
+  return texts;
+}
+
 // A box that nobody answers must not hold the bench up for ever.
 void SendCommand(HWND window, int id, int notification) {
   DWORD_PTR result = 0;
   if (SendMessageTimeoutA(window, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, notification)), 0,
-                          SMTO_NORMAL, 6 * kPatience, &result) == 0) {
-    throw std::runtime_error("command " + std::to_string(id) + " is not carried out");
+                          SMTO_NORMAL, 2 * kPatience, &result) == 0) {
+    throw std::runtime_error("command " + std::to_string(id) + " is not carried out;" +
+                             OpenBoxes());
   }
 }
 

@@ -37,7 +37,9 @@ void WaitUntilPainted(HWND window) {
   SendMessageA(window, WM_NULL, 0, 0);
 }
 
-Started::Started(const std::string& command, const char* window_class, const std::string& folder) {
+Started::Started(const std::string& command, const char* window_class, const std::string& folder,
+                 DWORD calm)
+    : calm_(calm) {
   std::string command_line = FolderOfThisProgram() + command;
   STARTUPINFOA start = {};
   start.cb = sizeof start;
@@ -82,7 +84,7 @@ void Started::Fail(const std::string& why) {
 // As a person ends it, and not before the display has dealt with its window: one that is torn away
 // while it is being opened can leave its frame behind and cover the next.
 void Started::End() {
-  Sleep(kCalm);
+  Sleep(calm_);
   PostMessageA(window_, WM_CLOSE, 0, 0);
   if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) {
     TerminateProcess(process_.hProcess, 1);
@@ -90,7 +92,7 @@ void Started::End() {
   }
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
-  Sleep(kCalm);
+  Sleep(calm_);
 }
 
 }  // namespace velnor::bench

@@ -32,8 +32,9 @@ enum class What { kWindow, kWindowAndControls };
 class Started {
  public:
   // `command` is the program and its arguments. Returns when its window and all in it has been
-  // painted for the first time.
-  Started(const std::string& command, const char* window_class, const std::string& folder);
+  // painted for the first time. It is left alone for `calm` ms before and after its end.
+  Started(const std::string& command, const char* window_class, const std::string& folder,
+          DWORD calm = kCalm);
   Started(const Started&) = delete;
   Started& operator=(const Started&) = delete;
   ~Started() { End(); }
@@ -55,6 +56,7 @@ class Started {
   PROCESS_INFORMATION process_ = {};
   HWND window_ = nullptr;
   double start_ms_ = 0;
+  DWORD calm_;
 };
 
 }  // namespace velnor::bench

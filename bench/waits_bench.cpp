@@ -13,6 +13,7 @@
 #include <exception>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,7 +32,8 @@ constexpr int kOwnProducts[] = {0, 300, 3000};
 constexpr int kMany = 3000;
 constexpr const char* kStart = "start to first complete paint";
 constexpr Bound kStartBound = {1.10, 0};
-constexpr double kAtMostMs = 50;  // at the 99th percentile with many own products
+constexpr DWORD kShortCalm = 200;  // of a window that was only opened
+constexpr double kAtMostMs = 50;   // at the 99th percentile with many own products
 
 // By the deed and the number of own products.
 using Samples = std::map<std::pair<std::string, int>, std::vector<double>>;
@@ -89,8 +91,11 @@ void SampleSetting(const Plan& plan, Player player, const Setting& setting, Samp
   if (player == Player::kVelnor) LogIn(stage);
   for (const TimedDeed& deed : AllDeeds(setting.food)) {
     if (!IsDone(plan, player, deed, setting.own_products)) continue;
-    std::fprintf(stderr, "%s, %d\n", deed.name.c_str(), setting.own_products);
-    SampleDeed(deed, stage, plan.presses / kRounds, samples[{deed.name, setting.own_products}]);
+    try {
+      SampleDeed(deed, stage, plan.presses / kRounds, samples[{deed.name, setting.own_products}]);
+    } catch (const std::exception& error) {
+      throw std::runtime_error(deed.name + ": " + error.what());
+    }
   }
 }
 
@@ -136,6 +141,7 @@ void PrintGrowth(const Samples& waits, const std::vector<TimedDeed>& deeds) {
   std::puts("| ms | 0 | 300 | 3000 |");
   std::puts("|---|---|---|---|");
   for (const TimedDeed& deed : deeds) {
+    if (!waits.contains({deed.name, kMany})) continue;
     std::string line = "| " + deed.name;
     for (const int own_products : kOwnProducts) {
       const auto found = waits.find({deed.name, own_products});
@@ -164,9 +170,10 @@ std::vector<Row> RowsOf(const std::vector<TimedDeed>& deeds, int own_products, c
 // A window opens for the first time; it has the program's duties in either.
 void SampleStarts(const Plan& plan, const WorkFolder& folder, Samples& waits, Samples& floors) {
   for (int i = 0; i < plan.presses; ++i) {
-    waits[{kStart, kMany}].push_back(Started(plan.program, kVelnorClass, folder.path()).start_ms());
+    waits[{kStart, kMany}].push_back(
+        Started(plan.program, kVelnorClass, folder.path(), kShortCalm).start_ms());
     floors[{kStart, kMany}].push_back(
-        Started("bare_window.exe 0", kBareClass, folder.path()).start_ms());
+        Started("bare_window.exe 0", kBareClass, folder.path(), kShortCalm).start_ms());
   }
 }
 

@@ -33,6 +33,16 @@ std::string Today() {
   return DateText(now.wDay, now.wMonth, now.wYear);
 }
 
+// As the frame draws itself over the picture.
+void DrawFrame(HWND window, HWND frame, HDC picture) {
+  POINT at = {};
+  MapWindowPoints(frame, window, &at, 1);
+  POINT before = {};
+  SetViewportOrgEx(picture, at.x, at.y, &before);
+  SendMessageA(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture), PRF_CLIENT);
+  SetViewportOrgEx(picture, before.x, before.y, nullptr);
+}
+
 }  // namespace
 
 Win32MainWindow::Win32MainWindow(HINSTANCE instance)
@@ -198,6 +208,7 @@ void Win32MainWindow::OnPaint() {
   } else {
     GdiCanvas canvas(context, surface_, resources_);
     painting.DrawOn(canvas);
+    for (const HWND frame : form_->ChosenFrames()) DrawFrame(window_, frame, context);
   }
   EndPaint(window_, &paint);
   form_->ShowChosen();
@@ -206,13 +217,15 @@ void Win32MainWindow::OnPaint() {
   program_->FinishPaint();
 }
 
-// Returns false if the picture in memory shows this painting already.
+// Returns false if the picture in memory shows just this already.
 bool Win32MainWindow::DrawInMemory(HDC picture, const Painting& painting) {
-  if (drawn_ == painting) return false;
+  Drawn wanted = {painting, form_->ChosenFrames()};
+  if (drawn_ == wanted) return false;
   drawn_.reset();
   GdiCanvas canvas(picture, surface_, resources_);
-  painting.DrawOn(canvas);
-  if (canvas.is_complete()) drawn_ = painting;
+  wanted.painting.DrawOn(canvas);
+  for (const HWND frame : wanted.frames) DrawFrame(window_, frame, picture);
+  if (canvas.is_complete()) drawn_ = std::move(wanted);
   return true;
 }
 

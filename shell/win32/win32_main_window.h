@@ -69,7 +69,13 @@ class Win32MainWindow final : public MainWindow {
   std::vector<HWND> session_dialogs_;  // the open ones
   GdiResources resources_;
   MemoryPicture back_buffer_;
-  std::optional<Painting> drawn_;  // what the picture in memory shows; nothing: what, is not known
+  // What the picture in memory shows; nothing: it is not known.
+  struct Drawn {
+    Painting painting;
+    std::vector<HWND> frames;
+    bool operator==(const Drawn&) const = default;
+  };
+  std::optional<Drawn> drawn_;
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 
 #include "shell/screens.h"
 #include "shell/win32/list_order.h"
@@ -78,14 +80,6 @@ void WidenTo(HWND list, std::span<const std::string_view> items) {
 
 // Whether it is shown when the main window is.
 bool IsShown(HWND control) { return (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0; }
-
-// A frame has nothing inside: the picture is to be seen through it.
-bool IsFrame(HWND control) {
-  char name[16] = {};
-  GetClassNameA(control, name, sizeof name);
-  return lstrcmpiA(name, ClassName(ControlClass::kButton)) == 0 &&
-         (GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
-}
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
@@ -259,6 +253,8 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    // What has no edge has nothing inside.
+    if (!row.has_sunken_edge()) frames_.insert(control);
     if (row.holds_number) MarkNumberField(control);
     if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     controls_by_key_.emplace(row.key, control);
@@ -270,6 +266,12 @@ void MainForm::HideAll() { chosen_.clear(); }
 
 void MainForm::Show(int key) { chosen_.insert(Control(key)); }
 
+std::vector<HWND> MainForm::ChosenFrames() const {
+  std::vector<HWND> frames;
+  std::ranges::set_intersection(chosen_, frames_, std::back_inserter(frames));
+  return frames;
+}
+
 void MainForm::HideTheRest() {
   for (const auto& [key, control] : controls_by_key_) {
     if (IsShown(control) && !chosen_.contains(control)) {
@@ -278,23 +280,31 @@ void MainForm::HideTheRest() {
   }
 }
 
-void MainForm::ClipTo(HDC context) const {
+// Controls keep their places: the region of the last time serves as long as they are the same.
+void MainForm::ClipTo(HDC context) {
+  constexpr int kFarOut = 0x7FFF;
+  std::vector<HWND> clipped;
   for (const HWND control : chosen_) {
-    if (!IsShown(control) || IsFrame(control)) continue;
-    RECT place;
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
-    ExcludeClipRect(context, place.left, place.top, place.right, place.bottom);
+    if (IsShown(control) && !frames_.contains(control)) clipped.push_back(control);
   }
+  if (clipped != clipped_) {
+    SetRectRgn(region_.handle(), 0, 0, kFarOut, kFarOut);
+    const Region one;
+    for (const HWND control : clipped) {
+      RECT place;
+      GetWindowRect(control, &place);
+      MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+      SetRectRgn(one.handle(), place.left, place.top, place.right, place.bottom);
+      CombineRgn(region_.handle(), region_.handle(), one.handle(), RGN_DIFF);
+    }
+    clipped_ = std::move(clipped);
+  }
+  if (!clipped_.empty()) ExtSelectClipRgn(context, region_.handle(), RGN_AND);
 }
 
-void MainForm::ShowChosen() {
+void MainForm::ShowChosen() const {
   for (const HWND control : chosen_) {
-    if (!IsShown(control)) {
-      ShowWindow(control, SW_SHOWNORMAL);
-    } else if (IsFrame(control)) {
-      InvalidateRect(control, nullptr, FALSE);
-    }
+    if (!IsShown(control)) ShowWindow(control, SW_SHOWNORMAL);
   }
 }
 

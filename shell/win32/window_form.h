@@ -50,6 +50,20 @@ class WindowForm : public Form {
   HWND window_;
 };
 
+// A part of a window, in client pixels.
+class Region {
+ public:
+  Region() = default;
+  Region(const Region&) = delete;
+  Region& operator=(const Region&) = delete;
+  ~Region() { DeleteObject(handle_); }
+
+  HRGN handle() const { return handle_; }
+
+ private:
+  HRGN handle_ = CreateRectRgn(0, 0, 0, 0);
+};
+
 // The main window's controls, which it creates from the table. Every repaint hides all of them and
 // shows those of its screen. Here both are noted only, and carried out around the copying of the
 // picture: a control that was there and stays is never hidden, so it does not flicker and keeps
@@ -64,12 +78,14 @@ class MainForm final : public WindowForm {
   void Show(int key) override;
   void HideAll() override;
 
+  // The frames that the repaint showed. The picture is to be seen through them.
+  std::vector<HWND> ChosenFrames() const;
   // Before the picture is copied: hides what the repaint did not show.
   void HideTheRest();
-  // While it is copied: keeps it off the controls that stay.
-  void ClipTo(HDC context) const;
-  // After that: shows what the repaint showed, and draws the frames that the picture went over.
-  void ShowChosen();
+  // While it is copied: keeps it off the controls that stay, other than frames.
+  void ClipTo(HDC context);
+  // After that: shows what the repaint showed.
+  void ShowChosen() const;
 
   // The keys of the controls that a person can reach now.
   std::vector<int> UsableKeys() const;
@@ -83,7 +99,10 @@ class MainForm final : public WindowForm {
 
  private:
   std::map<int, HWND> controls_by_key_;
-  std::set<HWND> chosen_;  // what the repaint in progress shows
+  std::set<HWND> frames_;
+  std::set<HWND> chosen_;      // what the repaint in progress shows
+  std::vector<HWND> clipped_;  // what region_ keeps the picture off
+  Region region_;
 };
 
 }  // namespace velnor
