@@ -38,6 +38,7 @@ class BurnedScreen {
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   std::string counted_activity_;
+  std::string counted_minutes_;
 };
 
 }  // namespace velnor

@@ -15,11 +15,18 @@ struct Moment {
 
 class Clock {
  public:
-  virtual ~Clock() = default;
+  constexpr virtual ~Clock() = default;
 
   // Local time, to the second.
   virtual Moment Now() const = 0;
 };
+
+// Stands at the beginning of a day: for who needs no time.
+class StoppedClock final : public Clock {
+ public:
+  Moment Now() const override { return {"2000-01-01", "00:00:00"}; }
+};
+inline constexpr StoppedClock kStoppedClock;
 
 }  // namespace velnor
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/clock.h"
 #include "base/user_folder.h"
 
 namespace velnor {
@@ -26,6 +27,7 @@ struct SessionState {
   std::optional<UserFolder> user = {};
   std::string base_folder = {};  // the start-up directory with a separator at its end
   std::string date_text = {};    // today, as DateText writes it; stays for the whole run
+  const Clock* clock = &kStoppedClock;  // of the deeds; lives as long as the session, never null
 
   // The path of a file in the start-up directory itself.
   std::string BaseFile(std::string_view file_name) const;

@@ -21,6 +21,8 @@
 #include "shell/header.h"
 #include "shell/menu_states.h"
 #include "shell/screens.h"
+#include "users/backup.h"
+#include "users/history.h"
 #include "users/login_dialog.h"
 #include "users/profile_dialog.h"
 #include "users/users_dialog.h"
@@ -33,6 +35,10 @@ struct ControlEvent {
   int notification;
   void (*run)(Program& program);
 };
+
+constexpr std::string_view kNoCopy =
+    "Today's copy of your data could not be made.\n"
+    "Is the disk full, or the folder \"kopie zapasowe\" write-protected?";
 
 constexpr ControlEvent kControlEvents[] = {
     {102, kButtonClicked, [](Program& p) { p.bmi().Count(); }},
@@ -75,8 +81,10 @@ constexpr ControlEvent kControlEvents[] = {
 }  // namespace
 
 Program::Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
-                 MessageBoxes& message_boxes)
-    : session_{.base_folder = std::move(base_folder), .date_text = std::move(date_text)},
+                 MessageBoxes& message_boxes, const Clock& clock)
+    : session_{.base_folder = std::move(base_folder),
+               .date_text = std::move(date_text),
+               .clock = &clock},
       form_(form),
       window_(window),
       message_boxes_(message_boxes),
@@ -228,10 +236,22 @@ void Program::OpenBurnedRecord() {
                                            burned_.counted_activity()));
 }
 
+// The copy shows the day before: it comes first.
 void Program::StartUserDay() {
+  MakeCopyOfTheDay();
+  BeginHistory(session_, *session_.user);
   PassOver(day_.StartDayIfNew());
   requirement_.OnLogin();
   food_list_.Empty("");
+}
+
+// A copy that cannot be made hinders nothing, and is said once.
+void Program::MakeCopyOfTheDay() {
+  if (MakeDailyCopy(session_.base_folder, IsoDate(session_.date_text)) || missing_copy_is_said_) {
+    return;
+  }
+  missing_copy_is_said_ = true;
+  message_boxes_.Show({.text = kNoCopy});
 }
 
 }  // namespace velnor

@@ -12,6 +12,7 @@
 #include "activity/burned_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
+#include "base/clock.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
@@ -37,7 +38,7 @@ class Program {
   // `base_folder`: the start-up directory with a separator at its end. `date_text`: today. `form`
   // holds the controls of the main window; nothing is asked of the interfaces before Start.
   Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
-          MessageBoxes& message_boxes);
+          MessageBoxes& message_boxes, const Clock& clock = kStoppedClock);
 
   // The menu as it is when nobody is logged in, and the user's products. Called once, when the main
   // window and its controls exist.
@@ -93,10 +94,12 @@ class Program {
  private:
   // What begins with the login of a user: the day's balance, the user's limits.
   void StartUserDay();
+  void MakeCopyOfTheDay();
   // After a product of the user's own came or went.
   void OnProductsChanged();
 
   SessionState session_;
+  bool missing_copy_is_said_ = false;
   Form& form_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
