@@ -7,6 +7,7 @@
 #include "activity/activity_table.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -54,9 +55,11 @@ Burned CountBurned(std::string_view activity, std::string_view minutes) {
 }
 
 BurnedTotal::DayLine BurnedTotal::Read() const {
-  // On disk a line ends with CR LF, which counts as one character.
-  const std::optional<std::string> text = ReadFileToRewrite(Path(), kLineLimit + 1);
   DayLine result;
+  if (!session_.user) return result;
+  // On disk a line ends with CR LF, which counts as one character.
+  const std::optional<std::string> text =
+      ReadFileToRewrite(session_.user->File(kBurnedFile), kLineLimit + 1);
   if (!text) return result;
   std::string_view line = LineReader(*text, kLineLimit).Next().value_or("");
   result.date = NextField(line);
@@ -68,7 +71,9 @@ BurnedTotal::DayLine BurnedTotal::Read() const {
 
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
-  if (line.is_empty) AppendToFile(Path(), "");
+  if (line.is_readable && line.is_empty) {
+    PassOver(AppendToFile(session_.user->File(kBurnedFile), ""));
+  }
   kcal_ = static_cast<float>(ParseNumber(line.kcal));
   return line;
 }
@@ -78,7 +83,7 @@ std::string BurnedTotal::Refresh() { return Take().kcal; }
 std::string BurnedTotal::RefreshForToday() {
   const DayLine line = Take();
   const bool may_be_emptied = line.is_readable && !line.is_empty;
-  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) ReplaceFile(Path(), "");
+  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) Write("");
   return line.kcal;
 }
 
@@ -87,15 +92,17 @@ std::string BurnedTotal::Add(std::string_view burned) {
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
-  if (line.is_readable) {
-    ReplaceFile(Path(), session_.date_text + kFieldEnd + total + kFieldEnd);
-  }
+  if (line.is_readable) Write(session_.date_text + kFieldEnd + total + kFieldEnd);
   return total;
 }
 
 void BurnedTotal::Clear() {
-  ReplaceFile(Path(), "");
+  Write("");
   kcal_ = 0;
+}
+
+void BurnedTotal::Write(std::string_view bytes) {
+  if (session_.user) PassOver(ReplaceFile(session_.user->File(kBurnedFile), bytes));
 }
 
 }  // namespace velnor

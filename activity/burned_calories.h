@@ -12,8 +12,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kBurnedFile = "erg.txt";
-
 // Characters of the typed minutes that count.
 inline constexpr std::size_t kMinutesLimit = 8;
 
@@ -62,14 +60,14 @@ class BurnedTotal {
   struct DayLine {
     std::string date;
     std::string kcal;
-    bool is_readable = false;
-    bool is_empty = false;  // the file, or there is none
+    bool is_readable = false;  // never without a user
+    bool is_empty = false;     // the file, or there is none
   };
 
-  std::string Path() const { return session_.UserFile(kBurnedFile); }
   DayLine Read() const;
   // Reads, making the file when there is none, and knows the total from then on.
   DayLine Take();
+  void Write(std::string_view bytes);
 
   const SessionState& session_;
   float kcal_ = 0;

@@ -10,8 +10,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kBurnedReportFile = "cwiczenia.ASC";
-
 // Characters that a figure of a record has at most; what a longer one has too much is cut off.
 inline constexpr std::size_t kRecordFigureLimit = 5;
 
@@ -30,7 +28,7 @@ struct BurnedRecord {
 std::string BurnedRecordText(const BurnedRecord& record);
 
 // Adds the record to the end of the report. False when the report is what it was before.
-bool AppendBurnedRecord(const std::string& path, const BurnedRecord& record);
+[[nodiscard]] bool AppendBurnedRecord(const std::string& path, const BurnedRecord& record);
 
 }  // namespace velnor
 

@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <utility>
 
+#include "base/text_file.h"
+#include "users/user_files.h"
+
 namespace velnor {
 namespace {
 
@@ -36,13 +39,15 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  AppendBurnedRecord(session_.UserFile(kBurnedReportFile),
-                     {.date = form.ReadText(kDate, kTextLimit),
-                      .activity = counted_activity_,
-                      .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                      .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                      .fat = form.ReadText(kFat, kRecordFigureLimit),
-                      .other = form.ReadText(kOther, kTextLimit)});
+  const BurnedRecord record = {.date = form.ReadText(kDate, kTextLimit),
+                               .activity = counted_activity_,
+                               .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                               .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                               .fat = form.ReadText(kFat, kRecordFigureLimit),
+                               .other = form.ReadText(kOther, kTextLimit)};
+  if (const auto path = session_.UserFile(kBurnedReportFile)) {
+    PassOver(AppendBurnedRecord(*path, record));
+  }
   form.Close();
 }
 

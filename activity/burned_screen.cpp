@@ -18,7 +18,7 @@ constexpr int kTotal = 180;
 
 constexpr std::size_t kCaloriesLimit = 14;
 
-constexpr std::string_view kNothing = "0";
+constexpr std::string_view kZero = "0";
 
 constexpr Font kStrongFont{15, 700, false};
 
@@ -50,18 +50,18 @@ BurnedScreen::BurnedScreen(BurnedTotal& total, Form& form, MainWindow& window,
 
 void BurnedScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "burned calories counting");
+  canvas.WriteText({10, 30}, "burned calories counting");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
-  DrawTexts(canvas, kBodyTexts);
+  WriteTexts(canvas, kBodyTexts);
   canvas.SetFont(kStrongFont);
-  DrawTexts(canvas, kStrongTexts);
+  WriteTexts(canvas, kStrongTexts);
 
   std::vector<std::string_view> names;
   std::ranges::transform(Activities(), std::back_inserter(names), &ActivityRecord::name);
   form_.FillItems(kActivities, names);
   const std::string total = total_.RefreshForToday();
-  form_.SetText(kTotal, total.empty() ? kNothing : total);
+  form_.SetText(kTotal, total.empty() ? kZero : total);
 }
 
 void BurnedScreen::Count() {
@@ -78,7 +78,7 @@ void BurnedScreen::Add() {
 
 void BurnedScreen::Clear() {
   total_.Clear();
-  form_.SetText(kTotal, kNothing);
+  form_.SetText(kTotal, kZero);
   message_boxes_.Show({.text = "Balance has been cleared", .owner = MessageOwner::kNone});
   window_.Invalidate();
 }

@@ -86,16 +86,16 @@ constexpr PlacedText kWarning[] = {
 
 void PaintWeightExchanges(Canvas& canvas) {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "WEIGHT EXCHANGERS");
+  canvas.WriteText({10, 30}, "WEIGHT EXCHANGERS");
   canvas.SetTextColour(kRed);
-  DrawTexts(canvas, kWarning);
+  WriteTexts(canvas, kWarning);
   canvas.SetTextColour(kBlack);
   canvas.SetFont(kBodyFont);
   for (const Column& column : kColumns) {
     int y = kFirstRow;
     for (const auto& [measure, amount] : column.rows) {
-      canvas.DrawText({column.measure_x, y}, measure);
-      canvas.DrawText({column.amount_x, y}, amount);
+      canvas.WriteText({column.measure_x, y}, measure);
+      canvas.WriteText({column.amount_x, y}, amount);
       y += kRowHeight;
     }
   }

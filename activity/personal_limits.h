@@ -11,8 +11,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kLimitsFile = "zapot.ASC";
-
 // In the order of file and screen: lower and upper limit of calories [kcal], protein, fat and
 // carbohydrate [g].
 enum Limit : std::size_t {
@@ -55,8 +53,8 @@ PersonalLimits ReadPersonalLimits(const std::string& path);
 std::optional<std::string_view> FindFault(const PersonalLimits& limits);
 
 // Writes the limits to the file, or that there are none. False when the file keeps what it held.
-bool WritePersonalLimits(const std::string& path, const PersonalLimits& limits);
-bool WriteNoLimits(const std::string& path);
+[[nodiscard]] bool WritePersonalLimits(const std::string& path, const PersonalLimits& limits);
+[[nodiscard]] bool WriteNoLimits(const std::string& path);
 
 }  // namespace velnor
 

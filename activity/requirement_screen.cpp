@@ -5,6 +5,8 @@
 #include <string>
 
 #include "base/number_text.h"
+#include "base/text_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -85,16 +87,17 @@ RequirementScreen::RequirementScreen(const SessionState& session, const UserProf
       window_(window),
       message_boxes_(message_boxes) {}
 
-std::string RequirementScreen::LimitsPath() const { return session_.UserFile(kLimitsFile); }
+PersonalLimits RequirementScreen::ReadLimits() const {
+  const std::optional<std::string> path = session_.UserFile(kLimitsFile);
+  return path ? ReadPersonalLimits(*path) : PersonalLimits();
+}
 
 void RequirementScreen::OnLogin() {
-  limits_ = ReadPersonalLimits(LimitsPath());
+  limits_ = ReadLimits();
   limits_active_ = limits_.ShowAsActive();
 }
 
-void RequirementScreen::Update() {
-  UpdateRequirement(profile_, ReadPersonalLimits(LimitsPath()), requirement_);
-}
+void RequirementScreen::Update() { UpdateRequirement(profile_, ReadLimits(), requirement_); }
 
 RequirementBounds RequirementScreen::DayBounds() const {
   return limits_active_ ? BoundsOf(limits_) : BoundsOf(requirement_);
@@ -102,26 +105,26 @@ RequirementBounds RequirementScreen::DayBounds() const {
 
 void RequirementScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kHeadingFont);
-  canvas.DrawText({10, 30}, "Daily request");
+  canvas.WriteText({10, 30}, "Daily request");
   canvas.SetTextColour(kOrange);
-  canvas.DrawText({540, 65}, "User settings");
+  canvas.WriteText({540, 65}, "User settings");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kIntroduction);
+  WriteTexts(canvas, kIntroduction);
   canvas.SetTextColour(kRed);
   const int age = ParseInteger(profile_.age);
   if (age < kYoungestGrouped) {
-    DrawTexts(canvas, kChildNote);
+    WriteTexts(canvas, kChildNote);
   } else if (profile_.IsAthlete()) {
-    DrawTexts(canvas, kAthleteNote);
+    WriteTexts(canvas, kAthleteNote);
   }
   canvas.SetTextColour(kBlack);
-  DrawTexts(canvas, kLabels);
+  WriteTexts(canvas, kLabels);
   canvas.SetFont(kSetupsFont);
   canvas.SetTextColour(kDarkBlue);
   const PlacedText& setups = limits_active_ ? kActive : kInactive;
-  canvas.DrawText(setups.at, setups.text);
+  canvas.WriteText(setups.at, setups.text);
   ShowRequirement();
   ShowLimits();
 }
@@ -153,13 +156,13 @@ void RequirementScreen::Activate() {
     message_boxes_.Show({.text = *fault});
     return;
   }
-  WritePersonalLimits(LimitsPath(), typed);
-  limits_ = ReadPersonalLimits(LimitsPath());
+  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WritePersonalLimits(*path, typed));
+  limits_ = ReadLimits();
   window_.Invalidate();
 }
 
 void RequirementScreen::Clear() {
-  WriteNoLimits(LimitsPath());
+  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WriteNoLimits(*path));
   limits_active_ = false;
   window_.Invalidate();
 }

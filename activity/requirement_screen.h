@@ -36,7 +36,7 @@ class RequirementScreen {
   RequirementBounds DayBounds() const;
 
  private:
-  std::string LimitsPath() const;
+  PersonalLimits ReadLimits() const;
   void ShowRequirement();
   void ShowLimits();
 

@@ -28,7 +28,7 @@ struct Font {
   int height = 0;  // of the character cell, pixels
   int weight = 0;  // 0 = the platform's regular weight, 700 = bold
   bool italic = false;
-  bool smooth = true;  // the edges of its letters: what is very small is clearer without
+  bool narrow = false;  // its letters have five sixths of the face's own width
   bool operator==(const Font&) const = default;
 };
 
@@ -58,8 +58,8 @@ class Canvas {
   virtual void SetTextColour(Colour colour) = 0;
   virtual void SetPen(const Pen& pen) = 0;
 
-  // Draws one line of code page 1250 text with its top left corner at `at`.
-  virtual void DrawText(Point at, std::string_view text) = 0;
+  // Writes one line of code page 1250 text with its top left corner at `at`.
+  virtual void WriteText(Point at, std::string_view text) = 0;
 
   // Draws from point to point with the pen. As the platform draws lines, the last point itself is
   // not drawn. Fewer than two points draw nothing.
@@ -77,8 +77,8 @@ struct PlacedText {
   std::string_view text;
 };
 
-inline void DrawTexts(Canvas& canvas, std::span<const PlacedText> texts) {
-  for (const PlacedText& row : texts) canvas.DrawText(row.at, row.text);
+inline void WriteTexts(Canvas& canvas, std::span<const PlacedText> texts) {
+  for (const PlacedText& row : texts) canvas.WriteText(row.at, row.text);
 }
 
 }  // namespace velnor

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <iterator>
+#include <optional>
 
 namespace velnor {
 namespace {
@@ -46,7 +49,44 @@ constexpr std::array<char16_t, 128> kSigns = {
 };
 // clang-format on
 
-char ToLower(char c) {
+// Small letters with marks, each before its plain letter.
+constexpr std::string_view kPlainLetters =
+    "\x9As\x9Cs\x9Dt\x9Ez\x9Fz\xB3l\xB9\x61\xBAs\xBEl\xBFz\xDFs\xE0r\xE1\x61\xE2\x61\xE3\x61"
+    "\xE4\x61\xE5l\xE6\x63\xE7\x63\xE8\x63\xE9\x65\xEA\x65\xEB\x65\xEC\x65\xEDi\xEEi\xEF\x64"
+    "\xF0\x64\xF1n\xF2n\xF3o\xF4o\xF5o\xF6o\xF8r\xF9u\xFAu\xFBu\xFCu\xFDy\xFEt\xA0 ";
+
+// Plain letters of the code points from U+00C0 to U+017F.
+constexpr char32_t kFirstLatin = 0xC0;
+constexpr std::string_view kPlainLatin =
+    "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty"
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiJjJjKkkLlLlLlLl"
+    "LlNnNnNnnNnOoOoOoOoRrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
+static_assert(kPlainLatin.size() == 0x180 - kFirstLatin);
+
+struct StandIn {
+  char32_t first;
+  char32_t last;
+  char sign;  // NUL: nothing
+};
+
+constexpr StandIn kStandIns[] = {
+    {0x00A1, 0x00A1, '!'}, {0x00AA, 0x00AA, 'a'}, {0x00B2, 0x00B2, '2'},  {0x00B3, 0x00B3, '3'},
+    {0x00B9, 0x00B9, '1'}, {0x00BA, 0x00BA, 'o'}, {0x0218, 0x0218, 'S'},  {0x0219, 0x0219, 's'},
+    {0x021A, 0x021A, 'T'}, {0x021B, 0x021B, 't'}, {0x0300, 0x036F, 0},  // marks that combine
+    {0x2000, 0x200A, ' '}, {0x200B, 0x200F, 0},   {0x2010, 0x2015, '-'},  {0x201B, 0x201B, '\''},
+    {0x2028, 0x2029, ' '}, {0x202F, 0x202F, ' '}, {0x2032, 0x2032, '\''}, {0x2033, 0x2033, '"'},
+    {0x2044, 0x2044, '/'}, {0x2212, 0x2212, '-'}, {0x2215, 0x2215, '/'},  {0x2264, 0x2264, '<'},
+    {0x2265, 0x2265, '>'}, {0x3000, 0x3000, ' '}, {0xFEFF, 0xFEFF, 0},
+};
+
+constexpr char kUnknownSign = '?';
+
+// Units of which two make a sign beyond the first 65,536: first halves, then second ones.
+constexpr char32_t kFirstSurrogate = 0xD800;
+constexpr char32_t kFirstLowSurrogate = 0xDC00;
+constexpr char32_t kLastSurrogate = 0xDFFF;
+
+constexpr char ToLower(char c) {
   const auto byte = static_cast<unsigned char>(c);
   for (const LetterRange& range : kCapitals) {
     if (byte >= range.first && byte <= range.last) return static_cast<char>(byte + range.distance);
@@ -54,10 +94,124 @@ char ToLower(char c) {
   return c;
 }
 
+// By byte, because names are folded by the thousand.
+constexpr std::array<char, 256> kFolded = [] {
+  std::array<char, 256> folded = {};
+  for (std::size_t byte = 0; byte < folded.size(); ++byte) {
+    folded[byte] = ToLower(static_cast<char>(byte));
+    for (std::size_t i = 0; i < kPlainLetters.size(); i += 2) {
+      if (kPlainLetters[i] == folded[byte]) {
+        folded[byte] = kPlainLetters[i + 1];
+        break;
+      }
+    }
+  }
+  return folded;
+}();
+
+// The forms of a sequence, by its first byte.
+struct Utf8Form {
+  unsigned char mask;
+  unsigned char mark;     // what the first byte shows under the mask
+  std::size_t following;  // bytes behind the first
+  char32_t least;         // a smaller one has a shorter form
+};
+constexpr Utf8Form kUtf8Forms[] = {
+    {0x80, 0x00, 0, 0x0}, {0xE0, 0xC0, 1, 0x80}, {0xF0, 0xE0, 2, 0x800}, {0xF8, 0xF0, 3, 0x10000}};
+
+// Takes the sequence at the start of `bytes`, which are not empty, off them. Nothing when it is not
+// sound; then one byte is taken.
+std::optional<char32_t> TakeCodePoint(std::string_view& bytes) {
+  constexpr char32_t kLastCodePoint = 0x10FFFF;
+  const auto first = static_cast<unsigned char>(bytes.front());
+  const std::string_view rest = bytes.substr(1);
+  bytes = rest;
+  const auto* const form = std::ranges::find_if(
+      kUtf8Forms, [first](const Utf8Form& row) { return (first & row.mask) == row.mark; });
+  if (form == std::end(kUtf8Forms) || rest.size() < form->following) return std::nullopt;
+  char32_t code_point = first & ~form->mask;
+  for (const char c : rest.substr(0, form->following)) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0) != 0x80) return std::nullopt;
+    code_point = code_point << 6 | (byte & 0x3F);
+  }
+  const bool is_surrogate = code_point >= kFirstSurrogate && code_point <= kLastSurrogate;
+  if (code_point < form->least || code_point > kLastCodePoint || is_surrogate) return std::nullopt;
+  bytes.remove_prefix(form->following);
+  return code_point;
+}
+
+// NUL where the sign is left out.
+char StandInFor(char32_t code_point) {
+  if (code_point >= kFirstLatin && code_point - kFirstLatin < kPlainLatin.size()) {
+    return kPlainLatin[code_point - kFirstLatin];
+  }
+  const auto* const row = std::ranges::find_if(kStandIns, [code_point](const StandIn& candidate) {
+    return candidate.first <= code_point && code_point <= candidate.last;
+  });
+  return row == std::end(kStandIns) ? kUnknownSign : row->sign;
+}
+
+void AppendInCodePage(char32_t code_point, std::string& text) {
+  constexpr char32_t kFirstSign = 0x80;
+  constexpr char32_t kNoSign = 0xFFFD;  // what the table has for bytes without a sign
+  if (code_point < kFirstSign) {
+    text += static_cast<char>(code_point);
+    return;
+  }
+  const auto* const found = std::ranges::find(kSigns, code_point);
+  if (found != kSigns.end() && code_point != kNoSign) {
+    text += static_cast<char>(kFirstSign + static_cast<char32_t>(found - kSigns.begin()));
+  } else if (const char sign = StandInFor(code_point); sign != 0) {
+    text += sign;
+  }
+}
+
 }  // namespace
 
 std::string ToLowerCase(std::string text) {
   std::ranges::transform(text, text.begin(), ToLower);
+  return text;
+}
+
+std::string FoldLetters(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](char c) { return kFolded[static_cast<unsigned char>(c)]; });
+  return text;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    if (!TakeCodePoint(bytes)) return false;
+  }
+  return true;
+}
+
+std::string FromUtf8(std::string_view utf8) {
+  std::string text;
+  text.reserve(utf8.size());
+  while (!utf8.empty()) {
+    if (const std::optional<char32_t> code_point = TakeCodePoint(utf8)) {
+      AppendInCodePage(*code_point, text);
+    } else {
+      text += kUnknownSign;
+    }
+  }
+  return text;
+}
+
+std::string FromUtf16(std::string_view bytes, bool high_byte_first) {
+  constexpr std::size_t kUnit = 2;
+  std::string text;
+  text.reserve(bytes.size() / kUnit);
+  for (std::size_t at = 0; at + kUnit <= bytes.size(); at += kUnit) {
+    const auto low = static_cast<unsigned char>(bytes[high_byte_first ? at + 1 : at]);
+    const auto high = static_cast<unsigned char>(bytes[high_byte_first ? at : at + 1]);
+    const auto unit = static_cast<char32_t>(high << 8 | low);
+    // The first half of a pair stands for both: the code page has no sign so far up.
+    if (unit >= kFirstLowSurrogate && unit <= kLastSurrogate) continue;
+    AppendInCodePage(unit, text);
+  }
   return text;
 }
 

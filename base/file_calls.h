@@ -58,6 +58,13 @@ bool HasFolder(const std::string& path);
 bool MakeFolder(const std::string& path);
 bool RemoveFolder(const std::string& path);
 
+// Gives a folder, with all that is in it, another name in the same folder. False when the system
+// could not, as when something has that name.
+bool RenameFolder(const std::string& from, const std::string& to);
+
+// The size of a file in bytes; 0 when it cannot be told.
+std::uint64_t SizeOfFile(const std::string& path);
+
 struct FolderEntry {
   std::string name;
   bool is_folder;

@@ -45,6 +45,10 @@ class Form {
   // SetText puts there is not cut.
   virtual void LimitText(int id, std::size_t limit) = 0;
 
+  // From here on a comma that a person types into the edit is a point, as numbers are written. What
+  // is pasted, and what SetText puts there, keeps its commas.
+  virtual void TakeNumbers(int id) = 0;
+
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
   // without regard to case. None of these announces anything.
   virtual int ItemCount(int id) const = 0;

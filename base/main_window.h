@@ -4,11 +4,20 @@
 #define VELNOR_BASE_MAIN_WINDOW_H_
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "base/dialog.h"
 
 namespace velnor {
+
+// A kind of files to choose from: what it is called and the patterns of its names, as in
+// {"Tables (*.csv; *.txt)", "*.csv;*.txt"}.
+struct FileKind {
+  std::string_view name;
+  std::string_view patterns;
+};
 
 class MainWindow {
  public:
@@ -40,9 +49,21 @@ class MainWindow {
   // Opens the dialog template `resource_id` and waits until it is closed.
   virtual void RunDialog(int resource_id, Dialog& dialog) = 0;
 
+  // Lets the person choose a file that there is, over the dialog they are working in, and waits.
+  // Its path, as the files of the program are named; nothing when none was chosen.
+  virtual std::optional<std::string> ChooseFile(const FileKind& kind) = 0;
+
+  // Opens a text file that lies beside the program or in the start-up folder for reading. Returns
+  // false when there is none of that name or nothing opens it.
+  virtual bool OpenGuideFile(std::string_view name) = 0;
+
   // Asks the platform to open a help file of the start-up folder. What a platform without such a
   // file, or without a viewer for it, does is its own affair.
   virtual void OpenHelp(std::string_view file_name) = 0;
+
+  // Opens a page, a file with its whole path, in the person's browser and returns at once. False
+  // when the platform knows no browser or cannot start it.
+  [[nodiscard]] virtual bool OpenInBrowser(const std::string& path) = 0;
 };
 
 }  // namespace velnor

@@ -6,14 +6,8 @@ std::string SessionState::BaseFile(std::string_view file_name) const {
   return base_folder + std::string(file_name);
 }
 
-std::string SessionState::FolderOf(const std::string& user) const { return base_folder + user; }
-
-std::string SessionState::FileOf(const std::string& user, std::string_view file_name) const {
-  return FolderOf(user) + kPathSeparator + std::string(file_name);
-}
-
-std::string SessionState::UserFile(std::string_view file_name) const {
-  return user_name.empty() ? "" : FileOf(user_name, file_name);
+std::optional<std::string> SessionState::UserFile(std::string_view file_name) const {
+  return user ? std::optional(user->File(file_name)) : std::nullopt;
 }
 
 std::string DateText(int day, int month, int year) {

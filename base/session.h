@@ -4,9 +4,11 @@
 #ifndef VELNOR_BASE_SESSION_H_
 #define VELNOR_BASE_SESSION_H_
 
-#include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/user_folder.h"
 
 namespace velnor {
 
@@ -17,26 +19,19 @@ inline constexpr std::string_view kTitle = "Velnor calorie counter";
 using ScreenId = int;
 inline constexpr ScreenId kHomeScreen = 0;
 
-// Characters of a user's name.
-inline constexpr std::size_t kUserNameLimit = 99;
-
 struct SessionState {
   ScreenId screen = kHomeScreen;
-  std::string user_name = {};    // at most kUserNameLimit; empty: nobody is logged in
+  // Nothing while nobody is logged in. A name chosen in the login dialog counts as logged in before
+  // its OK: the header shows it, and files written from then on are that user's.
+  std::optional<UserFolder> user = {};
   std::string base_folder = {};  // the start-up directory with a separator at its end
   std::string date_text = {};    // today, as DateText writes it; stays for the whole run
 
-  // The path of a file in the start-up directory itself, and of a user's folder and a file in it.
+  // The path of a file in the start-up directory itself.
   std::string BaseFile(std::string_view file_name) const;
-  std::string FolderOf(const std::string& user) const;
-  std::string FileOf(const std::string& user, std::string_view file_name) const;
-  // The path of a file of the user who is logged in; empty, the path of no file, when nobody is.
-  std::string UserFile(std::string_view file_name) const;
+  // The path of a file of the user who is logged in; nothing when nobody is.
+  std::optional<std::string> UserFile(std::string_view file_name) const;
 };
-
-// Between the folders of a path.
-inline constexpr char kPathSeparator =
-    static_cast<char>(std::filesystem::path::preferred_separator);
 
 // Day, month (1 to 12) and four-digit year joined by points, without leading zeros: "5.3.2026".
 std::string DateText(int day, int month, int year);

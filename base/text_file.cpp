@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -13,16 +12,12 @@
 namespace velnor {
 namespace {
 
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-
 // Of the name of a temporary file, what stands behind the name of the file whose place it is to
 // take: this, the number of the process, and the ending.
 constexpr std::string_view kTemporaryMark = ".velnor-";
 constexpr std::string_view kTemporaryEnding = ".new";
 
-File Open(const std::string& path, const char* mode) {
-  return File(path.empty() ? nullptr : OpenFile(path, mode));
-}
+File Open(const std::string& path, const char* mode) { return File(OpenFile(path, mode)); }
 
 bool IsTemporaryName(std::string_view name) {
   const std::size_t mark = name.rfind(kTemporaryMark);
@@ -34,7 +29,7 @@ bool IsTemporaryName(std::string_view name) {
 
 bool WriteTemporary(const std::string& path, std::string_view bytes) {
   // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (path.empty() || IsWriteProtected(path)) return false;
+  if (IsWriteProtected(path)) return false;
   return WriteNewFile(TemporaryPath(path), bytes);
 }
 
@@ -54,7 +49,7 @@ struct OldFile {
 
 void Restore(const OldFile& old) {
   if (old.existed) {
-    ReplaceFile(old.path, old.bytes);
+    PassOver(ReplaceFile(old.path, old.bytes));
   } else {
     RemoveFile(old.path);
   }
@@ -63,7 +58,6 @@ void Restore(const OldFile& old) {
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
-  if (path.empty()) return "";
   errno = 0;
   const File file = Open(path, "rb");
   if (!file) {
@@ -94,7 +88,7 @@ bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool AppendToFile(const std::string& path, std::string_view text) {
   if (text.empty()) return Open(path, "ab") != nullptr;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   return old && ReplaceFile(path, *old + WithCrLf(text));
 }
 
@@ -133,7 +127,7 @@ bool ReplaceFile(const std::string& path, std::string_view bytes) {
 bool ReplaceFiles(std::span<const FileBytes> files) {
   std::vector<OldFile> old;
   for (const FileBytes& file : files) {
-    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kNoLimit);
+    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kWholeFile);
     if (!bytes) return false;
     old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
   }

@@ -1,5 +1,4 @@
-// The text files of the program. Nobody else opens one. An empty path is that of no file: it reads as
-// a missing one and is not written.
+// The text files of the program. Nobody else opens one.
 
 #ifndef VELNOR_BASE_TEXT_FILE_H_
 #define VELNOR_BASE_TEXT_FILE_H_
@@ -13,6 +12,9 @@
 #include <string_view>
 
 namespace velnor {
+
+// A limit that every file keeps.
+inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
 
 // The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
 // when there is something that cannot be read, or when the folder is missing, which may come back
@@ -31,7 +33,7 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 
 // Writes the bytes where the file is, brings them to the disk and closes it. False when the system
 // could not.
-bool WriteAndClose(File file, std::string_view bytes);
+[[nodiscard]] bool WriteAndClose(File file, std::string_view bytes);
 
 // Whether there is a file that can be opened for reading.
 bool FileExists(const std::string& path);
@@ -39,12 +41,15 @@ bool FileExists(const std::string& path);
 // Adds `text` to the end of the file, which is made when it is missing, for an empty text too.
 // Every line end of the text goes to disk as CR LF. The file is replaced by a longer one, so that
 // no crash leaves half a record. False when the file is not longer by all of the text.
-bool AppendToFile(const std::string& path, std::string_view text);
+[[nodiscard]] bool AppendToFile(const std::string& path, std::string_view text);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. A
 // write-protected file is not replaced. False when the old ones remain.
-bool ReplaceFile(const std::string& path, std::string_view bytes);
+[[nodiscard]] bool ReplaceFile(const std::string& path, std::string_view bytes);
+
+// For a write whose failure nobody is told, on purpose.
+inline void PassOver(bool /*written*/) {}
 
 struct FileBytes {
   std::string path;
@@ -54,11 +59,11 @@ struct FileBytes {
 // Does the same with several files that belong together: when one of them cannot be written, all
 // stay as they were. Only a crash can come between two of them, or a disk that also refuses what
 // was there before. False when the old bytes remain.
-bool ReplaceFiles(std::span<const FileBytes> files);
+[[nodiscard]] bool ReplaceFiles(std::span<const FileBytes> files);
 
 // Makes a file of these bytes, which are on the disk then. False, and no such file, when the system
 // could not.
-bool WriteNewFile(const std::string& path, std::string_view bytes);
+[[nodiscard]] bool WriteNewFile(const std::string& path, std::string_view bytes);
 
 // What a file is called that this process writes beside `path` to take its place. No other process
 // has that name.

@@ -13,13 +13,13 @@
 #include <cstdlib>
 #include <exception>
 #include <map>
-#include <psapi.h>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "bench/started.h"
 #include "bench/table.h"
 #include "tests/desktop/driver.h"
 
@@ -30,32 +30,11 @@ using desktop::WaitUntil;
 using desktop::Window;
 using desktop::WorkFolder;
 
-constexpr DWORD kPatience = 20'000;  // ms
-constexpr int kRepaints = 15;        // of each screen in a round
+constexpr int kRepaints = 15;  // of each screen in a round
 constexpr int kStartsInRound = 3;
 constexpr int kRounds = 10;
-constexpr DWORD kCalm = 500;  // ms after which the display has dealt with a new window
-
-constexpr const char* kVelnorClass = "Velnor calorie counter";
-constexpr const char* kBareClass = "bare window";
-constexpr char kDialogClass[] = "#32770";
-
 constexpr double kMegabyte = 1e6;
 constexpr double kExeBound = 6;  // MB
-
-std::string FolderOfThisProgram() {
-  std::string path(MAX_PATH, '\0');
-  path.resize(GetModuleFileNameA(nullptr, path.data(), MAX_PATH));
-  return path.substr(0, path.rfind('\\') + 1);
-}
-
-double Milliseconds() {
-  LARGE_INTEGER frequency;
-  LARGE_INTEGER now;
-  QueryPerformanceFrequency(&frequency);
-  QueryPerformanceCounter(&now);
-  return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // What the display shows along a diagonal of the window.
 std::vector<COLORREF> Diagonal(HWND window) {
@@ -71,92 +50,6 @@ std::vector<COLORREF> Diagonal(HWND window) {
   ReleaseDC(nullptr, screen);
   return colours;
 }
-
-enum class What { kWindow, kWindowAndControls };
-
-// A program from its start on; ended with the object.
-class Started {
- public:
-  // Returns when its window and all in it has been painted for the first time.
-  Started(const std::string& command, const char* window_class, const std::string& folder) {
-    std::string command_line = FolderOfThisProgram() + command;
-    STARTUPINFOA start = {};
-    start.cb = sizeof start;
-    const double before = Milliseconds();
-    if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                       folder.c_str(), &start, &process_) == 0) {
-      throw std::runtime_error("cannot start " + command_line);
-    }
-    // From when it is visible on, the window knows what of it is still to be painted.
-    do {
-      if (Milliseconds() - before > kPatience) Fail(command + " opens no window");
-      Sleep(1);
-      window_ = FindWindowA(window_class, nullptr);
-    } while (window_ == nullptr || IsWindowVisible(window_) == 0);
-    WaitUntilPainted();
-    start_ms_ = Milliseconds() - before;
-  }
-  Started(const Started&) = delete;
-  Started& operator=(const Started&) = delete;
-  ~Started() { End(); }
-
-  double start_ms() const { return start_ms_; }
-  HWND window() const { return window_; }
-
-  // Milliseconds from the need to repaint until all that needs it is painted: the window, as the
-  // program asks for it when something has changed, or its controls too, as after something lay
-  // over it. Only the program itself may paint: a paint sent from here would come on top of its
-  // own.
-  double Repaint(What what) const {
-    const double before = Milliseconds();
-    RedrawWindow(window_, nullptr, nullptr,
-                 static_cast<UINT>(RDW_INVALIDATE | RDW_ERASE |
-                                   (what == What::kWindow ? RDW_NOCHILDREN : RDW_ALLCHILDREN)));
-    WaitUntilPainted();
-    RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    SendMessageA(window_, WM_NULL, 0, 0);
-    return Milliseconds() - before;
-  }
-
-  double PeakMegabytes() const {
-    PROCESS_MEMORY_COUNTERS memory = {};
-    if (GetProcessMemoryInfo(process_.hProcess, &memory, sizeof memory) == 0) {
-      throw std::runtime_error("the memory of a program cannot be read");
-    }
-    return static_cast<double>(memory.PeakWorkingSetSize) / kMegabyte;
-  }
-
- private:
-  // The program answers between two messages: when it answers after nothing was left to paint, the
-  // last painting has ended.
-  void WaitUntilPainted() const {
-    do {
-      SendMessageA(window_, WM_NULL, 0, 0);
-    } while (GetUpdateRect(window_, nullptr, FALSE) != 0);
-    SendMessageA(window_, WM_NULL, 0, 0);
-  }
-  [[noreturn]] void Fail(const std::string& why) {
-    End();
-    throw std::runtime_error(why);
-  }
-  // As a person ends it, and not before the display has dealt with its window: one that is torn
-  // away while it is being opened can leave its frame behind and cover the next.
-  void End() {
-    Sleep(kCalm);
-    PostMessageA(window_, WM_CLOSE, 0, 0);
-    if (WaitForSingleObject(process_.hProcess, kPatience) != WAIT_OBJECT_0) {
-      TerminateProcess(process_.hProcess, 1);
-      WaitForSingleObject(process_.hProcess, kPatience);
-    }
-    CloseHandle(process_.hThread);
-    CloseHandle(process_.hProcess);
-    Sleep(kCalm);
-  }
-
-  PROCESS_INFORMATION process_ = {};
-  HWND window_ = nullptr;
-  double start_ms_ = 0;
-};
 
 constexpr const char* kWithControls = ", controls too";
 

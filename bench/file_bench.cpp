@@ -53,6 +53,7 @@ class PlainForm final : public Form {
   void RemoveItem(int, int) override {}
   void Focus(int) override {}
   void LimitText(int, std::size_t) override {}
+  void TakeNumbers(int) override {}
   void SetDefaultButton(int) override {}
   void Scroll(int, ScrollStep) override {}
   void Show(int) override {}
@@ -93,8 +94,8 @@ class PersonsFolder {
     folder_.Write("Ann/z1.ASC", "25.475");
     folder_.Write("Ann/z2.ASC", "8.34");
     folder_.Write("Ann/wykoda.txt", Series(days) + "16.11.2026;1873.25;70.125;61.5;254.75;\r\n");
-    session_.user_name = "Ann";
     session_.base_folder = folder_.path();
+    session_.user = UserFolder::In(folder_.path(), "Ann");
     session_.date_text = kToday;
   }
   const SessionState& session() const { return session_; }
@@ -146,7 +147,7 @@ class Rewrite {
  public:
   Rewrite(std::int64_t days, std::initializer_list<std::string_view> names) : folder_(days) {
     for (const std::string_view name : names) {
-      const std::string path = folder_.session().UserFile(name);
+      const std::string path = folder_.session().user->File(name);
       files_.push_back({path, TemporaryPath(path), folder_.Read(name)});
     }
   }
@@ -175,7 +176,7 @@ class ReplaceChartLine {
 
  private:
   PersonsFolder folder_;
-  std::string path_ = folder_.session().UserFile(kNutrientSeriesFile);
+  std::string path_ = folder_.session().user->File(kNutrientSeriesFile);
 };
 
 // Of days that are new to the series; after 21 lines it starts again, by itself.
@@ -188,7 +189,7 @@ class AddChartLine {
 
  private:
   PersonsFolder folder_{0};
-  std::string path_ = folder_.session().UserFile(kNutrientSeriesFile);
+  std::string path_ = folder_.session().user->File(kNutrientSeriesFile);
   int day_ = 0;
 };
 

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cstring>
 #include <fcntl.h>
-#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,16 +37,6 @@ class LoadedFood {
   FoodTable food_;
 };
 
-std::string SearchedText(const FoodTable& food) {
-  std::string text;
-  for (const auto products : {food.products, food.user_products.products()}) {
-    for (const ProductRecord& product : products) {
-      text.append(product.subcategory).append(1, ' ').append(product.name).append(1, '\0');
-    }
-  }
-  return text;
-}
-
 void Search(benchmark::State& state) {
   const LoadedFood loaded(state.range(1));
   const std::string query = kQueries[state.range(0)];
@@ -61,41 +49,11 @@ void Search(benchmark::State& state) {
   state.SetLabel(std::to_string(found) + " found");
 }
 
-// One pass of the C library over the same bytes. A product is found once: the pass goes on behind
-// it.
-void SearchFloor(benchmark::State& state) {
-  const LoadedFood loaded(kAllProducts);
-  const std::string text = SearchedText(loaded.food());
-  const std::string query = kQueries[state.range(0)];
-  for (auto _ : state) {
-    std::size_t found = 0;
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    while ((at = static_cast<const char*>(memmem(at, static_cast<std::size_t>(end - at),
-                                                 query.data(), query.size()))) != nullptr) {
-      ++found;
-      at += std::strlen(at);
-    }
-    benchmark::DoNotOptimize(found);
-  }
-}
-
-// What writing the results down takes, which the pass above does not do: a copy of each.
-void SearchResultsFloor(benchmark::State& state) {
-  const LoadedFood loaded(kAllProducts);
-  const auto results = SearchProducts(loaded.food(), kQueries[state.range(0)]);
-  for (auto _ : state) {
-    std::vector<std::string> written;
-    std::ranges::copy(results, std::back_inserter(written));
-    benchmark::DoNotOptimize(written.data());
-  }
-}
-
 void ChooseSubcategory(benchmark::State& state) {
   const LoadedFood loaded(state.range(1));
-  const Layout layout = state.range(0) == 0 ? Layout::kCounter : Layout::kOverview;
+  const Matching matching = state.range(0) == 0 ? Matching::kCounter : Matching::kOverview;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(ListProducts(loaded.food(), layout, "vegetables", "fresh"));
+    benchmark::DoNotOptimize(ListProducts(loaded.food(), matching, "vegetables", "fresh"));
   }
 }
 
@@ -146,8 +104,6 @@ void ReloadFloor(benchmark::State& state) {
 }
 
 BENCHMARK(Search)->ArgsProduct({{0, 1, 2, 3}, {0, 300, kAllProducts}});
-BENCHMARK(SearchFloor)->DenseRange(0, 3);
-BENCHMARK(SearchResultsFloor)->Arg(3);
 BENCHMARK(ChooseSubcategory)->ArgsProduct({{0, 1}, {0, 300, kAllProducts}});
 BENCHMARK(ChooseSubcategoryFloor);
 BENCHMARK(Reload)->Arg(0)->Arg(300)->Arg(kAllProducts);

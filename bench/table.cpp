@@ -33,6 +33,13 @@ double Least(const std::vector<double>& values) {
   return values.empty() ? 0 : *std::ranges::min_element(values);
 }
 
+double NinetyNinth(const std::vector<double>& values) {
+  if (values.empty()) return 0;
+  std::vector<double> sorted = values;
+  std::ranges::sort(sorted);
+  return sorted[(sorted.size() * 99 + 99) / 100 - 1];
+}
+
 void PrintComparisons(const std::string& heading, const std::string& unit,
                       const std::vector<Comparison>& rows) {
   std::printf("\n");

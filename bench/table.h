@@ -13,6 +13,8 @@ namespace velnor::bench {
 // The median, the lower one of two, and the least; 0 of nothing.
 double Median(const std::vector<double>& values);
 double Least(const std::vector<double>& values);
+// The value that 99 of 100 do not exceed; 0 of nothing.
+double NinetyNinth(const std::vector<double>& values);
 
 struct Comparison {
   std::string what;

@@ -88,7 +88,7 @@ void DrawGraduation(Canvas& canvas, std::size_t sex) {
     if (item.label.empty()) continue;
     canvas.SetFont(item.font);
     canvas.SetTextColour(item.colour);
-    canvas.DrawText({item.label_x[sex], item.label_y}, item.label);
+    canvas.WriteText({item.label_x[sex], item.label_y}, item.label);
   }
 }
 
@@ -104,7 +104,7 @@ void DrawMarker(Canvas& canvas, float bmi) {
 void DrawOutOfScale(Canvas& canvas) {
   canvas.SetFont(kOutOfScaleFont);
   canvas.SetTextColour(kOutOfScaleColour);
-  canvas.DrawText(kOutOfScale.at, kOutOfScale.text);
+  canvas.WriteText(kOutOfScale.at, kOutOfScale.text);
 }
 
 }  // namespace

@@ -36,18 +36,18 @@ void BmiScreen::Count() {
 
 void BmiScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
-  DrawTexts(canvas, kTitle);
+  WriteTexts(canvas, kTitle);
   PaintInputs(canvas);
   canvas.SetFont(kValueFont);
-  canvas.DrawText({10, 280}, "BMI =  ");
+  canvas.WriteText({10, 280}, "BMI =  ");
   canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kRed);
-  DrawTexts(canvas, BmiAgeNote(profile_));
-  DrawTexts(canvas, BmiBodyNote(profile_));
+  WriteTexts(canvas, BmiAgeNote(profile_));
+  WriteTexts(canvas, BmiBodyNote(profile_));
   canvas.SetTextColour(kBlack);
   if (result_.value > 0) {
     canvas.SetFont(kValueFont);
-    canvas.DrawText({65, 280}, FormatNumber(result_.value, kDigits).substr(0, kShownCharacters));
+    canvas.WriteText({65, 280}, FormatNumber(result_.value, kDigits).substr(0, kShownCharacters));
   }
   DrawBmiScale(canvas, result_.value, profile_);
   DrawVerdict(canvas, BmiVerdict(result_.bmi_class));
@@ -56,12 +56,12 @@ void BmiScreen::Paint(Canvas& canvas) const {
 void BmiScreen::PaintInputs(Canvas& canvas) const {
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 70}, {300, 70});
-  canvas.DrawText({10, 95}, "Put Your weight [kg]: ");
-  canvas.DrawText({10, 115}, "Height [cm]: ");
-  canvas.DrawText({95, 115}, profile_.height);
-  canvas.DrawText({10, 135}, "Sex: ");
-  if (profile_.IsWoman()) canvas.DrawText({55, 135}, "women");
-  if (profile_.IsMan()) canvas.DrawText({55, 135}, "men");
+  canvas.WriteText({10, 95}, "Put Your weight [kg]: ");
+  canvas.WriteText({10, 115}, "Height [cm]: ");
+  canvas.WriteText({95, 115}, profile_.height);
+  canvas.WriteText({10, 135}, "Sex: ");
+  if (profile_.IsWoman()) canvas.WriteText({55, 135}, "women");
+  if (profile_.IsMan()) canvas.WriteText({55, 135}, "men");
   canvas.DrawLine({5, 175}, {300, 175});
   canvas.DrawLine({5, 260}, {300, 260});
 }

@@ -43,30 +43,30 @@ void BmrScreen::Count() {
 
 void BmrScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "BMR index");
+  canvas.WriteText({10, 30}, "BMR index");
   PaintInputs(canvas);
   canvas.SetFont(kLabelFont);
-  canvas.DrawText({10, 280}, "BMR =  ");
+  canvas.WriteText({10, 280}, "BMR =  ");
   if (result_.value > kLeastShown) {
     canvas.SetFont(kValueFont);
-    canvas.DrawText({65, 280}, FormatNumber(result_.value, kDigits).substr(0, kShownCharacters));
+    canvas.WriteText({65, 280}, FormatNumber(result_.value, kDigits).substr(0, kShownCharacters));
   }
   canvas.SetFont(kParagraphFont);
-  DrawTexts(canvas, kParagraph);
+  WriteTexts(canvas, kParagraph);
 }
 
 void BmrScreen::PaintInputs(Canvas& canvas) const {
   canvas.SetFont(kBodyFont);
-  canvas.DrawText({130, 33}, "(Basal metabolism)");
+  canvas.WriteText({130, 33}, "(Basal metabolism)");
   canvas.DrawLine({5, 55}, {695, 55});
-  canvas.DrawText({10, 95}, "Put Your body weight[kg]: ");
-  canvas.DrawText({10, 115}, "Height[cm]: ");
-  canvas.DrawText({95, 115}, profile_.height);
-  canvas.DrawText({10, 135}, "Sex: ");
-  if (profile_.IsWoman()) canvas.DrawText({55, 135}, "woman");
-  if (profile_.IsMan()) canvas.DrawText({55, 135}, "men");
-  canvas.DrawText({10, 155}, "Age: ");
-  canvas.DrawText({95, 155}, profile_.age);
+  canvas.WriteText({10, 95}, "Put Your body weight[kg]: ");
+  canvas.WriteText({10, 115}, "Height[cm]: ");
+  canvas.WriteText({95, 115}, profile_.height);
+  canvas.WriteText({10, 135}, "Sex: ");
+  if (profile_.IsWoman()) canvas.WriteText({55, 135}, "woman");
+  if (profile_.IsMan()) canvas.WriteText({55, 135}, "men");
+  canvas.WriteText({10, 155}, "Age: ");
+  canvas.WriteText({95, 155}, profile_.age);
   canvas.DrawLine({5, 175}, {300, 175});
   canvas.DrawLine({5, 260}, {300, 260});
 }

@@ -24,7 +24,7 @@ inline void DrawVerdict(Canvas& canvas, std::span<const VerdictLine> lines) {
   canvas.SetFont(kBodyFont);
   for (const VerdictLine& line : lines) {
     canvas.SetTextColour(line.colour);
-    canvas.DrawText({kVerdictX, line.y}, line.text);
+    canvas.WriteText({kVerdictX, line.y}, line.text);
   }
   canvas.SetTextColour(kBlack);
 }

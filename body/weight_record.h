@@ -8,8 +8,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kWeightReportFile = "waga.ASC";
-
 // Texts as they go into the report.
 struct WeightRecord {
   std::string date = {};

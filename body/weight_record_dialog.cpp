@@ -8,6 +8,7 @@
 #include "body/record_fields.h"
 #include "body/weight_record.h"
 #include "charts/chart_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -41,11 +42,15 @@ void WeightRecordDialog::Save(Form& form) {
                                .weight = form.ReadText(kWeight, kRecordTextLimit),
                                .bmi = ReadTwoDecimals(form, kBmi),
                                .other = form.ReadText(kRecordOther, kOtherLimit)};
-  AppendToFile(session_.UserFile(kWeightReportFile), WeightRecordLine(record));
+  if (session_.user) Write(*session_.user, record);
+  form.Close();
+}
+
+void WeightRecordDialog::Write(const UserFolder& user, const WeightRecord& record) {
+  PassOver(AppendToFile(user.File(kWeightReportFile), WeightRecordLine(record)));
   // The chart goes by the days of the calendar, whatever date the report was given.
   const std::string fields[] = {record.weight, record.bmi};
-  UpdateChartFile(session_.UserFile(kWeightSeriesFile), session_.date_text, fields);
-  form.Close();
+  PassOver(UpdateChartFile(user.File(kWeightSeriesFile), session_.date_text, fields));
 }
 
 }  // namespace velnor

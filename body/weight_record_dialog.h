@@ -6,6 +6,7 @@
 #include "base/dialog.h"
 #include "base/session.h"
 #include "body/bmi.h"
+#include "body/weight_record.h"
 #include "body/weight_text.h"
 
 namespace velnor {
@@ -22,6 +23,8 @@ class WeightRecordDialog final : public Dialog {
 
  private:
   void Save(Form& form);
+  // What cannot be written is not reported.
+  void Write(const UserFolder& user, const WeightRecord& record);
 
   const SessionState& session_;
   const WeightText& weight_;

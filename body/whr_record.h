@@ -8,8 +8,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kWhrReportFile = "whr.ASC";
-
 // Texts as they go into the report.
 struct WhrRecord {
   std::string date = {};

@@ -6,6 +6,7 @@
 #include "base/text_file.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -41,7 +42,10 @@ void WhrRecordDialog::Save(Form& form) {
                             .hip = ReadTwoDecimals(form, kHip),
                             .whr = ReadTwoDecimals(form, kWhr),
                             .other = form.ReadText(kRecordOther, kOtherLimit)};
-  AppendToFile(session_.UserFile(kWhrReportFile), WhrRecordLine(record));
+  // Whether the record could be written is not reported.
+  if (const auto path = session_.UserFile(kWhrReportFile)) {
+    PassOver(AppendToFile(*path, WhrRecordLine(record)));
+  }
   form.Close();
 }
 

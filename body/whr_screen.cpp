@@ -71,25 +71,25 @@ void WhrScreen::Count() {
 
 void WhrScreen::Paint(Canvas& canvas) const {
   canvas.SetFont(kTitleFont);
-  DrawTexts(canvas, kTitle);
+  WriteTexts(canvas, kTitle);
   PaintInputs(canvas);
   if (IsNoted(profile_)) {
     canvas.SetTextColour(kRed);
-    canvas.DrawText(kPregnantNote.at, kPregnantNote.text);
+    canvas.WriteText(kPregnantNote.at, kPregnantNote.text);
     canvas.SetTextColour(kBlack);
   }
   canvas.SetFont(kValueFont);
-  canvas.DrawText({10, 350}, "WHR = ");
-  if (result_.value > 0) canvas.DrawText({75, 350}, FormatNumber(result_.value, kDigits));
+  canvas.WriteText({10, 350}, "WHR = ");
+  if (result_.value > 0) canvas.WriteText({75, 350}, FormatNumber(result_.value, kDigits));
   DrawVerdict(canvas, kVerdicts[static_cast<std::size_t>(result_.whr_class)]);
 }
 
 void WhrScreen::PaintInputs(Canvas& canvas) const {
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 70}, {300, 70});
-  DrawTexts(canvas, kLabels);
-  if (profile_.IsMan()) canvas.DrawText({55, 150}, "men");
-  if (profile_.IsWoman()) canvas.DrawText({55, 150}, "women");
+  WriteTexts(canvas, kLabels);
+  if (profile_.IsMan()) canvas.WriteText({55, 150}, "men");
+  if (profile_.IsWoman()) canvas.WriteText({55, 150}, "women");
   canvas.DrawLine({5, 200}, {300, 200});
   canvas.DrawLine({5, 315}, {300, 315});
 }

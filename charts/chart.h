@@ -13,6 +13,7 @@
 #include "activity/personal_limits.h"
 #include "base/canvas.h"
 #include "charts/chart_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 

@@ -1,10 +1,5 @@
 #include "charts/chart_file.h"
 
-#include <limits>
-#include <optional>
-
-#include "base/text_file.h"
-
 namespace velnor {
 namespace {
 
@@ -12,7 +7,6 @@ constexpr std::size_t kLineLimit = 99;
 constexpr std::size_t kLongestEmptySlot = 5;
 constexpr std::size_t kFullSlot = 20;  // occupied: the series is full
 constexpr std::size_t kDayCharacters = 7;
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 ChartSeries SeriesOf(std::string_view text) {
   ChartSeries series;
@@ -45,10 +39,10 @@ ChartSeries LoadChartFile(const std::string& path) {
   return SeriesOf(ReadFile(path, kChartSlots * (kLineLimit + 1)));
 }
 
-bool UpdateChartFile(const std::string& path, std::string_view date,
-                     std::span<const std::string> fields) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
-  if (!text) return false;
+std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
+                                          std::span<const std::string> fields) {
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
+  if (!text) return std::nullopt;
   const ChartSeries series = SeriesOf(*text);
 
   std::string day(date);
@@ -67,12 +61,18 @@ bool UpdateChartFile(const std::string& path, std::string_view date,
       // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
       if (slot.size() < kLineLimit) lines += '\n';
     }
-    return ReplaceFile(path, WithCrLf(lines + day));
+    return FileBytes{path, WithCrLf(lines + day)};
   }
-  if (!IsEmptySlot(series.slots[kFullSlot])) return ReplaceFile(path, WithCrLf(day));
+  if (!IsEmptySlot(series.slots[kFullSlot])) return FileBytes{path, WithCrLf(day)};
   // Someone who edited the file by hand may have left its last line open.
   const bool open = !text->empty() && text->back() != '\n';
-  return AppendToFile(path, open ? '\n' + day : day);
+  return FileBytes{path, *text + WithCrLf(open ? '\n' + day : day)};
+}
+
+bool UpdateChartFile(const std::string& path, std::string_view date,
+                     std::span<const std::string> fields) {
+  const std::optional<FileBytes> file = UpdatedChartFile(path, date, fields);
+  return file && ReplaceFile(file->path, file->bytes);
 }
 
 }  // namespace velnor

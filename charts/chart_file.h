@@ -7,14 +7,14 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-namespace velnor {
+#include "base/text_file.h"
 
-inline constexpr std::string_view kWeightSeriesFile = "wykwag.txt";    // date;weight;BMI;
-inline constexpr std::string_view kNutrientSeriesFile = "wykoda.txt";  // date;kcal;P;F;C;
+namespace velnor {
 
 inline constexpr std::size_t kChartSlots = 22;
 
@@ -32,12 +32,16 @@ bool IsEmptySlot(std::string_view slot);
 // its line end counted. A missing or unreadable file gives empty slots.
 ChartSeries LoadChartFile(const std::string& path);
 
-// Writes the day's line into the series: it replaces the newest line when that is of the same day
-// (the first seven characters of the dates agree), otherwise it becomes a line of its own. A new
-// day that finds 21 lines starts the series again. `date` has at least eight characters. False when
-// the file keeps what it held, which is not reported to anyone.
-bool UpdateChartFile(const std::string& path, std::string_view date,
-                     std::span<const std::string> fields);
+// What the series holds with the day's line in it, for who writes it together with other files: the
+// line replaces the newest one when that is of the same day (the first seven characters of the
+// dates agree), otherwise it becomes a line of its own. A new day that finds 21 lines starts the
+// series again. `date` has at least eight characters. Nothing when the file cannot be read.
+std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
+                                          std::span<const std::string> fields);
+
+// Writes that. False when the file keeps what it held, which is not reported to anyone.
+[[nodiscard]] bool UpdateChartFile(const std::string& path, std::string_view date,
+                                   std::span<const std::string> fields);
 
 }  // namespace velnor
 

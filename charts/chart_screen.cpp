@@ -41,10 +41,10 @@ constexpr std::string_view kTooFew =
 
 void PaintTexts(Canvas& canvas, const Chart& chart) {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, chart.title);
+  canvas.WriteText({10, 30}, chart.title);
   canvas.SetFont(kBodyFont);
-  canvas.DrawText({13, 50}, chart.note);
-  canvas.DrawText({10, 75}, chart.unit);
+  canvas.WriteText({13, 50}, chart.note);
+  canvas.WriteText({10, 75}, chart.unit);
 }
 
 void PaintAxes(Canvas& canvas, const Chart& chart) {
@@ -56,13 +56,13 @@ void PaintAxes(Canvas& canvas, const Chart& chart) {
   for (int column = 0; column <= kColumns; ++column) {
     const int x = kChartLeft + column * kChartColumn;
     canvas.DrawLine({x, kChartBottom - kTick}, {x, kChartBottom + kTick});
-    canvas.DrawText({x - 3, 458}, std::to_string(kColumns - column));
+    canvas.WriteText({x - 3, 458}, std::to_string(kColumns - column));
   }
   int label = chart.top;
   for (int y = kTopRow; y < kChartBottom; y += kRowHeight) {
     canvas.DrawLine({kChartLeft - kTick, y}, {kChartLeft + kTick, y});
     canvas.DrawLine({kChartRight - kTick, y}, {kChartRight + kTick, y});
-    canvas.DrawText({27, y - 5}, std::to_string(label));
+    canvas.WriteText({27, y - 5}, std::to_string(label));
     label -= chart.step;
   }
 }
@@ -93,16 +93,16 @@ void Plot(Canvas& canvas, const Chart& chart, const ChartSeries& series) {
   canvas.DrawPolyline(line);
   canvas.SetFont(kDayFont);
   for (const auto& [at, label] : points) {
-    if (!label.empty()) canvas.DrawText({at.x + kDayLabel.x, at.y + kDayLabel.y}, label);
+    if (!label.empty()) canvas.WriteText({at.x + kDayLabel.x, at.y + kDayLabel.y}, label);
   }
 }
 
 ChartSeries LoadSeries(const Chart& chart, const SessionState& session) {
   // Without a user there is no folder that a series could lie in.
-  if (session.user_name.empty()) return {};
-  const std::string path = session.UserFile(chart.file);
+  if (!session.user) return {};
+  const std::string path = session.user->File(chart.file);
   ChartSeries series = LoadChartFile(path);
-  if (series.file_is_empty) AppendToFile(path, "");  // makes it when it is missing
+  if (series.file_is_empty) PassOver(AppendToFile(path, ""));  // makes it when it is missing
   return series;
 }
 

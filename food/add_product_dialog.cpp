@@ -22,9 +22,6 @@ constexpr int kCalories = 740;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;
-constexpr std::size_t kShortestName = 4;
-
-constexpr std::string_view kUsualMass = "100";
 
 // The system's own texts, as they stand.
 constexpr std::string_view kNameTooShort =
@@ -54,7 +51,7 @@ void AddProductDialog::OnOpen(Form& form) {
   for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
     form.LimitText(id, kNumberLimit);
   }
-  form.SetText(kMass, kUsualMass);
+  form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
   form.FillItems(kMainCategory, ListMainCategories(food_));
 }
@@ -68,7 +65,8 @@ void AddProductDialog::OnCommand(Form& form, int id, int notification) {
 void AddProductDialog::OfferSubcategories(Form& form) {
   const std::string main_category = form.SelectedText(kMainCategory).value_or("");
   // The row is found as on the overview, but names too short to be one are left out.
-  std::vector<std::string_view> names = ListSubcategories(food_, Layout::kOverview, main_category);
+  std::vector<std::string_view> names =
+      ListSubcategories(food_, Matching::kOverview, main_category);
   std::erase_if(names, [](std::string_view name) { return name.size() <= 1; });
   form.FillItems(kSubcategory, names);
 }
@@ -89,7 +87,7 @@ void AddProductDialog::Add(Form& form) {
 
   // Mass and calories are taken as they come, and of the nutrients only the first character is
   // looked at. A file that cannot be written is not reported; the entries stay for another try.
-  if (name.size() < kShortestName) {
+  if (name.size() < kShortestProductName) {
     message_boxes_.Show({.text = kNameTooShort});
     message_boxes_.Show({.text = kIncomplete});
   } else if (incomplete) {
@@ -99,7 +97,7 @@ void AddProductDialog::Add(Form& form) {
   } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
                                     carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
-    form.SetText(kMass, kUsualMass);
+    form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
   food_.user_products.Load(path_);

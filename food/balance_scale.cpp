@@ -10,13 +10,13 @@ namespace {
 
 // clang-format off
 constexpr BalanceScale kScales[] = {
-    {70, 117, 145, "RANGE +/- 100kcal", 100, "eaten[kcal]", 1000, 0.1,
+    {70, 117, 145, 75, "RANGE +/- 100kcal", 100, "eaten[kcal]", 1000, 0.1,
      &DayTotals::kcal, &DailyRequirement::calories},
-    {200, 247, 270, "RANGE +/- 8g", 8, "eaten[g]", 40, 2.5,
+    {200, 247, 270, 205, "RANGE +/- 8g", 8, "eaten[g]", 40, 2.5,
      &DayTotals::protein, &DailyRequirement::protein},
-    {330, 377, 402, "RANGE +/- 8g", 8, "eaten[g]", 40, 2.5,
+    {330, 377, 402, 335, "RANGE +/- 8g", 8, "eaten[g]", 40, 2.5,
      &DayTotals::fat, &DailyRequirement::fat},
-    {458, 507, 530, "RANGE +/- 20g", 20, "eaten[g]", 200, 0.5,
+    {458, 507, 530, 465, "RANGE +/- 20g", 20, "eaten[g]", 200, 0.5,
      &DayTotals::carbohydrate, &DailyRequirement::carbohydrate},
 };
 // clang-format on

@@ -17,6 +17,7 @@ struct BalanceScale {
   int norm_y;                    // of "NORM" and the tolerance, pixels from the top
   int label_y;                   // of the figures under the axis
   int eaten_y;                   // of the row with the amount eaten
+  int out_of_scale_y;            // of the mark for an amount beyond the scale
   std::string_view range_text;   // the tolerance, as it is shown
   int range;                     // the same, in the unit of the scale
   std::string_view eaten_label;  // with the unit

@@ -20,9 +20,9 @@ constexpr Pen kTickPen{kGrey, 2};
 constexpr int kBandWidth = 7;
 constexpr int kMarkWidth = 3;
 
-// Small enough for each label to end before its figure begins.
+// Small and narrow, for each label to end before its figure begins.
 constexpr Font kHeadFont{12, 0, false};
-constexpr Font kEatenFont{10, 0, false};
+constexpr Font kEatenFont{11, 0, false, true};
 
 constexpr int kHeadY = 23;
 constexpr int kTickDistance = 100;
@@ -55,14 +55,14 @@ std::string ShownNumber(double number) { return FormatNumber(number, kShownDigit
 void PaintHead(Canvas& canvas, const DayExchanges& exchanges) {
   canvas.SetFont(kTitleFont);
   canvas.SetTextColour(kBlack);
-  canvas.DrawText({10, kHeadY}, "Daily balance");
+  canvas.WriteText({10, kHeadY}, "Daily balance");
   canvas.SetFont(kHeadFont);
   canvas.SetTextColour(kYellow);
-  canvas.DrawText({300, kHeadY}, "Factors +/- 0.1");
-  canvas.DrawText({400, kHeadY}, "Carb Exch: ");
-  canvas.DrawText({460, kHeadY}, ShownNumber(exchanges.carbohydrate));
-  canvas.DrawText({510, kHeadY}, "Protein-Fat Exch: ");
-  canvas.DrawText({600, kHeadY}, ShownNumber(exchanges.protein_fat));
+  canvas.WriteText({300, kHeadY}, "Factors +/- 0.1");
+  canvas.WriteText({400, kHeadY}, "Carb Exch: ");
+  canvas.WriteText({460, kHeadY}, ShownNumber(exchanges.carbohydrate));
+  canvas.WriteText({510, kHeadY}, "Protein-Fat Exch: ");
+  canvas.WriteText({600, kHeadY}, ShownNumber(exchanges.protein_fat));
 }
 
 // The norm lies on the axis as a band, between the paler bands of the tolerance.
@@ -86,7 +86,7 @@ void PaintAxis(Canvas& canvas, const BalanceScale& scale, int axis_y) {
   for (int tick = 1; tick <= kLabelledTicks; ++tick) {
     const std::string label = std::to_string(tick * scale.unit_per_tick);
     const int left_of_tick = label.size() > 3 ? 10 : label.size() > 2 ? 8 : 5;
-    canvas.DrawText({kScaleLeft + tick * kTickDistance - left_of_tick, scale.label_y}, label);
+    canvas.WriteText({kScaleLeft + tick * kTickDistance - left_of_tick, scale.label_y}, label);
   }
 }
 
@@ -104,29 +104,29 @@ void PaintScale(Canvas& canvas, const BalanceScale& scale, double eaten,
   const Standing standing = StandingOf(scale, eaten, requirement);
   canvas.SetFont(kBodyFont);
   canvas.SetTextColour(kGreen);
-  canvas.DrawText({65, scale.norm_y}, kNorm);
+  canvas.WriteText({65, scale.norm_y}, kNorm);
   canvas.SetTextColour(kBlack);
-  canvas.DrawText({125, scale.norm_y}, scale.range_text);
+  canvas.WriteText({125, scale.norm_y}, scale.range_text);
   if (requirement.IsKnown()) PaintNorm(canvas, scale, axis_y, requirement.*scale.norm);
   PaintAxis(canvas, scale, axis_y);
   PaintMark(canvas, ScaleX(scale, eaten), axis_y, ColourOf(standing));
   if (IsOutOfScale(scale, eaten)) {
     canvas.SetTextColour(kRed);
-    canvas.DrawText({650, scale.norm_y + 5}, "OUT OF SCALE");
+    canvas.WriteText({650, scale.out_of_scale_y}, "OUT OF SCALE");
     canvas.SetTextColour(kBlack);
   }
   canvas.SetFont(kEatenFont);
-  canvas.DrawText({60, scale.eaten_y}, scale.eaten_label);
+  canvas.WriteText({60, scale.eaten_y}, scale.eaten_label);
   canvas.SetFont(kBodyFont);
-  canvas.DrawText({110, scale.eaten_y}, ShownNumber(eaten));
-  canvas.DrawText({160, scale.eaten_y}, "balance:");
+  canvas.WriteText({110, scale.eaten_y}, ShownNumber(eaten));
+  canvas.WriteText({160, scale.eaten_y}, "balance:");
   if (standing == Standing::kInside) canvas.SetTextColour(kGreen);
-  canvas.DrawText({210, scale.eaten_y}, StandingText(scale, eaten, requirement));
+  canvas.WriteText({210, scale.eaten_y}, StandingText(scale, eaten, requirement));
 }
 
 }  // namespace
 
-void PaintBalance(Canvas& canvas, const DayBalance& day, const DailyRequirement& requirement) {
+void PaintBalance(Canvas& canvas, DayBalance& day, const DailyRequirement& requirement) {
   day.MakeExchangeFiles();
   const DayTotals totals = day.ReadTotals().value_or(DayTotals{});
   PaintHead(canvas, day.ReadExchanges());

@@ -11,7 +11,7 @@ namespace velnor {
 
 // Draws the day as its files hold it now, after starting them afresh when they are of another day.
 // A day that cannot be read is drawn as nothing eaten.
-void PaintBalance(Canvas& canvas, const DayBalance& day, const DailyRequirement& requirement);
+void PaintBalance(Canvas& canvas, DayBalance& day, const DailyRequirement& requirement);
 
 }  // namespace velnor
 

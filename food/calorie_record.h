@@ -9,8 +9,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kCalorieReportFile = "mirvo.ASC";
-
 // The totals of the food list as they are shown.
 struct TotalTexts {
   std::string weight;        // g

@@ -1,6 +1,7 @@
 #include "food/calorie_record_dialog.h"
 
 #include "base/text_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -44,10 +45,12 @@ void CalorieRecordDialog::OnCommand(Form& form, int id, int notification) {
 
 // Whether the record could be written is not reported.
 void CalorieRecordDialog::Save(const Form& form) const {
-  AppendToFile(
-      session_.UserFile(kCalorieReportFile),
+  const std::optional<std::string> path = session_.UserFile(kCalorieReportFile);
+  if (!path) return;
+  PassOver(AppendToFile(
+      *path,
       CalorieRecordText({form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
-                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
+                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)})));
 }
 
 }  // namespace velnor

@@ -3,7 +3,7 @@
 namespace velnor {
 namespace {
 
-constexpr PickerControls kControls = {.layout = Layout::kCounter,
+constexpr PickerControls kControls = {.matching = Matching::kCounter,
                                       .main_category = 124,
                                       .subcategory = 125,
                                       .products = 126,
@@ -15,7 +15,7 @@ constexpr PickerControls kControls = {.layout = Layout::kCounter,
                                       .weight_limit = kCounterWeightLimit,
                                       .name_limit = 99};
 
-constexpr std::string_view kNothing = "   -";
+constexpr std::string_view kNoValue = "   -";
 
 constexpr Font kWeightFont{15, 700, false};
 
@@ -53,25 +53,25 @@ CounterScreen::CounterScreen(const FoodTable& food, Form& form)
 
 void CounterScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "build, count or check food");
+  canvas.WriteText({10, 30}, "build, count or check food");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
-  DrawTexts(canvas, kPickerTexts);
+  WriteTexts(canvas, kPickerTexts);
   canvas.DrawLine({25, 230}, {305, 230});
   canvas.SetFont(kWeightFont);
   canvas.SetTextColour(kRed);
-  canvas.DrawText(kWeightText.at, kWeightText.text);
+  canvas.WriteText(kWeightText.at, kWeightText.text);
   canvas.SetTextColour(kBlack);
   canvas.SetFont(kBodyFont);
-  DrawTexts(canvas, kValueTexts);
-  DrawTexts(canvas, kListTexts);
+  WriteTexts(canvas, kValueTexts);
+  WriteTexts(canvas, kListTexts);
   FillMainCategoryList();
 }
 
 void CounterScreen::ShowNoProduct() {
   for (const int id : {kControls.weight, kControls.kcal, kControls.protein, kControls.fat,
                        kControls.carbohydrate}) {
-    form().SetText(id, kNothing);
+    form().SetText(id, kNoValue);
   }
 }
 

@@ -7,16 +7,14 @@
 #define VELNOR_FOOD_DAY_BALANCE_H_
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "base/session.h"
+#include "base/text_file.h"
 
 namespace velnor {
-
-inline constexpr std::string_view kBalanceFile = "bilans.ASC";
-inline constexpr std::string_view kCarbohydrateExchangeFile = "z1.ASC";
-inline constexpr std::string_view kProteinFatExchangeFile = "z2.ASC";
 
 struct DayTotals {
   double kcal = 0;
@@ -32,7 +30,6 @@ struct DayExchanges {
   double carbohydrate = 0;
   double protein_fat = 0;
 
-  DayExchanges operator-() const { return {-carbohydrate, -protein_fat}; }
   bool operator==(const DayExchanges&) const = default;
 };
 
@@ -46,14 +43,14 @@ class DayBalance {
   // Starts a new day when the balance is not of today, its first line compared over the length of
   // today's date: the balance then holds the date alone and the exchange files, where there are
   // any, nothing. False when that is needed and cannot be done.
-  bool StartDayIfNew() const;
+  [[nodiscard]] bool StartDayIfNew();
 
   // Makes the exchange files that are missing. One that cannot be made counts as 0 all the same.
-  void MakeExchangeFiles() const;
+  void MakeExchangeFiles();
 
   // The day's totals; nothing eaten yet gives zeros, and a line without a number counts as 0.
   // Nothing when the files are of another day and cannot be started afresh, or cannot be read.
-  std::optional<DayTotals> ReadTotals() const;
+  std::optional<DayTotals> ReadTotals();
 
   // The energy in the balance as it stands there, whatever day it is of, in kcal: the second line.
   // A missing or empty file gives 0. Changes no file.
@@ -62,18 +59,33 @@ class DayBalance {
   // The day's exchanges, of each file the first eight characters. Missing files count as 0.
   DayExchanges ReadExchanges() const;
 
-  // Adds to the totals and, where they are given, to the exchanges, and brings the day's line of
-  // the chart series up to date. Figures may be negative; a total that would fall below 0, or that
-  // is a mere rest of rounding, becomes 0. False when all files keep what they held.
-  bool Change(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {}) const;
+  // The changes of a day write its files and its line of the chart series together. False when all
+  // of them keep what they held.
+
+  // Adds food to the totals and, where they are given, to the exchanges. Sums are plain: food of
+  // less than nothing takes the day below 0. An exchange nearer to 0 than 0.0001 becomes 0, since
+  // the eight characters that are read would not hold it.
+  [[nodiscard]] bool Add(const DayTotals& totals,
+                         const std::optional<DayExchanges>& exchanges = {});
+
+  // Takes food off again. A figure that would fall below 0, or that is a mere rest of rounding,
+  // becomes 0. A rest is less than 0.001 (of an exchange, 0.0001), or than ten units in the eighth
+  // digit that the figure had before: eight digits are written, and after many changes the last of
+  // them is not what was eaten.
+  [[nodiscard]] bool TakeOff(const DayTotals& totals,
+                             const std::optional<DayExchanges>& exchanges = {});
 
   // Nothing has been eaten today: the balance holds the date alone, the exchange files "0", the
-  // day's line of the chart series zeros. False when one of the three files keeps what it held.
-  bool Clear() const;
+  // day's line of the chart series zeros.
+  [[nodiscard]] bool Clear();
 
  private:
-  std::string BalancePath() const { return session_.UserFile(kBalanceFile); }
-  bool UpdateSeries(const DayTotals& totals) const;
+  enum class Change { kAdd, kTakeOff };
+
+  bool Make(Change change, const DayTotals& totals, const std::optional<DayExchanges>& exchanges);
+  // Gives the balance those bytes and the series those totals, with `exchange_files`.
+  bool Write(const UserFolder& user, std::string_view balance, const DayTotals& totals,
+             std::span<const FileBytes> exchange_files);
 
   const SessionState& session_;
 };

@@ -1,5 +1,7 @@
 #include "food/food_list.h"
 
+#include <cmath>
+
 #include "base/number_text.h"
 #include "food/nutrition.h"
 #include "food/product_rules.h"
@@ -14,6 +16,13 @@ constexpr double kLeastWeight = 1.0;
 float Total(std::string_view shown, double change) {
   const auto total = static_cast<float>(ParseNumber(shown) + change);
   return total >= kTrace ? total : 0;
+}
+
+double LeftOut(double left_out, std::string_view before, double change, std::string_view after) {
+  const double whole = ParseNumber(before) + change + left_out;
+  const double shown = ParseNumber(after);
+  const bool is_trace = shown == 0 && whole < kTrace;
+  return is_trace || !std::isfinite(whole) ? 0 : whole - shown;
 }
 
 }  // namespace
@@ -55,6 +64,15 @@ ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayT
   return {Total(shown.weight, weight_change), Total(shown.kcal, change.kcal),
           Total(shown.protein, change.protein), Total(shown.fat, change.fat),
           Total(shown.carbohydrate, change.carbohydrate)};
+}
+
+DayTotals LeftOutAfter(const DayTotals& left_out, const TotalTexts& before, const DayTotals& change,
+                       const TotalTexts& after) {
+  return {
+      LeftOut(left_out.kcal, before.kcal, change.kcal, after.kcal),
+      LeftOut(left_out.protein, before.protein, change.protein, after.protein),
+      LeftOut(left_out.fat, before.fat, change.fat, after.fat),
+      LeftOut(left_out.carbohydrate, before.carbohydrate, change.carbohydrate, after.carbohydrate)};
 }
 
 }  // namespace velnor

@@ -56,6 +56,12 @@ struct ListTotals {
 // that went through it first would keep a rest of what was added when that is taken off again.
 ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayTotals& change);
 
+// What six shown digits leave out of the totals of a list, so that the whole of it can be taken off
+// the day: 0.002 of 1037.022 kcal. `left_out` before a change, the totals shown before and after
+// it. Traces below 0.1 are no totals of a list and are not left out of one.
+DayTotals LeftOutAfter(const DayTotals& left_out, const TotalTexts& before, const DayTotals& change,
+                       const TotalTexts& after);
+
 }  // namespace velnor
 
 #endif  // VELNOR_FOOD_FOOD_LIST_H_

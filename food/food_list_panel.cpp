@@ -33,7 +33,7 @@ constexpr int kFields[] = {kTotalWeight,       kTotalKcal,         kTotalProtein
 constexpr std::size_t kNumberLimit = kListedFigureLimit;
 constexpr std::size_t kLineLimit = 150;
 
-constexpr std::string_view kNothing = "0";
+constexpr std::string_view kZero = "0";
 
 // The system's own text, as it stands.
 constexpr std::string_view kTooLight = "Choose some product from the list or change weight!";
@@ -41,9 +41,11 @@ constexpr std::string_view kTooLight = "Choose some product from the list or cha
 constexpr std::string_view kNotWritten =
     "The daily balance could not be saved.\nCheck the folder of Your data and try again.";
 
-// Linear: what is taken off has the exchanges of what was added with the other sign.
-DayExchanges ExchangesOf(const DayTotals& food) {
-  return {CarbohydrateExchanges(food.carbohydrate), ProteinFatExchanges(food.protein, food.fat)};
+// Nothing for food that does not count.
+std::optional<DayExchanges> ExchangesOf(const DayTotals& food, bool counts) {
+  if (!counts) return std::nullopt;
+  return DayExchanges{CarbohydrateExchanges(food.carbohydrate),
+                      ProteinFatExchanges(food.protein, food.fat)};
 }
 
 std::string ExchangeText(float exchange) {
@@ -52,7 +54,7 @@ std::string ExchangeText(float exchange) {
 
 }  // namespace
 
-FoodListPanel::FoodListPanel(const FoodTable& food, const DayBalance& day, Exchanges& exchanges,
+FoodListPanel::FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& exchanges,
                              Form& form, MessageBoxes& message_boxes)
     : food_(food), day_(day), exchanges_(exchanges), form_(form), message_boxes_(message_boxes) {}
 
@@ -62,7 +64,7 @@ void FoodListPanel::Add(const std::string& product) {
   const DayTotals amounts = {number(kKcal), number(kProtein), number(kFat), number(kCarbohydrate)};
   const bool counts = CountsInTotals(listed.weight);
   day_.MakeExchangeFiles();
-  if (!ChangeDay(amounts, counts)) return;
+  if (!day_.Add(amounts, ExchangesOf(amounts, counts))) return ReportFailedWrite();
   const std::string line = ListLine(listed);
   if (amounts == ListedAmounts(food_, listed, FigureKind::kOwn)) {
     lines_with_own_figures_.push_back(line);
@@ -72,8 +74,7 @@ void FoodListPanel::Add(const std::string& product) {
     message_boxes_.Show({.text = kTooLight});
     return;
   }
-  const ListTotals totals = TotalsAfter(Totals(kNumberLimit), ParseNumber(listed.weight), amounts);
-  ShowTotals(totals);
+  ChangeTotals(ParseNumber(listed.weight), amounts);
 }
 
 void FoodListPanel::Remove() {
@@ -87,33 +88,31 @@ void FoodListPanel::Remove() {
       ListedAmounts(food_, listed, is_own ? FigureKind::kOwn : FigureKind::kScaled);
   // A food that was refused for its weight is in the day's totals alone.
   const bool counts = CountsInTotals(listed.weight);
-  if (!ChangeDay(-amounts, counts)) return;
+  if (!day_.TakeOff(amounts, ExchangesOf(amounts, counts))) return ReportFailedWrite();
   form_.RemoveSelectedItem(kList);
   if (is_own) lines_with_own_figures_.erase(own);
-  if (!counts) return;
-  const ListTotals totals =
-      TotalsAfter(Totals(kNumberLimit), -ParseNumber(listed.weight), -amounts);
-  ShowTotals(totals);
+  if (counts) ChangeTotals(-ParseNumber(listed.weight), -amounts);
 }
 
 void FoodListPanel::ClearList() {
   const TotalTexts totals = Totals(kNumberLimit);
-  const DayTotals amounts = {ParseNumber(totals.kcal), ParseNumber(totals.protein),
-                             ParseNumber(totals.fat), ParseNumber(totals.carbohydrate)};
-  if (ChangeDay(-amounts, true)) Empty(kNothing);
+  const DayTotals amounts = {ParseNumber(totals.kcal) + left_out_.kcal,
+                             ParseNumber(totals.protein) + left_out_.protein,
+                             ParseNumber(totals.fat) + left_out_.fat,
+                             ParseNumber(totals.carbohydrate) + left_out_.carbohydrate};
+  if (!day_.TakeOff(amounts, ExchangesOf(amounts, true))) return ReportFailedWrite();
+  Empty(kZero);
 }
 
 void FoodListPanel::ClearDay() {
-  if (day_.Clear()) {
-    Empty(kNothing);
-  } else {
-    ReportFailedWrite();
-  }
+  if (!day_.Clear()) return ReportFailedWrite();
+  Empty(kZero);
 }
 
 void FoodListPanel::Empty(std::string_view nothing) {
   form_.ClearItems(kList);
   lines_with_own_figures_.clear();
+  left_out_ = {};
   for (const int id : kFields) form_.SetText(id, nothing);
   exchanges_.CountCarbohydrate(0);
   exchanges_.CountProteinFat(0, 0);
@@ -133,6 +132,12 @@ std::vector<std::string> FoodListPanel::Lines() const {
   return lines;
 }
 
+void FoodListPanel::ChangeTotals(double weight, const DayTotals& amounts) {
+  const TotalTexts before = Totals(kNumberLimit);
+  ShowTotals(TotalsAfter(before, weight, amounts));
+  left_out_ = LeftOutAfter(left_out_, before, amounts, Totals(kNumberLimit));
+}
+
 void FoodListPanel::ShowTotals(const ListTotals& totals) {
   const std::string protein = CounterText(totals.protein);
   const std::string fat = CounterText(totals.fat);
@@ -150,14 +155,6 @@ void FoodListPanel::ShowTotals(const ListTotals& totals) {
                 ExchangeText(exchanges_.CountCarbohydrate(totals.carbohydrate)));
   form_.SetText(kProteinFatExchange,
                 ExchangeText(exchanges_.CountProteinFat(totals.protein, totals.fat)));
-}
-
-bool FoodListPanel::ChangeDay(const DayTotals& amounts, bool with_exchanges) {
-  std::optional<DayExchanges> exchanges;
-  if (with_exchanges) exchanges = ExchangesOf(amounts);
-  const bool changed = day_.Change(amounts, exchanges);
-  if (!changed) ReportFailedWrite();
-  return changed;
 }
 
 void FoodListPanel::ReportFailedWrite() { message_boxes_.Show({.text = kNotWritten}); }

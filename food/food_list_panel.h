@@ -21,7 +21,7 @@ namespace velnor {
 
 class FoodListPanel {
  public:
-  FoodListPanel(const FoodTable& food, const DayBalance& day, Exchanges& exchanges, Form& form,
+  FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& exchanges, Form& form,
                 MessageBoxes& message_boxes);
 
   // Puts what the upper half weighs on the list, under the name `product`. A weight below 1 g is
@@ -45,19 +45,20 @@ class FoodListPanel {
   std::vector<std::string> Lines() const;
 
  private:
+  // Adds to the totals; what is taken off is negative.
+  void ChangeTotals(double weight, const DayTotals& amounts);
   void ShowTotals(const ListTotals& totals);
-  // Says so when the day keeps what it held.
-  bool ChangeDay(const DayTotals& amounts, bool with_exchanges);
   void ReportFailedWrite();
 
   const FoodTable& food_;
-  const DayBalance& day_;
+  DayBalance& day_;
   Exchanges& exchanges_;
   Form& form_;
   MessageBoxes& message_boxes_;
   // The lines that were added with their products' own figures. They may hold traces, which the
   // same weight typed leaves out: what is taken off must be what was added.
   std::vector<std::string> lines_with_own_figures_;
+  DayTotals left_out_;  // of the totals that are shown, by rounding
 };
 
 }  // namespace velnor

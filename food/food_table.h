@@ -6,25 +6,17 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "food/search_text.h"
-
 namespace velnor {
-
-// Fills the places of a category row that hold no subcategory. A slot is recognised as unused by
-// being this very text object, not by reading "0".
-inline constexpr char kUnusedSlotText[] = "0";
-inline constexpr std::string_view kUnusedSlot = kUnusedSlotText;
-
-constexpr bool IsUnusedSlot(std::string_view slot) { return slot.data() == kUnusedSlotText; }
 
 struct CategoryRecord {
   std::string_view main_category;
-  std::array<std::string_view, 12> subcategories;
+  std::array<std::optional<std::string_view>, 12> subcategories;  // an unused slot holds nothing
 };
 
 // All fields are code page 1250 text. The numbers are decimal text and are read with ParseNumber
@@ -40,7 +32,11 @@ struct ProductRecord {
   std::string_view carbohydrate;  // g, available carbohydrate
 };
 
-inline constexpr std::size_t kProductFieldCount = 8;
+// The fields in the order in which a line of the user products file has them.
+inline constexpr std::array kProductFields = {
+    &ProductRecord::main_category, &ProductRecord::subcategory, &ProductRecord::name,
+    &ProductRecord::mass,          &ProductRecord::kcal,        &ProductRecord::protein,
+    &ProductRecord::fat,           &ProductRecord::carbohydrate};
 
 std::span<const CategoryRecord> BuiltInCategories();  // in the order of the combo boxes
 std::span<const ProductRecord> BuiltInProducts();     // values per 100 g
@@ -66,26 +62,26 @@ class UserProductTable {
   // The products in use, in the order of the file.
   std::span<const ProductRecord> products() const { return products_; }
 
-  // What they are found by, in the same order.
-  const SearchText& search_text() const { return search_text_; }
+  // Another number after every Load: what was taken from the products before has gone.
+  unsigned generation() const { return generation_; }
+
+  // How many more lines the file can have that are read.
+  std::size_t free_slots() const { return free_slots_; }
 
  private:
   std::string text_;
   std::vector<ProductRecord> products_;
-  SearchText search_text_;
+  std::size_t free_slots_ = kSlots;
+  unsigned generation_ = 0;
 };
 
-// Splits a line of the user products file at ";" into the eight fields, in the order of
-// ProductRecord. Missing fields are empty, text behind the eighth ";" is ignored.
+// Splits a line of the user products file at ";" into the eight fields. Missing fields are empty,
+// text behind the eighth ";" is ignored.
 ProductRecord SplitProductLine(std::string_view line);
-
-// What products are found by: subcategory, a blank, name of each.
-SearchText SearchTextOf(std::span<const ProductRecord> products);
 
 struct FoodTable {
   std::span<const CategoryRecord> categories = BuiltInCategories();
   std::span<const ProductRecord> products = BuiltInProducts();
-  SearchText product_text = SearchTextOf(products);
   UserProductTable user_products;
 };
 

@@ -3,7 +3,7 @@
 namespace velnor {
 namespace {
 
-constexpr PickerControls kControls = {.layout = Layout::kOverview,
+constexpr PickerControls kControls = {.matching = Matching::kOverview,
                                       .main_category = 108,
                                       .subcategory = 110,
                                       .products = 109,
@@ -50,10 +50,10 @@ OverviewScreen::OverviewScreen(const FoodTable& food, Exchanges& exchanges, Form
 
 void OverviewScreen::Paint(Canvas& canvas) {
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, "Products overview");
+  canvas.WriteText({10, 30}, "Products overview");
   canvas.DrawLine({5, 55}, {695, 55});
   canvas.SetFont(kBodyFont);
-  DrawTexts(canvas, kTexts);
+  WriteTexts(canvas, kTexts);
   FillMainCategoryList();
 }
 

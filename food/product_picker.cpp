@@ -18,7 +18,7 @@ void ProductPicker::OnMainCategoryChosen() {
   const std::optional<std::string> main_category = form_.SelectedText(controls_.main_category);
   if (!main_category) return;
   form_.FillItems(controls_.subcategory,
-                  ListSubcategories(food_, controls_.layout, *main_category));
+                  ListSubcategories(food_, controls_.matching, *main_category));
   form_.ClearItems(controls_.products);
   ShowNoProduct();
 }
@@ -28,14 +28,14 @@ void ProductPicker::OnSubcategoryChosen() {
   const std::optional<std::string> subcategory = form_.SelectedText(controls_.subcategory);
   if (!main_category || !subcategory) return;
   form_.FillItems(controls_.products,
-                  ListProducts(food_, controls_.layout, *main_category, *subcategory));
+                  ListProducts(food_, controls_.matching, *main_category, *subcategory));
 }
 
 void ProductPicker::OnProductChosen() {
   std::optional<std::string> name = form_.SelectedText(controls_.products);
   if (!name) return;
   name->resize(std::min(name->size(), controls_.name_limit));
-  const ProductRecord* const product = FindProduct(food_, controls_.layout, *name);
+  const ProductRecord* const product = FindProduct(food_, controls_.matching, *name);
   if (product == nullptr) return;
   chosen_name_ = std::move(*name);
   const SelectedProduct& chosen = selected_.emplace(SelectedProduct::CopyOf(*product));

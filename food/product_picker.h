@@ -17,7 +17,7 @@ namespace velnor {
 
 // The controls of one picker and the texts it reads from them.
 struct PickerControls {
-  Layout layout;
+  Matching matching;  // how it compares names
   int main_category;  // combo box
   int subcategory;    // combo box
   int products;       // sorted list box

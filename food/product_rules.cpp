@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <span>
 
 #include "base/loose_match.h"
@@ -9,29 +10,30 @@
 namespace velnor {
 namespace {
 
-bool IsChosenCategory(Layout layout, std::string_view row, std::string_view chosen) {
+bool IsChosenCategory(Matching matching, std::string_view row, std::string_view chosen) {
   const int n = Length(chosen);
   return AgreeAt(row, chosen, {0, 1, 2, n - 1, n - 2, n - 3}) && EndsBy(row, n) &&
-         (layout == Layout::kOverview || AgreeAt(row, chosen, {n - 4}));
+         (matching == Matching::kOverview || AgreeAt(row, chosen, {n - 4}));
 }
 
-bool IsOffered(Layout layout, std::string_view slot) {
-  return layout == Layout::kCounter ? slot.size() > 1 : !IsUnusedSlot(slot);
+bool IsOffered(Matching matching, std::string_view name) {
+  return matching == Matching::kOverview || name.size() > 1;
 }
 
 // Of the main category only the first two characters count: that is what lets the "vegetable" and
 // "sweets&snacks" rows in.
-bool IsListedBuiltIn(Layout layout, const ProductRecord& product, std::string_view main_category,
-                     std::string_view subcategory) {
+bool IsListedBuiltIn(Matching matching, const ProductRecord& product,
+                     std::string_view main_category, std::string_view subcategory) {
   const std::string_view row = product.subcategory;
   const int n = Length(subcategory);
   if (Length(row) != n || !AgreeAt(row, subcategory, {0, 1, 2, n - 1})) return false;
-  const bool agrees = layout == Layout::kCounter ? AgreeAt(row, subcategory, {n / 2, n / 3, n / 4})
-                                                 : AgreeAt(row, subcategory, {n - 2, n - 3, n / 2});
+  const bool agrees = matching == Matching::kCounter
+                          ? AgreeAt(row, subcategory, {n / 2, n / 3, n / 4})
+                          : AgreeAt(row, subcategory, {n - 2, n - 3, n / 2});
   return agrees && AgreeAt(product.main_category, main_category, {0, 1});
 }
 
-bool IsListedUserProduct(Layout layout, const ProductRecord& product,
+bool IsListedUserProduct(Matching matching, const ProductRecord& product,
                          std::string_view main_category, std::string_view subcategory) {
   const int p = Length(product.main_category);
   const int n = Length(subcategory);
@@ -39,20 +41,20 @@ bool IsListedUserProduct(Layout layout, const ProductRecord& product,
          EndsBy(main_category, p) &&
          AgreeAt(product.subcategory, subcategory, {0, 1, 2, n / 2, n / 3}) &&
          EndsBy(product.subcategory, n) &&
-         (layout == Layout::kCounter || AgreeAt(product.subcategory, subcategory, {n / 4}));
+         (matching == Matching::kCounter || AgreeAt(product.subcategory, subcategory, {n / 4}));
 }
 
-bool IsNamedBuiltIn(Layout layout, std::string_view row, std::string_view name) {
+bool IsNamedBuiltIn(Matching matching, std::string_view row, std::string_view name) {
   const int n = Length(name);
   if (!AgreeAt(row, name, {0, 1, 2, n - 1, n - 2, n - 3}) || !EndsBy(row, n)) return false;
-  return layout == Layout::kCounter ? AgreeAt(row, name, {n / 2, n / 3, n / 4})
-                                    : AgreeAt(row, name, {n - 4, n - 5, n - 6});
+  return matching == Matching::kCounter ? AgreeAt(row, name, {n / 2, n / 3, n / 4})
+                                        : AgreeAt(row, name, {n - 4, n - 5, n - 6});
 }
 
-bool IsNamedUserProduct(Layout layout, std::string_view row, std::string_view name) {
+bool IsNamedUserProduct(Matching matching, std::string_view row, std::string_view name) {
   const int n = Length(name);
   return AgreeAt(row, name, {0, 1, 2, n / 2, n / 3}) && EndsBy(row, n) &&
-         (layout == Layout::kCounter || AgreeAt(row, name, {n / 4}));
+         (matching == Matching::kCounter || AgreeAt(row, name, {n / 4}));
 }
 
 bool IsNamedByList(std::string_view row, std::string_view name) {
@@ -82,36 +84,38 @@ std::vector<std::string_view> ListMainCategories(const FoodTable& food) {
   return names;
 }
 
-std::vector<std::string_view> ListSubcategories(const FoodTable& food, Layout layout,
+std::vector<std::string_view> ListSubcategories(const FoodTable& food, Matching matching,
                                                 std::string_view main_category) {
   std::vector<std::string_view> names;
   for (const CategoryRecord& row : food.categories) {
-    if (!IsChosenCategory(layout, row.main_category, main_category)) continue;
-    std::ranges::copy_if(row.subcategories, std::back_inserter(names),
-                         [=](std::string_view slot) { return IsOffered(layout, slot); });
+    if (!IsChosenCategory(matching, row.main_category, main_category)) continue;
+    for (const std::optional<std::string_view>& slot : row.subcategories) {
+      if (slot && IsOffered(matching, *slot)) names.push_back(*slot);
+    }
   }
   return names;
 }
 
-std::vector<std::string_view> ListProducts(const FoodTable& food, Layout layout,
+std::vector<std::string_view> ListProducts(const FoodTable& food, Matching matching,
                                            std::string_view main_category,
                                            std::string_view subcategory) {
   std::vector<std::string_view> names;
   for (const ProductRecord& product : food.products) {
-    if (IsListedBuiltIn(layout, product, main_category, subcategory)) names.push_back(product.name);
+    if (IsListedBuiltIn(matching, product, main_category, subcategory))
+      names.push_back(product.name);
   }
   for (const ProductRecord& product : food.user_products.products()) {
-    if (IsListedUserProduct(layout, product, main_category, subcategory)) {
+    if (IsListedUserProduct(matching, product, main_category, subcategory)) {
       names.push_back(product.name);
     }
   }
   return names;
 }
 
-const ProductRecord* FindProduct(const FoodTable& food, Layout layout, std::string_view name) {
+const ProductRecord* FindProduct(const FoodTable& food, Matching matching, std::string_view name) {
   return FindInTables(
-      food, [=](std::string_view row) { return IsNamedBuiltIn(layout, row, name); },
-      [=](std::string_view row) { return IsNamedUserProduct(layout, row, name); });
+      food, [=](std::string_view row) { return IsNamedBuiltIn(matching, row, name); },
+      [=](std::string_view row) { return IsNamedUserProduct(matching, row, name); });
 }
 
 const ProductRecord* FindListedProduct(const FoodTable& food, std::string_view name) {

@@ -8,14 +8,14 @@ namespace {
 constexpr std::string_view kArrow = " --> ";
 constexpr std::string_view kOwnMark = "[B] ";
 
-void Search(std::span<const ProductRecord> products, const SearchText& text, std::string_view query,
-            std::string_view mark, std::vector<std::string>& results) {
-  for (const std::size_t place : text.Find(query)) {
-    const ProductRecord& product = products[place];
-    std::string& result = results.emplace_back();
-    result.reserve(mark.size() + product.main_category.size() + product.subcategory.size() +
-                   product.name.size() + 2 * kArrow.size());
-    result.append(mark).append(product.main_category).append(kArrow);
+void Search(std::span<const ProductRecord> products, std::string_view query, std::string_view mark,
+            std::vector<std::string>& results) {
+  std::string text;
+  for (const ProductRecord& product : products) {
+    text.assign(product.subcategory).append(1, ' ').append(product.name);
+    if (text.find(query) == std::string::npos) continue;
+    std::string& result = results.emplace_back(mark);
+    result.append(product.main_category).append(kArrow);
     result.append(product.subcategory).append(kArrow).append(product.name);
   }
 }
@@ -24,8 +24,9 @@ void Search(std::span<const ProductRecord> products, const SearchText& text, std
 
 std::vector<std::string> SearchProducts(const FoodTable& food, std::string_view query) {
   std::vector<std::string> results;
-  Search(food.products, food.product_text, query, "", results);
-  Search(food.user_products.products(), food.user_products.search_text(), query, kOwnMark, results);
+  if (query.empty()) return results;
+  Search(food.products, query, "", results);
+  Search(food.user_products.products(), query, kOwnMark, results);
   return results;
 }
 

@@ -12,8 +12,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kRecipeReportFile = "zestaw.ASC";
-
 struct RecipeRecord {
   std::string date;
   std::string name;

@@ -2,6 +2,7 @@
 
 #include "base/text_file.h"
 #include "food/recipe_record.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -31,10 +32,12 @@ void RecipeRecordDialog::OnCommand(Form& form, int id, int notification) {
 
 // Whether the record could be written is not reported.
 void RecipeRecordDialog::Save(const Form& form) const {
-  AppendToFile(session_.UserFile(kRecipeReportFile),
-               RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
-                                 list_.Totals(kTotalLimit), composition_,
-                                 form.ReadText(kRecipe, kRecipeLimit)}));
+  const std::optional<std::string> path = session_.UserFile(kRecipeReportFile);
+  if (!path) return;
+  PassOver(
+      AppendToFile(*path, RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
+                                            list_.Totals(kTotalLimit), composition_,
+                                            form.ReadText(kRecipe, kRecipeLimit)})));
 }
 
 }  // namespace velnor

@@ -1,7 +1,6 @@
 #include "food/user_product_file.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 
 #include "base/loose_match.h"
@@ -10,7 +9,6 @@
 namespace velnor {
 namespace {
 
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t kListedLines = 1000;
 constexpr std::size_t kListedLineLimit = 299;
 constexpr std::string_view kLineEnd = "\r\n";
@@ -27,19 +25,23 @@ std::optional<std::string_view> NameField(std::string_view line) {
 }  // namespace
 
 bool AddUserProduct(const std::string& path, const ProductRecord& product) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  return AddUserProducts(path, {&product, 1});
+}
+
+bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products) {
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
-  std::string line;
+  std::string lines;
   // Someone who edited the file by hand may have left its last line open.
-  if (!text->empty() && text->back() != '\n') line += '\n';
-  for (const std::string_view field :
-       {product.main_category, product.subcategory, product.name, product.mass, product.kcal,
-        product.protein, product.fat, product.carbohydrate}) {
-    line += field;
-    line += ';';
+  if (!text->empty() && text->back() != '\n') lines += '\n';
+  for (const ProductRecord& product : products) {
+    for (const auto field : kProductFields) {
+      lines += product.*field;
+      lines += ';';
+    }
+    lines += '\n';
   }
-  line += '\n';
-  return AppendToFile(path, line);
+  return AppendToFile(path, lines);
 }
 
 std::vector<std::string> ReadUserProductNames(const std::string& path) {
@@ -70,7 +72,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
 }
 
 bool RemoveUserProduct(const std::string& path, std::string_view name) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);
   std::string kept;

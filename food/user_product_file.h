@@ -4,6 +4,7 @@
 #define VELNOR_FOOD_USER_PRODUCT_FILE_H_
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,13 +16,21 @@ namespace velnor {
 // In the start-up folder, shared by all users.
 inline constexpr std::string_view kUserProductsFile = "data.txt";
 
-// Characters of a name by which its product can be removed.
-inline constexpr std::size_t kRemovableNameLimit = 59;
+// Characters of a name that a product has at least.
+inline constexpr std::size_t kShortestProductName = 4;
+// What a product's figures are for where nothing else is said, in grams.
+inline constexpr std::string_view kUsualProductMass = "100";
 
 // Adds the product as a line of its own at the end of the file, which is made when it is missing.
 // A ";" inside a field is not kept from breaking the line's fields. False when it was not written;
 // then the file is as it was.
-bool AddUserProduct(const std::string& path, const ProductRecord& product);
+[[nodiscard]] bool AddUserProduct(const std::string& path, const ProductRecord& product);
+
+// The same with many products, all of them or none.
+bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products);
+
+// Characters of a product's name that removing looks at: longer names are never removed.
+inline constexpr std::size_t kRemovableNameLimit = 59;
 
 // The names (third fields) in the first 1000 lines of the file, in its order. A line is taken in
 // pieces of at most 299 characters; one without a third field has no name.
@@ -38,7 +47,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name);
 // than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
 // old bytes or its new ones. Does nothing when no line goes. False when the file could not be read,
 // or a line should have gone but it could not be written.
-bool RemoveUserProduct(const std::string& path, std::string_view name);
+[[nodiscard]] bool RemoveUserProduct(const std::string& path, std::string_view name);
 
 }  // namespace velnor
 

@@ -115,7 +115,8 @@ void ProgramRun::LogIn(const std::string& name) {
   Require(dialog() != nullptr, "the login opens");
   dialog()->Choose(kUsers, name);
   PressInDialog(kOkButton);
-  Require(program_->session().user_name == name, "the chosen user is logged in");
+  Require(program_->session().user && program_->session().user->name() == name,
+          "the chosen user is logged in");
 }
 
 void ProgramRun::Choose(int command) {

@@ -106,7 +106,9 @@ class ProgramRun final : private MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind&) override { return std::nullopt; }
   void OpenHelp(std::string_view) override {}
+  [[nodiscard]] bool OpenInBrowser(const std::string&) override { return true; }
 
   void RequireNumbers(const RecordingCanvas& canvas) const;
 

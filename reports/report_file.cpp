@@ -1,8 +1,8 @@
 #include "reports/report_file.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
-#include <limits>
 #include <optional>
 
 #include "base/file_calls.h"
@@ -12,14 +12,12 @@ namespace velnor {
 namespace {
 
 constexpr ReportFile kReports[] = {
-    {4, "Reports overview - WEIGHT", "waga.ASC"},
-    {5, "Reports overview - WHR", "whr.ASC"},
-    {8, "Reports overview - CALORIE", "mirvo.ASC"},
-    {9, "Reports overview - RECIPES", "zestaw.ASC"},
-    {11, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
+    {4, "Reports overview - WEIGHT", kWeightReportFile},
+    {5, "Reports overview - WHR", kWhrReportFile},
+    {8, "Reports overview - CALORIE", kCalorieReportFile},
+    {9, "Reports overview - RECIPES", kRecipeReportFile},
+    {11, "Reports overview - BURNED CALORIES", kBurnedReportFile},
 };
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
 
@@ -38,12 +36,18 @@ std::string LoadReport(const std::string& path) {
 
 bool ClearReport(const std::string& path) {
   // One byte tells a file from what only looks like one.
-  return ReadFileToRewrite(path, 1).has_value() && ReplaceFile(path, "");
+  const std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), 1);
+  if (!kept || !ReadFileToRewrite(path, 1)) return false;
+  // What cannot be taken back comes last: an empty file of kept bytes that stays says nothing.
+  const FileBytes files[] = {{path, ""}, {RestPath(path), ""}};
+  if (kept->empty() ? !ReplaceFile(path, "") : !ReplaceFiles(files)) return false;
+  std::remove(RestPath(path).c_str());
+  return true;
 }
 
 bool SaveReport(const std::string& path, std::string_view shown, std::string_view text) {
   if (!FileExists(path) || IsWriteProtected(path)) return false;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kNoLimit);
+  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   if (!old) return false;
   // A record may have been appended since it was shown. A file that has changed altogether was
   // never shown as it is now.
@@ -51,14 +55,12 @@ bool SaveReport(const std::string& path, std::string_view shown, std::string_vie
   const std::string_view rest = std::string_view{*old}.substr(seen);
   if (rest.empty()) return ReplaceFile(path, text);
   // Added to what earlier saves have kept; what stands there is never lost.
-  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kNoLimit);
+  std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kWholeFile);
   if (!kept) return false;
   if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
   const FileBytes files[] = {{RestPath(path), kept->append(rest)}, {path, std::string(text)}};
   return ReplaceFiles(files);
 }
-
-std::string RestPath(const std::string& path) { return path + ".rest.txt"; }
 
 bool HasRest(const std::string& path) { return !ReadFile(RestPath(path), 1).empty(); }
 

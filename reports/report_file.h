@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "base/session.h"
+#include "users/user_files.h"
 
 namespace velnor {
 
@@ -31,20 +32,18 @@ inline constexpr std::size_t kReportLimit = 29'999;
 // that is missing or cannot be read shows nothing.
 std::string LoadReport(const std::string& path);
 
-// Makes the file empty, and makes an empty one when it is missing. False when it stays as it was,
-// which is what a file does that cannot be read.
-bool ClearReport(const std::string& path);
+// Makes the file empty, and makes an empty one when it is missing. What was kept at RestPath goes
+// with it. False when both stay as they were, which is what files do that cannot be read.
+[[nodiscard]] bool ClearReport(const std::string& path);
 
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person
 // began to work on the text; bytes of the file that are not in it were never seen by anybody, and
 // are added to the file at RestPath first. A missing file is not made. False when the file stays as
 // it was.
-bool SaveReport(const std::string& path, std::string_view shown, std::string_view text);
+[[nodiscard]] bool SaveReport(const std::string& path, std::string_view shown,
+                              std::string_view text);
 
-// Where saving the report at `path` keeps what was never shown.
-std::string RestPath(const std::string& path);
-
-// Whether anything is kept there.
+// Whether anything is kept at RestPath.
 bool HasRest(const std::string& path);
 
 }  // namespace velnor

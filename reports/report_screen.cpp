@@ -27,23 +27,29 @@ ReportScreen::ReportScreen(const SessionState& session, Form& form, MainWindow& 
                            MessageBoxes& message_boxes)
     : session_(session), form_(form), window_(window), message_boxes_(message_boxes) {}
 
-std::string ReportScreen::Path() const {
+std::optional<std::string> ReportScreen::Path() const {
   const ReportFile* const report = FindReport(session_.screen);
-  return report == nullptr ? "" : session_.UserFile(report->file_name);
+  return report == nullptr ? std::nullopt : session_.UserFile(report->file_name);
 }
 
 void ReportScreen::Paint(Canvas& canvas) {
   const ReportFile* const report = FindReport(session_.screen);
   if (report == nullptr) return;
   canvas.SetFont(kTitleFont);
-  canvas.DrawText({10, 30}, report->title);
+  canvas.WriteText({10, 30}, report->title);
   canvas.SetFont(kBodyFont);
   canvas.DrawLine({5, 55}, {695, 55});
-  shown_.path = Path();
-  shown_.bytes = LoadReport(shown_.path);
-  if (HasRest(shown_.path)) {
-    canvas.DrawText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
+  const std::optional<std::string> path = Path();
+  if (path && HasRest(*path)) {
+    canvas.WriteText({10, 62}, std::string(kRestNote) + RestPath(std::string(report->file_name)));
   }
+  if (!path || path != unsaved_path_) ShowFile();
+}
+
+void ReportScreen::ShowFile() {
+  unsaved_path_.reset();
+  shown_.path = Path();
+  shown_.bytes = shown_.path ? LoadReport(*shown_.path) : "";
   // The edit breaks its lines at CR LF only. A new text would cost it caret, selection and place,
   // so it gets none when it has the right one.
   const std::string text = WithCrLf(shown_.bytes);
@@ -51,23 +57,29 @@ void ReportScreen::Paint(Canvas& canvas) {
 }
 
 void ReportScreen::Clear() {
-  const std::string path = Path();
-  if (path.empty() || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  ClearReport(path);
+  const std::optional<std::string> path = Path();
+  if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
+  if (ClearReport(*path)) unsaved_path_.reset();
   window_.Invalidate();
 }
 
 void ReportScreen::Save() {
-  const std::string path = Path();
-  if (path.empty()) return;
+  const std::optional<std::string> path = Path();
+  if (!path) return;
   // Until the screen is painted, the edit holds the report of the screen before.
   if (shown_.path != path) window_.PaintNow();
   // The box lets repaints through, and every repaint reloads the file: what the person has written
   // is taken before.
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
-  const std::string shown = shown_.bytes;
+  const Shown shown = shown_;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  SaveReport(path, shown, text);
+  if (SaveReport(*path, shown.bytes, text)) {
+    unsaved_path_.reset();
+  } else {
+    unsaved_path_ = path;
+    shown_ = shown;
+    if (form_.ReadText(kTextEdit, kWholeText) != text) form_.SetText(kTextEdit, text);
+  }
   window_.Invalidate();
 }
 

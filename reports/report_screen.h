@@ -4,6 +4,7 @@
 #ifndef VELNOR_REPORTS_REPORT_SCREEN_H_
 #define VELNOR_REPORTS_REPORT_SCREEN_H_
 
+#include <optional>
 #include <string>
 
 #include "base/canvas.h"
@@ -19,7 +20,11 @@ class ReportScreen {
   ReportScreen(const SessionState& session, Form& form, MainWindow& window,
                MessageBoxes& message_boxes);
 
-  // Reads the file again and shows what it holds: changes that were not saved are gone.
+  // The screen was chosen in the menu: a text that could not be saved gives way to the file.
+  void Reload() { unsaved_path_.reset(); }
+
+  // Reads the file again and shows what it holds: changes that were not saved are gone. Those that
+  // could not be saved stay until they are, or until the report is reloaded or cleared.
   void Paint(Canvas& canvas);
 
   // The buttons. On a screen without a report, Clear and Save do nothing.
@@ -31,21 +36,23 @@ class ReportScreen {
   bool OnMouseWheel(bool down);
 
  private:
-  // What the edit was last filled with. The file alone decides what is shown; this only tells, when
-  // the text is saved over it, which of its bytes the person has had before them.
+  // What the edit was last filled with. This tells, when the text is saved over the file, which of
+  // its bytes the person has had before them.
   struct Shown {
-    std::string path;
+    std::optional<std::string> path;
     std::string bytes;
   };
 
-  // The path of the current screen's report; empty when it shows none.
-  std::string Path() const;
+  // The path of the current screen's report; nothing when it shows none, or nobody is logged in.
+  std::optional<std::string> Path() const;
+  void ShowFile();
 
   const SessionState& session_;
   Form& form_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   Shown shown_;
+  std::optional<std::string> unsaved_path_;  // of the report whose text could not be saved
 };
 
 }  // namespace velnor

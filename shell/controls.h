@@ -41,14 +41,16 @@ struct ControlRow {
   const char* text;
   std::uint32_t style;
   Rectangle place;
-  std::size_t limit = 0;  // characters that can be typed into it; 0: nothing can, or any number
+  std::size_t limit = 0;   // characters that can be typed into it; 0: nothing can, or any number
+  const char* label = "";  // of a field: the text painted beside it, without what ends it
+  bool holds_number = false;
 
   // Every control has a sunken edge, only group boxes have none.
   bool has_sunken_edge() const { return style != control_style::kGroupBox; }
 };
 
 // The font of a control: the body font, or a smaller one where the figures of a field would not fit
-// otherwise.
+// otherwise. The first digits of what does not fit either are seen.
 Font ControlFont(const ControlRow& row);
 
 // The 86 controls in the order in which they are created and hidden. Two of them have the id 149.

@@ -10,6 +10,7 @@
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
+#include "food/import_products_dialog.h"
 #include "food/recipe_record_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
@@ -134,7 +135,7 @@ void Program::LogOut() {
   message_boxes_.Show({.text = "BYE, SEE YOU SOON!"});
   ApplyMenuState(MenuState::kAfterLogout, window_);
   window_.CloseSessionDialogs();
-  session_.user_name.clear();
+  session_.user.reset();
   session_.screen = kHomeScreen;
   window_.PaintNow();
 }
@@ -166,6 +167,12 @@ void Program::OpenAddProduct() {
   window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
                                               food_, session_.BaseFile(kUserProductsFile),
                                               message_boxes_, [this] { OnProductsChanged(); }));
+}
+
+void Program::OpenImportProducts() {
+  window_.OpenDialog(kImportProductsResource,
+                     std::make_unique<ImportProductsDialog>(
+                         food_, session_.BaseFile(kUserProductsFile), window_, message_boxes_));
 }
 
 void Program::OpenRemoveProduct() {
@@ -217,7 +224,7 @@ void Program::OpenBurnedRecord() {
 }
 
 void Program::StartUserDay() {
-  day_.StartDayIfNew();
+  PassOver(day_.StartDayIfNew());
   requirement_.OnLogin();
   food_list_.Empty("");
 }

@@ -10,7 +10,6 @@
 
 #include "activity/burned_calories.h"
 #include "activity/burned_screen.h"
-#include "activity/energy_screen.h"
 #include "activity/requirement_screen.h"
 #include "base/canvas.h"
 #include "base/form.h"
@@ -24,6 +23,7 @@
 #include "charts/chart_screen.h"
 #include "food/counter_screen.h"
 #include "food/day_balance.h"
+#include "food/energy_screen.h"
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/overview_screen.h"
@@ -65,6 +65,7 @@ class Program {
   void OpenUsers();
   void OpenProfile();
   void OpenAddProduct();
+  void OpenImportProducts();
   void OpenRemoveProduct();
   void OpenSearch();
   void OpenCalorieRecord();
@@ -86,7 +87,7 @@ class Program {
   EnergyScreen& energy() { return energy_; }
   MainWindow& window() { return window_; }
   MessageBoxes& message_boxes() { return message_boxes_; }
-  const DayBalance& day() const { return day_; }
+  DayBalance& day() { return day_; }
   const SessionState& session() const { return session_; }
 
  private:

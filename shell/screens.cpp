@@ -33,6 +33,7 @@ template <ChartId chart>
 void PaintChart(Program& program, Canvas& canvas) {
   program.charts().Paint(canvas, FindChart(chart), program.requirement().DayBounds());
 }
+void ReloadReport(Program& program) { program.reports().Reload(); }
 void PaintReport(Program& program, Canvas& canvas) { program.reports().Paint(canvas); }
 
 // clang-format off
@@ -44,19 +45,19 @@ constexpr ScreenRow kScreens[] = {
      [](Program& program, Canvas& canvas) { program.whr().Paint(canvas); }},
     {3, 236, "POS", kOverviewControls,                   // products overview
      [](Program& program, Canvas& canvas) { program.overview().Paint(canvas); }},
-    {4, 210, "BCG", kReportControls, PaintReport},       // weight report
-    {5, 214, "BCG", kReportControls, PaintReport},       // WHR report
+    {4, 210, "BCG", kReportControls, PaintReport, ReloadReport},       // weight report
+    {5, 214, "BCG", kReportControls, PaintReport, ReloadReport},       // WHR report
     {6, 232, "ZAAP", kRequirementControls,               // daily requirement
      [](Program& program, Canvas& canvas) { program.requirement().Paint(canvas); },
      UpdateRequirement},
     {7, 231, "POS", kCounterControls,                    // nutrition counter
      [](Program& program, Canvas& canvas) { program.counter().Paint(canvas); },
      UpdateRequirement},
-    {8, 212, "BCG", kReportControls, PaintReport},       // eaten calories report
-    {9, 213, "BCG", kReportControls, PaintReport},       // recipes report
+    {8, 212, "BCG", kReportControls, PaintReport, ReloadReport},       // eaten calories report
+    {9, 213, "BCG", kReportControls, PaintReport, ReloadReport},       // recipes report
     {10, 238, "SPAL", kActivityControls,                 // burn fat and calories
      [](Program& program, Canvas& canvas) { program.burned().Paint(canvas); }},
-    {11, 215, "BCG", kReportControls, PaintReport},      // burned calories report
+    {11, 215, "BCG", kReportControls, PaintReport, ReloadReport},      // burned calories report
     {12, 233, "BILANS", kBalanceControls,                // daily balance
      [](Program& program, Canvas& canvas) {
        PaintBalance(canvas, program.day(), program.requirement().requirement());

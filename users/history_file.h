@@ -12,9 +12,8 @@
 
 namespace velnor {
 
-// In the folder of the user. Code page 1250, lines ended by CR LF, fields parted by semicolons; a
-// field that holds a semicolon, a quote or a line end stands in quotes, a quote in it twice.
-inline constexpr std::string_view kHistoryFile = "dziennik.csv";
+// The file is code page 1250, lines ended by CR LF, fields parted by semicolons; a field that holds
+// a semicolon, a quote or a line end stands in quotes, a quote in it twice.
 
 // The first line of the file, without its line end: the names of the ten fields.
 inline constexpr std::string_view kHistoryHeader =

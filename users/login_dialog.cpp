@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "users/user_files.h"
 #include "users/user_registry.h"
 
 namespace velnor {
@@ -41,21 +42,22 @@ void LoginDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kCancelButton) form.Close();
 }
 
-void LoginDialog::SetUser(std::string name) {
-  session_.user_name = std::move(name);
+void LoginDialog::SetUser(const std::string& name) {
+  session_.user = UserFolder::In(session_.base_folder, name);
   events_.on_user_changed();
 }
 
 void LoginDialog::LogIn(Form& form) {
-  if (session_.user_name.empty()) {
+  if (!session_.user) {
     message_boxes_.Show({.text = kNobody, .owner = MessageOwner::kDialog});
     return;
   }
-  const std::string user = session_.user_name;
+  const UserFolder user = *session_.user;
   events_.on_login();
-  LoadProfile();
-  // The menu could be used behind the boxes, and has been when the user is another: they logged out.
-  if (session_.user_name != user) {
+  LoadProfile(user);
+  // The menu could be used behind the boxes, and has been when the user is another: they logged
+  // out.
+  if (session_.user != user) {
     form.Close();
     return;
   }
@@ -65,8 +67,8 @@ void LoginDialog::LogIn(Form& form) {
   form.Close();
 }
 
-void LoginDialog::LoadProfile() {
-  profile_ = ProfileOf(ReadProfileLines(session_.UserFile(kProfileFile)));
+void LoginDialog::LoadProfile(const UserFolder& user) {
+  profile_ = ProfileOf(ReadProfileLines(user.File(kProfileFile)));
   if (!IsComplete(profile_)) {
     message_boxes_.Show({.text = kFillUp, .owner = MessageOwner::kDialog});
   }

@@ -35,9 +35,9 @@ class LoginDialog final : public Dialog {
   void OnCommand(Form& form, int id, int notification) override;
 
  private:
-  void SetUser(std::string name);
+  void SetUser(const std::string& name);
   void LogIn(Form& form);
-  void LoadProfile();
+  void LoadProfile(const UserFolder& user);
 
   SessionState& session_;
   UserProfile& profile_;

@@ -11,8 +11,6 @@
 
 namespace velnor {
 
-inline constexpr std::string_view kProfileFile = "info.ASC";
-
 // Texts as they were typed or chosen, at most kLimit characters each. Readers test sex and other by
 // their first letter. Empty or "0": not given.
 struct UserProfile {
@@ -49,7 +47,7 @@ bool IsComplete(const UserProfile& profile);
 
 // Writes the lines, "0" for each empty one, without a line end behind the last. False when the file
 // keeps what it held.
-bool WriteProfileLines(const std::string& path, const ProfileLines& lines);
+[[nodiscard]] bool WriteProfileLines(const std::string& path, const ProfileLines& lines);
 
 }  // namespace velnor
 

@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "base/file_calls.h"
+#include "base/text_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
@@ -51,8 +53,8 @@ void ProfileDialog::OnOpen(Form& form) {
   form.FillItems(kSex, kSexes);
   form.FillItems(kLifeStyle, kLifeStyles);
   form.FillItems(kOther, kOthers);
-  const std::optional<ProfileLines> lines =
-      ReadProfileLinesToRewrite(session_.UserFile(kProfileFile));
+  std::optional<ProfileLines> lines;
+  if (session_.user) lines = ReadProfileLinesToRewrite(session_.user->File(kProfileFile));
   was_read_ = lines.has_value();
   const auto [age, height, sex, life_style, other] = lines.value_or(ProfileLines());
   form.SetText(kAge, age);
@@ -77,14 +79,14 @@ void ProfileDialog::Close(Form& form) {
 // or holds no profile, there is nothing to lose.
 bool ProfileDialog::WouldLoseWhatWasNotRead() const {
   if (was_read_) return false;
-  const std::string path = session_.UserFile(kProfileFile);
+  const std::string path = session_.user->File(kProfileFile);
   const std::optional<ProfileLines> lines = ReadProfileLinesToRewrite(path);
   return lines ? *lines != ProfileLines() : HasFolder(path);
 }
 
 // A profile that cannot be written is not reported; it counts as long as the session lasts.
 void ProfileDialog::Save(Form& form) {
-  if (WouldLoseWhatWasNotRead()) {
+  if (!session_.user || WouldLoseWhatWasNotRead()) {
     message_boxes_.Show({.text = kNotRead, .owner = MessageOwner::kDialog});
     return;
   }
@@ -99,9 +101,9 @@ void ProfileDialog::Save(Form& form) {
     if (is_closed_) return;
     other = "0";
   }
-  const std::string path = session_.UserFile(kProfileFile);
-  if (!HasFolder(path)) MakeFolder(session_.FolderOf(session_.user_name));
-  WriteProfileLines(path, lines);
+  const std::string path = session_.user->File(kProfileFile);
+  if (!HasFolder(path)) MakeFolder(session_.user->path());
+  PassOver(WriteProfileLines(path, lines));
   for (std::string& line : lines) {
     if (line.empty()) line = "0";
     line.resize(std::min(line.size(), UserProfile::kLimit));

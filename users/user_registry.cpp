@@ -1,48 +1,30 @@
 #include "users/user_registry.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <iterator>
-#include <limits>
 
 #include "base/code_page.h"
 #include "base/file_calls.h"
 #include "base/text_file.h"
-#include "food/day_balance.h"
-#include "reports/report_file.h"
+#include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
 constexpr std::string_view kForbiddenSigns = " +-\\./:|`;\"~><!@#$%^&*()\t";
 
-constexpr const char* kFirstFiles[] = {"waga.ASC", "mirvo.ASC",     "info.ASC",   "zestaw.ASC",
-                                       "whr.ASC",  "cwiczenia.ASC", "wykwag.txt", "wykoda.txt"};
-
-constexpr const char* kAllFiles[] = {"waga.ASC",   "mirvo.ASC",     "info.ASC",  "zestaw.ASC",
-                                     "whr.ASC",    "cwiczenia.ASC", "zapot.ASC", "bilans.ASC",
-                                     "wykwag.txt", "wykoda.txt",    "erg.txt"};
+// The path of a file of the user called `user`, as it was typed: without a name, of the start-up
+// folder itself. Nothing when it would lie anywhere else.
+std::optional<std::string> TypedPath(const SessionState& session, const std::string& user,
+                                     std::string_view file_name) {
+  if (user.empty()) return session.BaseFile(file_name);
+  const std::optional<UserFolder> folder = UserFolder::In(session.base_folder, user);
+  return folder ? std::optional(folder->File(file_name)) : std::nullopt;
+}
 
 // A file and what an interrupted write of it has left.
 void DeleteWithTemporary(const std::string& path) {
-  std::remove(path.c_str());
-  std::remove(TemporaryPath(path).c_str());
-}
-
-constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
-constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
-
-char Capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-// What counts is what stands before the first point, without blanks at its end.
-bool IsDevice(std::string_view name) {
-  std::string stem(name.substr(0, name.find('.')));
-  stem.erase(stem.find_last_not_of(' ') + 1);
-  std::ranges::transform(stem, stem.begin(), Capital);
-  if (std::ranges::find(kDevices, stem) != std::end(kDevices)) return true;
-  if (stem.empty() || stem.back() < '1' || stem.back() > '9') return false;
-  stem.pop_back();
-  return std::ranges::find(kNumberedDevices, stem) != std::end(kNumberedDevices);
+  RemoveFile(path);
+  RemoveFile(TemporaryPath(path));
 }
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
@@ -58,8 +40,7 @@ std::size_t WholeNamesEnd(std::string_view text) {
 }  // namespace
 
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path) {
-  const std::optional<std::string> read =
-      ReadFileToRewrite(path, std::numeric_limits<std::size_t>::max());
+  const std::optional<std::string> read = ReadFileToRewrite(path, kWholeFile);
   if (!read) return std::nullopt;
   const std::string& text = *read;
   const std::size_t end = WholeNamesEnd(text);
@@ -94,14 +75,6 @@ std::size_t CountForbiddenSigns(std::string_view name) {
       name, [](char c) { return kForbiddenSigns.find(c) != std::string_view::npos; }));
 }
 
-bool IsFolderName(std::string_view name) {
-  if (name.empty() || name.size() > kUserNameLimit) return false;
-  if (name.find_first_of("\\/:*?\"<>|") != std::string_view::npos || IsDevice(name)) return false;
-  // The platform takes dots and blanks off the end of a name: ".. " is the folder above.
-  return name.find_first_not_of(". ") != std::string_view::npos &&
-         std::ranges::none_of(name, [](char c) { return c >= '\0' && c < ' '; });
-}
-
 std::optional<std::string> FindNamesake(const SessionState& session,
                                         const std::vector<std::string>& registered,
                                         const std::string& name) {
@@ -120,23 +93,24 @@ std::optional<std::string> FindNamesake(const SessionState& session,
 }
 
 void CreateUserFiles(const SessionState& session, const std::string& user) {
-  MakeFolder(session.FolderOf(user));
-  for (const char* const file : kFirstFiles) ReplaceFile(session.FileOf(user, file), "");
+  const std::optional<UserFolder> folder = UserFolder::In(session.base_folder, user);
+  if (!folder) return;
+  MakeFolder(folder->path());
+  for (const UserFile& file : UserFiles()) {
+    if (file.made_with_user) PassOver(ReplaceFile(folder->File(file.name), ""));
+  }
 }
 
 void DeleteUserFiles(const SessionState& session, const std::string& user) {
-  for (const char* const file : kAllFiles) {
-    DeleteWithTemporary(session.FileOf(user, file));
+  for (const UserFile& file : UserFiles()) {
+    const std::optional<std::string> path = TypedPath(session, user, file.name);
+    if (!path) return;
+    if (file.goes_with_user) RemoveFile(*path);
+    // What an interrupted write has left is nobody's, of the files that stay too.
+    RemoveFile(TemporaryPath(*path));
+    if (file.is_report) DeleteWithTemporary(RestPath(*path));
   }
-  // The day's exchanges are not among the files that go, but what an interrupted write has left of
-  // them is nobody's.
-  for (const std::string_view file : {kCarbohydrateExchangeFile, kProteinFatExchangeFile}) {
-    std::remove(TemporaryPath(session.FileOf(user, file)).c_str());
-  }
-  for (const ReportFile& report : Reports()) {
-    DeleteWithTemporary(RestPath(session.FileOf(user, report.file_name)));
-  }
-  if (!user.empty()) RemoveFolder(session.FolderOf(user));
+  if (!user.empty()) RemoveFolder(session.base_folder + user);
 }
 
 }  // namespace velnor

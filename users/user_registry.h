@@ -39,11 +39,6 @@ std::string RegistryBytes(const UserRegistry& registry);
 // How many of the characters of `name` a user's name must not contain; 0 for a good name.
 std::size_t CountForbiddenSigns(std::string_view name);
 
-// Whether a folder called `name` lies in the start-up folder itself: no separator, no drive, not
-// "..", none of the names that mean a device of the platform in every folder ("NUL", "com1.txt").
-// An empty name is no folder name.
-bool IsFolderName(std::string_view name);
-
 // The name that keeps `name` from being a user's: one of `registered`, or that of a folder that is
 // there, which differs from it in small and capital letters alone. The platform knows one folder
 // for both. Nothing when there is none, or when `name` itself is registered.
@@ -51,13 +46,16 @@ std::optional<std::string> FindNamesake(const SessionState& session,
                                         const std::vector<std::string>& registered,
                                         const std::string& name);
 
-// Makes the user's folder and the eight files that every user has from the start, empty; files that
-// are there already become empty. What the system refuses is not reported.
+// The following take the name of a user as it was typed. A name that IsFolderName refuses does
+// nothing; removing without a name means the files of the start-up folder itself.
+
+// Makes the user's folder and the files that every user has from the start, empty; files that are
+// there already become empty. What the system refuses is not reported.
 void CreateUserFiles(const SessionState& session, const std::string& user);
 
-// Deletes the eleven files that a user can have, what saving the reports among them has kept beside
-// them, whatever an interrupted write has left of any of them, and the folder when nothing else is
-// in it. What the system refuses is not reported.
+// Deletes the files that go with a user (UserFiles), what saving the reports among them has kept
+// beside them, whatever an interrupted write has left of any file of the user, and the folder when
+// nothing else is in it. What the system refuses is not reported.
 void DeleteUserFiles(const SessionState& session, const std::string& user);
 
 }  // namespace velnor

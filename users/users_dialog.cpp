@@ -138,10 +138,11 @@ void UsersDialog::Remove(Form& form) {
   form.SetText(kName, "");
 
   // The names are taken for one another when length and first letter agree.
-  const std::string& user = session_.user_name;
-  if (user.empty() || name.size() != user.size() || name[0] != user[0]) return;
+  if (!session_.user) return;
+  const std::string& user = session_.user->name();
+  if (name.size() != user.size() || name[0] != user[0]) return;
   on_removed_();
-  session_.user_name.clear();
+  session_.user.reset();
   session_.screen = kHomeScreen;
   window_.PaintNow();
 }

@@ -75,6 +75,16 @@ bool MakeFolder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0
 
 bool RemoveFolder(const std::string& path) { return rmdir(path.c_str()) == 0; }
 
+bool RenameFolder(const std::string& from, const std::string& to) {
+  // The system would put the folder in the place of an empty one.
+  return !IsThere(to) && std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+std::uint64_t SizeOfFile(const std::string& path) {
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
 std::optional<std::vector<FolderEntry>> ListFolder(const std::string& path) {
   const std::unique_ptr<DIR, FolderCloser> folder(opendir(path.c_str()));
   if (!folder) return std::nullopt;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "shell/win32/caption_icon.h"
+#include "shell/win32/fault_barrier.h"
 #include "shell/win32/window_form.h"
 
 namespace velnor {
@@ -33,7 +34,10 @@ class Host final : public WindowForm {
 
   void Command(int id, int notification) {
     ++running_handlers_;
-    dialog_->OnCommand(*this, id, notification);
+    BehindBarrier(window(), 0, [&] {
+      dialog_->OnCommand(*this, id, notification);
+      return 0;
+    });
     --running_handlers_;
     DeleteWhenDone();
   }
@@ -99,15 +103,24 @@ void KeepListsOffButtons(HWND dialog) {
   }
 }
 
+INT_PTR OpenDialog(HWND window, Opening& opening) {
+  Host* const host = opening.MakeHost(window);
+  SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
+  SetCaptionIcon(window);
+  KeepListsOffButtons(window);
+  const HWND focus_before = GetFocus();
+  host->Open();
+  return GetFocus() == focus_before ? TRUE : FALSE;
+}
+
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_INITDIALOG) {
-    Host* const host = reinterpret_cast<Opening*>(lparam)->MakeHost(window);
-    SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
-    SetCaptionIcon(window);
-    KeepListsOffButtons(window);
-    const HWND focus_before = GetFocus();
-    host->Open();
-    return GetFocus() == focus_before ? TRUE : FALSE;
+    const INT_PTR result = BehindBarrier(window, INT_PTR{TRUE}, [&] {
+      return OpenDialog(window, *reinterpret_cast<Opening*>(lparam));
+    });
+    // Without its object it could not even be closed.
+    if (GetWindowLongPtrA(window, DWLP_USER) == 0) EndDialog(window, 0);
+    return result;
   }
   auto* const host = reinterpret_cast<Host*>(GetWindowLongPtrA(window, DWLP_USER));
   if (host == nullptr) return FALSE;
@@ -142,7 +155,12 @@ HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
   Opening opening{.modeless_dialog = std::move(dialog), .on_close = std::move(on_close)};
   const HWND window = CreateDialogParamA(instance, MAKEINTRESOURCEA(resource_id), owner,
                                          DialogProcedure, reinterpret_cast<LPARAM>(&opening));
-  if (window != nullptr) ShowWindow(window, SW_SHOW);
+  if (window == nullptr) return nullptr;
+  if (opening.modeless_dialog != nullptr) {  // nobody took it
+    DestroyWindow(window);
+    return nullptr;
+  }
+  ShowWindow(window, SW_SHOW);
   return window;
 }
 

@@ -151,6 +151,16 @@ bool MakeFolder(const std::string& path) {
 
 bool RemoveFolder(const std::string& path) { return RemoveDirectoryW(WidePath(path).c_str()) != 0; }
 
+bool RenameFolder(const std::string& from, const std::string& to) {
+  return MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+std::uint64_t SizeOfFile(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA file = {};
+  if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &file) == 0) return 0;
+  return std::uint64_t{file.nFileSizeHigh} << 32U | file.nFileSizeLow;
+}
+
 std::optional<std::vector<FolderEntry>> ListFolder(const std::string& path) {
   WIN32_FIND_DATAW found = {};
   const HANDLE search = FindFirstFileW(WidePath(path + "\\*").c_str(), &found);

@@ -11,13 +11,28 @@ constexpr BYTE kCentralEuropean = 238;  // EASTEUROPE_CHARSET: code page 1250 le
 
 COLORREF ToColorRef(Colour colour) { return RGB(colour.red, colour.green, colour.blue); }
 
+int MeanWidth(HFONT font) {
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ previous = SelectObject(screen, font);
+  TEXTMETRICA metrics = {};
+  GetTextMetricsA(screen, &metrics);
+  SelectObject(screen, previous);
+  ReleaseDC(nullptr, screen);
+  return metrics.tmAveCharWidth;
+}
+
 HFONT MakeFont(const Font& font) {
   LOGFONTA description = {};
   description.lfHeight = font.height;
   description.lfWeight = font.weight;
   description.lfItalic = font.italic ? TRUE : FALSE;
   description.lfCharSet = kCentralEuropean;
-  description.lfQuality = font.smooth ? ANTIALIASED_QUALITY : NONANTIALIASED_QUALITY;
+  description.lfQuality = ANTIALIASED_QUALITY;
+  const HFONT made = CreateFontIndirectA(&description);
+  if (!font.narrow || made == nullptr) return made;
+  // A width can only be asked for in pixels, and whose face has which is known from the font alone.
+  description.lfWidth = (MeanWidth(made) * 5 + 3) / 6;
+  DeleteObject(made);
   return CreateFontIndirectA(&description);
 }
 
@@ -124,7 +139,7 @@ void GdiCanvas::SetPen(const Pen& pen) {
   pen_ = next;
 }
 
-void GdiCanvas::DrawText(Point at, std::string_view text) {
+void GdiCanvas::WriteText(Point at, std::string_view text) {
   TextOutA(context_, at.x, at.y, text.data(), static_cast<int>(text.size()));
 }
 

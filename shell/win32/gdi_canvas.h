@@ -91,7 +91,7 @@ class GdiCanvas final : public Canvas {
   void SetFont(const Font& font) override;
   void SetTextColour(Colour colour) override;
   void SetPen(const Pen& pen) override;
-  void DrawText(Point at, std::string_view text) override;
+  void WriteText(Point at, std::string_view text) override;
   void DrawPolyline(std::span<const Point> points) override;
 
  private:

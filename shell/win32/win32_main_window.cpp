@@ -3,8 +3,12 @@
 #include <string>
 #include <utility>
 
+#include "shell/win32/accessible_names.h"
 #include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
+#include "shell/win32/fault_barrier.h"
+#include "shell/win32/file_picker.h"
+#include "shell/win32/guide.h"
 #include "shell/win32/wide_path.h"
 
 namespace velnor {
@@ -16,6 +20,7 @@ constexpr int kWidth = 800;
 constexpr int kHeight = 600;
 constexpr COLORREF kSurfaceColour = RGB(179, 179, 179);
 
+constexpr UINT kNameFields = WM_APP;  // posted to ourselves
 constexpr UINT kHelpPartialKey = 0x105;
 
 // The system rejects this background mode, so statics keep the opaque one they have; the colour
@@ -58,15 +63,24 @@ bool Win32MainWindow::Open(int show_command) {
 int Win32MainWindow::RunMessageLoop() {
   MSG message;
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-    if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) continue;
-    // The wheel is the screen's before it is that of the control which has the focus: an edit would
-    // scroll as many lines as it likes.
-    const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
-    if (wheel && OnMouseWheel(message.wParam)) continue;
-    TranslateMessage(&message);
-    DispatchMessageA(&message);
+    if (!BehindBarrier(window_, true, [&] { return TakeFirst(message); })) {
+      TranslateMessage(&message);
+      DispatchMessageA(&message);
+    }
+    if (IsWindow(window_) != FALSE) {
+      screen_keys_->UpdateFrame(back_buffer_.Begin(client_width_, client_height_));
+    }
   }
   return static_cast<int>(message.wParam);
+}
+
+// What does not go to the control with the focus, and whether it was dealt with here.
+bool Win32MainWindow::TakeFirst(MSG& message) {
+  if (screen_keys_->OnMessage(message)) return true;
+  if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) return true;
+  // An edit would scroll as many lines at a turn of the wheel as it likes.
+  const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
+  return wheel && OnMouseWheel(message.wParam);
 }
 
 LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wparam,
@@ -79,10 +93,12 @@ LRESULT CALLBACK Win32MainWindow::Procedure(HWND window, UINT message, WPARAM wp
   }
   auto* const self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcA(window, message, wparam, lparam);
-  return self->OnMessage(message, wparam, lparam);
+  const LRESULT on_fault = message == WM_CREATE ? -1 : 0;  // a window that could not be made goes
+  return BehindBarrier(window, on_fault, [&] { return self->OnMessage(message, wparam, lparam); });
 }
 
 LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (own_menus_ && own_menus_->OnMessage(message, wparam, lparam)) return 0;
   switch (message) {
     case WM_CREATE:
       return OnCreate() ? 0 : -1;
@@ -112,6 +128,12 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_MOUSEWHEEL:
       OnMouseWheel(wparam);
       return 0;
+    case WM_GETOBJECT:
+      OnAccessibility();
+      return DefWindowProcA(window_, message, wparam, lparam);
+    case kNameFields:
+      NameFields(*form_);
+      return 0;
     case WM_CLOSE:
       DestroyWindow(window_);
       return 0;
@@ -132,6 +154,9 @@ bool Win32MainWindow::OnCreate() {
   program_.emplace(StartUpFolder(), Today(), *form_, *this, *message_boxes_);
   menu_ = LoadMenuA(instance_, MAKEINTRESOURCEA(kMenuResource));
   SetMenu(window_, menu_);
+  own_menus_.emplace(window_, *program_);
+  own_menus_->AddToTitleBarMenu();
+  screen_keys_.emplace(window_, *form_, *program_);
   resources_.LoadBackgrounds(instance_);
   if (!form_->CreateControls(instance_, resources_)) return false;
   program_->Start();
@@ -140,6 +165,12 @@ bool Win32MainWindow::OnCreate() {
 
 bool Win32MainWindow::OnMouseWheel(WPARAM wparam) {
   return program_->OnMouseWheel(static_cast<std::int32_t>(static_cast<std::uint32_t>(wparam)));
+}
+
+// The first question of a screen reader, or of a tool like one. What is done about it loads a
+// library and waits until the question is answered.
+void Win32MainWindow::OnAccessibility() {
+  if (!std::exchange(fields_named_, true)) PostMessageA(window_, kNameFields, 0, 0);
 }
 
 // Everything is drawn in memory and copied to the window once, around the controls that stay.
@@ -162,6 +193,7 @@ void Win32MainWindow::OnPaint() {
   EndPaint(window_, &paint);
   form_->ShowChosen();
   FocusIfShown(focused);
+  screen_keys_->ForgetFrame();
   program_->FinishPaint();
 }
 
@@ -219,8 +251,38 @@ void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
   RunModalDialog(instance_, window_, resource_id, dialog);
 }
 
+// The dialog waits like a box of its own; the window behind it has to as well, or the program could
+// be left while the person is choosing.
+std::optional<std::string> Win32MainWindow::ChooseFile(const FileKind& kind) {
+  const HWND active = GetActiveWindow();
+  EnableWindow(window_, FALSE);
+  std::optional<std::string> path = PickFile(active != nullptr ? active : window_, kind);
+  EnableWindow(window_, TRUE);
+  return path;
+}
+
+bool Win32MainWindow::OpenGuideFile(std::string_view name) {
+  return velnor::OpenGuideFile(window_, name);
+}
+
 void Win32MainWindow::OpenHelp(std::string_view file_name) {
   WinHelpA(window_, std::string(file_name).c_str(), kHelpPartialKey, 0);
+}
+
+// The library is loaded when it is needed: most runs of the program open no page. It stays, since
+// what it started may still be at work in it.
+bool Win32MainWindow::OpenInBrowser(const std::string& path) {
+  using ShellExecuteFunction =
+      HINSTANCE(WINAPI*)(HWND, const char*, const char*, const char*, const char*, int);
+  constexpr INT_PTR kLastError = 32;
+  const HMODULE library = LoadLibraryExA("shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) return false;
+  // The platform gives every function the same type; void() is the one no warning is about.
+  const auto address = reinterpret_cast<void (*)()>(GetProcAddress(library, "ShellExecuteA"));
+  const auto execute = reinterpret_cast<ShellExecuteFunction>(address);
+  if (execute == nullptr) return false;
+  const HINSTANCE result = execute(window_, "open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 
 }  // namespace velnor

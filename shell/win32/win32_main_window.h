@@ -12,6 +12,8 @@
 #include "base/main_window.h"
 #include "shell/program.h"
 #include "shell/win32/gdi_canvas.h"
+#include "shell/win32/own_menus.h"
+#include "shell/win32/screen_keys.h"
 #include "shell/win32/win32_message_boxes.h"
 #include "shell/win32/window_form.h"
 
@@ -38,7 +40,10 @@ class Win32MainWindow final : public MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override;
+  bool OpenGuideFile(std::string_view name) override;
   void OpenHelp(std::string_view file_name) override;
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
@@ -46,6 +51,8 @@ class Win32MainWindow final : public MainWindow {
   bool OnCreate();
   bool OnMouseWheel(WPARAM wparam);
   void OnPaint();
+  void OnAccessibility();
+  bool TakeFirst(MSG& message);
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;
 
@@ -63,6 +70,9 @@ class Win32MainWindow final : public MainWindow {
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;
+  std::optional<OwnMenus> own_menus_;
+  std::optional<ScreenKeys> screen_keys_;
+  bool fields_named_ = false;
 };
 
 }  // namespace velnor

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/win32/list_order.h"
+#include "shell/win32/number_field.h"
+
 namespace velnor {
 namespace {
 
@@ -85,16 +88,31 @@ bool IsFrame(HWND control) {
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
-// Adds texts at the places the list gives them.
+bool IsSortedListBox(HWND list) {
+  return &MessagesOf(list) == &kListBoxMessages &&
+         (GetWindowLongA(list, GWL_STYLE) & LBS_SORT) != 0;
+}
+
+// Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
+// its own order and has not to look for the place of each.
 void Append(HWND list, std::span<const std::string_view> texts) {
+  constexpr auto kAtTheEnd = static_cast<WPARAM>(-1);
   const ListMessages& messages = MessagesOf(list);
   std::size_t bytes = 0;
   for (const std::string_view text : texts) bytes += text.size() + 1;
   SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
-  std::string item;  // ended by a NUL, as the platform reads it
-  for (const std::string_view text : texts) {
-    item = text;
-    SendMessageA(list, messages.add, 0, ToParameter(item.c_str()));
+  std::optional<std::vector<std::string>> ordered;
+  if (IsSortedListBox(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+    ordered = OrderOfList(list, texts);
+  }
+  if (ordered) {
+    for (const std::string& text : *ordered) {
+      SendMessageA(list, LB_INSERTSTRING, kAtTheEnd, ToParameter(text.c_str()));
+    }
+  } else {
+    for (const std::string_view text : texts) {
+      SendMessageA(list, messages.add, 0, ToParameter(std::string(text).c_str()));
+    }
   }
   if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
 }
@@ -138,6 +156,8 @@ void WindowForm::SetText(int id, std::string_view text) {
 void WindowForm::LimitText(int id, std::size_t limit) {
   SendMessageA(Control(id), EM_SETLIMITTEXT, limit, 0);
 }
+
+void WindowForm::TakeNumbers(int id) { MarkNumberField(Control(id)); }
 
 int WindowForm::ItemCount(int id) const {
   const HWND control = Control(id);
@@ -231,6 +251,7 @@ bool MainForm::CreateControls(HINSTANCE instance, GdiResources& resources) {
     if (row.control_class == ControlClass::kListBox) {
       MoveWindow(control, row.place.x, row.place.y, row.place.width, row.place.height, FALSE);
     }
+    if (row.holds_number) MarkNumberField(control);
     if (row.limit > 0) SendMessageA(control, EM_SETLIMITTEXT, row.limit, 0);
     const bool first_of_its_id = controls_by_key_.emplace(row.id, control).second;
     if (!first_of_its_id) controls_by_key_.emplace(SecondControl(row.id), control);
@@ -268,6 +289,21 @@ void MainForm::ShowChosen() {
       InvalidateRect(control, nullptr, FALSE);
     }
   }
+}
+
+std::vector<int> MainForm::UsableKeys() const {
+  std::vector<int> keys;
+  for (const auto& [key, control] : controls_by_key_) {
+    if (IsShown(control) && IsWindowEnabled(control) != FALSE) keys.push_back(key);
+  }
+  return keys;
+}
+
+int MainForm::KeyOf(HWND control) const {
+  for (const auto& [key, candidate] : controls_by_key_) {
+    if (candidate == control) return key;
+  }
+  return 0;
 }
 
 HWND MainForm::Control(int key) const {

@@ -7,6 +7,7 @@
 
 #include <map>
 #include <set>
+#include <vector>
 
 #include "base/form.h"
 #include "shell/controls.h"
@@ -22,6 +23,7 @@ class WindowForm : public Form {
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   void LimitText(int id, std::size_t limit) override;
+  void TakeNumbers(int id) override;
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
@@ -66,6 +68,13 @@ class MainForm final : public WindowForm {
   void ClipTo(HDC context) const;
   // After that: shows what the repaint showed, and draws the frames that the picture went over.
   void ShowChosen();
+
+  // The keys of the controls that a person can reach now.
+  std::vector<int> UsableKeys() const;
+  // The key of a control; 0 for any other window.
+  int KeyOf(HWND control) const;
+  // By key; null when there is none.
+  HWND Find(int key) const { return Control(key); }
 
  protected:
   HWND Control(int key) const override;

@@ -132,6 +132,58 @@ TEST_F(Controls, EveryScreenShowsItsOwn) {
   EXPECT_EQ(ShownAfter(app_, 221), (std::multiset<int>{101, 102, 103}));
 }
 
+// What the display shows of the inside of a control, from its left edge on: a row of signs for each
+// row of pixels, "#" for what is darker than half.
+std::string PixelsOf(const App& app, int id, int width) {
+  constexpr int kEdge = 2;
+  app.Settle();
+  Sleep(200);  // the display draws a moment after the program has finished
+  const RECT place = PlaceIn(app.main().handle(), app.main().Control(id));
+  std::string rows;
+  for (LONG y = place.top + kEdge; y < place.bottom - kEdge; ++y) {
+    for (LONG x = place.left + kEdge; x < place.left + kEdge + width; ++x) {
+      rows += GetGValue(PixelAt(app.main(), x, y)) < 128 ? '#' : '.';
+    }
+    rows += '\n';
+  }
+  return rows;
+}
+
+int RowsWithInk(const std::string& pixels) {
+  int rows = 0;
+  for (std::size_t at = 0; at < pixels.size(); at = pixels.find('\n', at) + 1) {
+    rows += pixels.find('#', at) < pixels.find('\n', at) ? 1 : 0;
+  }
+  return rows;
+}
+
+// Neither its middle nor its end, and not on two lines.
+TEST_F(Controls, AFigureTooWideForItsFieldShowsItsFirstDigits) {
+  struct Field {
+    int command;
+    int id;
+    const char* figure;
+    const char* seen;
+    int width;  // of what is seen
+  };
+  const Field fields[] = {
+      {231, 142, "1.06061", "1.06", 20},
+      {231, 143, "0.571429", "0.571", 26},
+      {236, 117, "0.571429", "0.571", 26},
+      {238, 163, "1234567.8901234", "1234567.8", 50},
+      {238, 180, "1234567.8901234", "1234567.8", 50},
+  };
+  for (const Field& field : fields) {
+    app_.main().Command(field.command);
+    app_.main().SetText(field.id, field.seen);
+    const std::string seen = PixelsOf(app_, field.id, field.width);
+    app_.main().SetText(field.id, field.figure);
+    EXPECT_EQ(PixelsOf(app_, field.id, field.width), seen) << field.id;
+    EXPECT_GE(RowsWithInk(seen), 7) << "digits that can be read\n" << seen;
+    EXPECT_LE(RowsWithInk(seen), 12) << "one line\n" << seen;
+  }
+}
+
 TEST_F(Controls, TheWheelScrollsAReportOneLineAndNothingElsewhere) {
   std::string report;
   for (int line = 0; line < 100; ++line) report += "line " + std::to_string(line) + "\r\n";

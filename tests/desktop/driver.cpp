@@ -362,10 +362,23 @@ DWORD App::CallInside(const char* function, std::vector<ULONG_PTR> arguments) co
 
 std::vector<App::MenuItem> App::ReadMenu() const {
   Settle();
+  return ItemsOf(GetMenu(main_.handle()));
+}
+
+std::vector<App::MenuItem> App::ItemsOf(HMENU menu) const {
   Sleep(kQuiet);
   std::vector<MenuItem> items;
-  AppendMenu(reinterpret_cast<ULONG_PTR>(GetMenu(main_.handle())), items);
+  AppendMenu(reinterpret_cast<ULONG_PTR>(menu), items);
   return items;
+}
+
+RECT App::ItemPlace(HMENU menu, UINT position) const {
+  RECT place = {};
+  const RemoteMemory buffer(process_.hProcess, sizeof place, PAGE_READWRITE);
+  CallInside("GetMenuItemRect", {0, reinterpret_cast<ULONG_PTR>(menu), position,
+                                 reinterpret_cast<ULONG_PTR>(buffer.address())});
+  buffer.Read(&place, sizeof place);
+  return place;
 }
 
 void App::AppendMenu(ULONG_PTR menu, std::vector<MenuItem>& items) const {

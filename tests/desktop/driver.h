@@ -107,6 +107,10 @@ class App {
     bool enabled;
   };
   std::vector<MenuItem> ReadMenu() const;
+  // The items of another menu of the program, and where one of them is on the display while its
+  // menu is open.
+  std::vector<MenuItem> ItemsOf(HMENU menu) const;
+  RECT ItemPlace(HMENU menu, UINT position) const;
   // Whether each item of the menu can be chosen, by its command.
   std::map<int, bool> MenuStates() const;
 
@@ -160,9 +164,12 @@ bool WaitUntilGone(HWND window);
 
 // Real input events, which go to whatever window is in front, as from mouse and keyboard.
 void ClickOn(HWND control);
+void ClickAt(POINT on_display);
+void RightClickAt(POINT on_display);
 void TurnWheel(int distance);          // negative: towards the person; goes where the focus is
 void TypeKeys(std::string_view keys);  // letters, digits and points
-void PressKey(WORD virtual_key, bool with_alt = false);
+enum class KeyModifier { kNone, kAlt, kControl, kShift };
+void PressKey(WORD virtual_key, KeyModifier modifier = KeyModifier::kNone);
 
 }  // namespace velnor::desktop
 

@@ -114,6 +114,26 @@ TEST_F(Executable, NeedsNothingButTheSystem) {
             (std::set<std::string>{"gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll"}));
 }
 
+// Every name of a library in the file: that of the dialog that chooses a file is loaded when the
+// dialog is opened, from the folder of the system.
+TEST_F(Executable, LoadsOneLibraryMoreWhenItIsWanted) {
+  std::string text = bytes_;
+  std::ranges::transform(text, text.begin(), [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  });
+  const auto is_of_name = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
+  };
+  std::set<std::string> libraries;
+  for (std::size_t at = 0; (at = text.find(".dll", at)) != std::string::npos; ++at) {
+    std::size_t start = at;
+    while (start > 0 && is_of_name(text[start - 1])) --start;
+    libraries.insert(text.substr(start, at - start));
+  }
+  EXPECT_EQ(libraries,
+            (std::set<std::string>{"comdlg32", "gdi32", "kernel32", "msvcrt", "user32"}));
+}
+
 TEST_F(Executable, RunsAsTheUserAndIsScaledByTheSystem) {
   const std::string manifest = Resource(1, 24);  // RT_MANIFEST
   for (const char* const part :

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "tests/desktop/driver.h"
 #include "tests/desktop/list_watch.h"
@@ -94,6 +95,50 @@ TEST_F(Fill, TheActivitiesAreDrawnOnceAPaintingOfTheScreen) {
   EXPECT_EQ(watch.counts().added, kActivities);
   EXPECT_EQ(watch.counts().added_and_drawn, 0);
   EXPECT_EQ(watch.counts().paints, 1);
+}
+
+using Names = std::vector<std::string>;
+
+// The items of a sorted list box that is given these one after the other.
+Names AsTheBoxSorts(const Names& names) {
+  constexpr int kList = 1;
+  const HWND parent = CreateWindowExA(0, "static", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr,
+                                      nullptr, nullptr);
+  const HWND list = CreateWindowExA(0, "listbox", "", WS_CHILD | LBS_SORT, 0, 0, 100, 100, parent,
+                                    reinterpret_cast<HMENU>(kList), nullptr, nullptr);
+  for (const std::string& name : names) {
+    SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  }
+  Names sorted = Window(parent).Items(kList);
+  DestroyWindow(parent);
+  return sorted;
+}
+
+// As the list of own products to remove shows them.
+Names AsTheProgramSorts(const Names& names) {
+  const WorkFolder folder;
+  std::string lines;
+  for (const std::string& name : names) {
+    lines += "fruits;fresh;" + name + ";100;237;1.9;11;34.0;\r\n";
+  }
+  folder.Write("data.txt", lines);
+  const App app(folder);
+  app.main().Command(241);
+  return app.WaitForPopup().Items(739);
+}
+
+TEST(FillOrder, IsThatOfTheBox) {
+  const Names names = {"pie 10", "pie 2",      "pie-2",     "pie's",      "pies",      "\xBFurek",
+                       "zupa",   "100% juice", "_pie",      "Apples",     "apple pie", "APRICOTS",
+                       "co-op",  "coop",       "coop 1",    "pie (big)",  "pie, big",  "\xE6ma",
+                       "cma",    "pie 10",     "<tab\tin>", "\xA3OSO\x8C"};
+  EXPECT_EQ(AsTheProgramSorts(names), AsTheBoxSorts(names));
+}
+
+// The box takes these for one another: their order is how it found a place for each.
+TEST(FillOrder, IsThatOfTheBoxWhereItSeesNoDifference) {
+  const Names names = {"figs", "Figs", "pears", "FIGS", "fIgS", "apples", "figs", "Pears", "peARS"};
+  EXPECT_EQ(AsTheProgramSorts(names), AsTheBoxSorts(names));
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ void Count(HWND window, UINT message, WPARAM wparam) {
   if (counts == nullptr || window != counts->list) return;
   if (message == WM_SETREDRAW) counts->is_put_off = wparam == FALSE ? 1 : 0;
   if (message == WM_PAINT) ++counts->paints;
-  if (message == LB_ADDSTRING) {
+  if (message == LB_ADDSTRING || message == LB_INSERTSTRING) {
     ++counts->added;
     if (counts->is_put_off == 0) ++counts->added_and_drawn;
   }

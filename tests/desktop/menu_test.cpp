@@ -101,7 +101,7 @@ TEST_F(Menu, UnfinishedFunctionsSaySo) {
 TEST_F(Menu, TheKeyboardChoosesWhatCanBeChosen) {
   ClickOn(app_.main().handle());
   app_.Settle();
-  PressKey('O', true);
+  PressKey('O', KeyModifier::kAlt);
   PressKey('A');
   const Window about = app_.WaitForPopup();
   ASSERT_NE(about.handle(), nullptr);

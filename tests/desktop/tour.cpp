@@ -83,11 +83,12 @@ class Tour {
     Answer(added, IDOK);
     add.Command(IDCANCEL);
 
+    app_.main().Command(231);
     app_.main().Command(149);
     const Window search = app_.WaitForPopup();
     search.SetText(728, "apple");
     search.Command(730);
-    TakeWindow(search, "search");
+    TakeWindow(app_.main(), "search");
     search.SetText(728, "Apple");
     search.Command(731);
     search.SetText(728, "Apple");
@@ -193,6 +194,7 @@ class Tour {
     recipe.SetText(725, "Mix everything.\r\nServe cold.");
     TakeWindow(recipe, "save-recipe");
     recipe.Command(IDCANCEL);
+    AddFood("dairy products", "cottage cheese", "cottage cheese 2%", "300");
     app_.main().Command(233);
     Take("balance-below-and-inside");
     folder_.Write("Zoe\\bilans.ASC", Today() + "\r\n3400\r\n290\r\n120\r\n380");
@@ -327,8 +329,11 @@ class Tour {
     const char* record;
   };
   static constexpr ReportPicture kReports[] = {
-      {210, "report-weight", "waga.ASC", 4,
-       "date: 16.11.2026\tbody weight[kg]: 70\tBMI: 22.85\tother: after the holidays\t\r\n"},
+      {210, "report-weight", "waga.ASC", 1,
+       "date: 26.10.2026\tbody weight[kg]: 67.5\tBMI: 23.35\tother: after the holidays\t\r\n"
+       "date: 2.11.2026\tbody weight[kg]: 66.8\tBMI: 23.11\tother: \t\r\n"
+       "date: 9.11.2026\tbody weight[kg]: 66\tBMI: 22.83\tother: swam twice\t\r\n"
+       "date: 16.11.2026\tbody weight[kg]: 65\tBMI: 22.49\tother: \t\r\n"},
       {214, "report-whr", "whr.ASC", 4,
        "date: 16.11.2026\twaist[cm]: 70\thip[cm]: 95\tWHR: 0.73\tother: \r\n"},
       {212, "report-calorie", "mirvo.ASC", 25,

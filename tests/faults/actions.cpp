@@ -234,7 +234,7 @@ void OpenActivities(Scene& scene) { scene.Open(238); }
 
 std::span<const Action> Actions() {
   using Files = std::vector<std::string_view>;
-  static const Files kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC"};
+  static const Files kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC", "Ann/wykoda.txt"};
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};
@@ -262,7 +262,7 @@ std::span<const Action> Actions() {
        .says_on_failure = {kNotSaved}},
       {.name = "open the balance for the first time", .arrange = ForgetTheDay, .enter = LogAnnIn,
        .act = OpenBalance},
-      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay,
+      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay, .together = kDay,
        .says_on_failure = {kNotSaved}},
       {.name = "open a chart for the first time", .arrange = ForgetTheWeights, .enter = LogAnnIn,
        .act = OpenWeightChart},
@@ -287,6 +287,8 @@ std::span<const Action> Actions() {
       {.name = "clear the burned calories", .enter = CountBurned, .act = ClearBurned},
       {.name = "save the burned calories", .enter = CountBurned, .act = SaveBurned},
       {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
+      {.name = "clear a report and what was kept", .arrange = LengthenReport, .enter = OpenReport,
+       .act = ClearReport, .between = {{"Ann/waga.ASC.rest.txt", ""}}},
   };
   // clang-format on
   return kActions;

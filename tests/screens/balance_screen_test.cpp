@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/support/day_fixture.h"
+#include "tests/support/legibility.h"
 
 namespace velnor {
 namespace {
@@ -19,7 +20,7 @@ constexpr int kClear = 165;
 constexpr Font kTitle{18, 700, true};
 constexpr Font kBody{14, 0, false};
 constexpr Font kHead{12, 0, false};
-constexpr Font kEaten{10, 0, false};
+constexpr Font kEaten{11, 0, false, true};
 constexpr Colour kGrey{79, 79, 79};
 constexpr Colour kLightGrey{205, 205, 205};
 constexpr Colour kGreen{0, 205, 0};
@@ -150,6 +151,14 @@ TEST_F(BalanceScreenTest, PaintsItsTexts) {
   EXPECT_EQ(form_.ShownKeys(), (std::set<int>{kClear}));
 }
 
+TEST_F(BalanceScreenTest, LabelsEndBeforeTheirFigures) {
+  const RecordingCanvas canvas = Paint("\r\n1850.5\r\n72.5\r\n60.25\r\n330.75");
+  for (const int y : {145, 270, 402, 530}) {
+    const DrawnText label = TextAt(canvas, {60, y});
+    EXPECT_LE(60 + WidestExtent(label.font, label.text), 110) << label.text;
+  }
+}
+
 TEST_F(BalanceScreenTest, DrawsFourScalesWithTheirNormsAndMarks) {
   const RecordingCanvas canvas = Paint("\r\n1850.5\r\n72.5\r\n60.25\r\n330.75", kLimits);
   const int axes[] = {108, 238, 368, 498};
@@ -203,9 +212,9 @@ TEST_F(BalanceScreenTest, NothingEatenIsMissingAltogether) {
 // On the last pixel of a scale an amount is still on it.
 TEST_F(BalanceScreenTest, BeyondTheEndIsOutOfScale) {
   RecordingCanvas canvas = Paint("\r\n7000\r\n280\r\n280\r\n1400");
-  for (const int y : {75, 205, 335, 463}) EXPECT_EQ(At(canvas, {650, y}), Texts{});
+  for (const int y : {75, 205, 335, 465}) EXPECT_EQ(At(canvas, {650, y}), Texts{});
   canvas = Paint("\r\n7011\r\n281\r\n281\r\n1403");
-  for (const int y : {75, 205, 335, 463}) {
+  for (const int y : {75, 205, 335, 465}) {
     const DrawnText drawn = TextAt(canvas, {650, y});
     EXPECT_EQ(drawn.text, "OUT OF SCALE");
     EXPECT_EQ(drawn.colour, kRed);
@@ -296,6 +305,28 @@ TEST_F(BalanceScreenTest, ClearStartsTheDayAfresh) {
   EXPECT_EQ(Ratio(), (Texts{"0", "0", "0"}));
   EXPECT_EQ(ShownExchanges(), (Texts{"0", "0"}));
   EXPECT_EQ(At(Repaint(), {110, 145}), Texts{"0."});
+}
+
+// The list and the chart go with the day, or stay with it.
+TEST_F(BalanceScreenTest, ADayThatCannotBeClearedStaysWhole) {
+  OpenCounter();
+  AddStrawberries("250");
+  Open(kOpenBalance);
+  const Texts names = {"bilans.ASC", "z1.ASC", "z2.ASC", "wykoda.txt"};
+  for (const std::string& name : names) {
+    const std::filesystem::path path = folder_.path() + "Ann/" + name;
+    std::filesystem::permissions(path, std::filesystem::perms{0444});
+    form_.Press(kClear);
+    EXPECT_EQ(boxes_.TakeTexts(),
+              Texts{"The daily balance could not be saved.\nCheck the folder of "
+                    "Your data and try again."});
+    EXPECT_EQ(Balance(), "16.11.2026 70. 1.75 1. 13.5") << name;
+    EXPECT_EQ(Read("z1.ASC"), "1.35") << name;
+    EXPECT_EQ(Read("z2.ASC"), "0.16") << name;
+    EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;70.;1.75;1.;13.5;\r\n") << name;
+    EXPECT_EQ(form_.ItemCount(kList), 1) << name;
+    std::filesystem::permissions(path, std::filesystem::perms{0644});
+  }
 }
 
 }  // namespace

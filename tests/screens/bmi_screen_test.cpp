@@ -155,7 +155,7 @@ TEST(BmiScale, LeavesABlackPenAndBlackText) {
     RecordingCanvas canvas;
     DrawBmiScale(canvas, bmi, {.sex = "men"});
     canvas.DrawLine({0, 0}, {1, 1});
-    canvas.DrawText({0, 0}, "x");
+    canvas.WriteText({0, 0}, "x");
     EXPECT_EQ(canvas.lines.back().pen, (Pen{kBlack, 1})) << bmi;
     EXPECT_EQ(canvas.texts.back().colour, kBlack) << bmi;
   }

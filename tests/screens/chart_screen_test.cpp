@@ -46,7 +46,7 @@ class ChartScreenTest : public ProgramTest {
     OpenDialog(200, login);
     login.Choose(700, "Ann");
     login.Press(1);
-    ASSERT_EQ(program_->session().user_name, "Ann");
+    ASSERT_EQ(program_->session().user.value().name(), "Ann");
     boxes_.TakeTexts();
   }
 };
@@ -258,7 +258,7 @@ class OrderCanvas final : public Canvas {
   void SetFont(const Font& font) override { font_ = font; }
   void SetTextColour(Colour) override {}
   void SetPen(const Pen& pen) override { pen_ = pen; }
-  void DrawText(Point, std::string_view) override { order += font_ == kDay ? "d" : ""; }
+  void WriteText(Point, std::string_view) override { order += font_ == kDay ? "d" : ""; }
   void DrawPolyline(std::span<const Point>) override { order += pen_.width == 3 ? "L" : ""; }
 
   std::string order;

@@ -109,7 +109,7 @@ TEST_F(CommandsTest, LogoutSaysByeAndShowsTheHomeScreenAtOnce) {
   EXPECT_EQ(boxes_.shown[0].text, "BYE, SEE YOU SOON!");
   EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
   EXPECT_EQ(boxes_.shown[0].icon, MessageIcon::kInformation);
-  EXPECT_EQ(program.session().user_name, "");
+  EXPECT_EQ(program.session().user, std::nullopt);
   EXPECT_EQ(program.session().screen, 0);
   EXPECT_EQ(window_.log, (Log{"paint now"}));
   EXPECT_TRUE(window_.menu.at(237));

@@ -20,7 +20,7 @@ constexpr int kCount = 182;
 constexpr Font kTitle{18, 700, true};
 constexpr Font kBody{14, 0, false};
 constexpr Font kLabel{12, 0, false};
-constexpr Font kRemark{10, 0, false};
+constexpr Font kRemark{11, 0, false, true};
 constexpr Pen kWhitePen{{255, 255, 255}, 1};
 
 const Texts kNoBmr = {

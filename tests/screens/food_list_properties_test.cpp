@@ -119,6 +119,25 @@ TEST_F(FoodListPropertiesTest, WhateverIsPressedTheFiguresAgree) {
   }
 }
 
+// However often the shown totals were rounded on the way.
+TEST_F(FoodListPropertiesTest, AClearedListLeavesAnEmptyDay) {
+  OpenCounter();
+  std::mt19937 random(18'032'026);
+  for (int round = 0; round < 10; ++round) {
+    for (int presses = 0; presses < 60; ++presses) {
+      if (random() % 3 == 0) {
+        RemoveSomething(random);
+      } else {
+        AddStrawberries(FormatNumber(40 + static_cast<double>(random() % 500'000) / 100, 6));
+      }
+    }
+    form_.Press(kClearList);
+    ASSERT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.") << "round " << round;
+    ASSERT_EQ(DayTest::Read("z1.ASC"), "0.");
+    ASSERT_EQ(DayTest::Read("z2.ASC"), "0.");
+  }
+}
+
 TEST_F(FoodListPropertiesTest, AddingAndTakingOffAgainChangesNothing) {
   OpenCounter();
   std::mt19937 random(5'032'026);

@@ -271,6 +271,42 @@ TEST_F(FoodListTest, NothingFallsBelowNothing) {
   EXPECT_EQ(Read("z2.ASC"), "0.");
 }
 
+// Six digits are shown of the totals that are taken off.
+TEST_F(FoodListTest, ClearingLeavesNoRestOfRounding) {
+  OpenCounter();
+  for (int i = 0; i < 3; ++i) AddStrawberries("1234.55");
+  EXPECT_EQ(Totals().at(1), "1037.02");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.");
+  EXPECT_EQ(Read("z1.ASC"), "0.");
+  EXPECT_EQ(Read("z2.ASC"), "0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;0.;0.;0.;0.;\r\n");
+  AddStrawberries("250");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.") << "what was left out went with the list";
+}
+
+TEST_F(FoodListTest, ClearingLeavesWhatWasEatenBeforeAsItWas) {
+  OpenCounter();
+  Write("bilans.ASC", "16.11.2026\r\n500.\r\n20.\r\n10.\r\n80.");
+  for (int i = 0; i < 3; ++i) AddStrawberries("1234.55");
+  form_.Press(kClearList);
+  EXPECT_EQ(Balance(), "16.11.2026 500. 20. 10. 80.");
+}
+
+// A product that a person has given less than nothing.
+TEST_F(FoodListTest, FoodOfLessThanNothingComesAndGoes) {
+  folder_.Write("data.txt", "fruits;fresh;sauna visit;100;-50;0;0;0;\r\n");
+  OpenCounter();
+  Choose("fruits", "fresh", "sauna visit");
+  form_.Press(kAdd);
+  EXPECT_EQ(Balance(), "16.11.2026 -50. 0. 0. 0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;-50.;0.;0.;0.;\r\n");
+  Remove("sauna visit  100.0g");
+  EXPECT_EQ(Balance(), "16.11.2026 0. 0. 0. 0.");
+  EXPECT_EQ(Read("wykoda.txt"), "16.11.2026;0.;0.;0.;0.;\r\n");
+}
+
 // A weight field that shows dashes has the values of no product.
 TEST_F(FoodListTest, AfterAChoiceOfCategoryNothingCanBeAdded) {
   OpenCounter();

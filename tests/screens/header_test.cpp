@@ -22,7 +22,7 @@ TEST(HeaderTest, SaysThatNobodyIsLoggedIn) {
 TEST(HeaderTest, NamesTheUserAndMovesTheDate) {
   RecordingCanvas canvas;
   SessionState session;
-  session.user_name = "Ann";
+  session.user = UserFolder::In("", "Ann");
   session.date_text = "5.3.2026";
   PaintHeader(canvas, session);
   EXPECT_EQ(canvas.texts, (std::vector<DrawnText>{{"user: ", {10, 2}, kHeaderFont, kBlack},

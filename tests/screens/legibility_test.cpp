@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/controls.h"
 #include "shell/screens.h"
 #include "tests/support/painted_states.h"
 
@@ -187,6 +188,22 @@ TEST_F(LegibilityTest, EverythingStandsOutFromThePicture) {
       << table;
 }
 
+// Smaller letters cannot be read. The day labels of a chart are prescribed.
+TEST_F(LegibilityTest, NothingIsDrawnInSmallerFontsThanCanBeRead) {
+  constexpr int kSmallest = 11;
+  constexpr Font kDayFont{10, 0, false};
+  WalkAll();
+  for (const auto& [name, canvas] : states_) {
+    for (const DrawnText& drawn : canvas.texts) {
+      const bool is_day_label = canvas.backgrounds.front() == "BCG" && drawn.font == kDayFont;
+      EXPECT_TRUE(is_day_label || drawn.font.height >= kSmallest) << name << ": " << drawn.text;
+    }
+  }
+  for (const ControlRow& control : MainWindowControls()) {
+    EXPECT_GE(ControlFont(control).height, kSmallest) << control.id;
+  }
+}
+
 TEST_F(LegibilityTest, ChartLinesStandApartFromTheGrid) {
   WalkAllCharts();
   ASSERT_FALSE(states_.empty());
@@ -207,12 +224,12 @@ TEST(MeasureTest, TakesTheWorstPixelUnderATextAndALine) {
   const Picture picture("bmi2.bmp");
   RecordingCanvas canvas;
   canvas.SetFont({14, 0, false});
-  canvas.DrawText({10, 2}, "on the band");
-  canvas.DrawText({290, 100}, "over the edge of a sheet");
-  canvas.DrawText({790, 100}, "outside");
-  canvas.DrawText({810, 100}, "outside");
-  canvas.DrawText({10, 100}, "  ");
-  canvas.DrawText({10, 9}, "over the edge of the band");
+  canvas.WriteText({10, 2}, "on the band");
+  canvas.WriteText({290, 100}, "over the edge of a sheet");
+  canvas.WriteText({790, 100}, "outside");
+  canvas.WriteText({810, 100}, "outside");
+  canvas.WriteText({10, 100}, "  ");
+  canvas.WriteText({10, 9}, "over the edge of the band");
   canvas.DrawLine({10, 100}, {300, 100});
   canvas.DrawLine({10, 100}, {330, 100});
   const std::vector<Mark> marks = MeasureMarks(canvas, picture);
@@ -250,6 +267,9 @@ TEST(MeasureTest, ExtentsAreNeverTooSmallAndHardlyTooLarge) {
     int width;
   };
   constexpr Line kLines[] = {
+      {{11, 0, false}, "OUT OF SCALE", 75},
+      {{11, 0, false, true}, "OUT OF SCALE", 65},
+      {{11, 0, false, true}, "eaten[kcal]", 45},
       {{12, 0, false}, "They`ll help You define proper relation between fat and body weight.", 327},
       {{14, 0, false}, "They`ll help You define proper relation between fat and body weight.", 371},
       {{14, 0, false}, "SCORE: OUT OF SCALE!!! - IT`S NOT ENOUGHT TO SAY YOU`RE FAT...!!!", 407},

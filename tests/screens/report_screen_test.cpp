@@ -228,7 +228,7 @@ TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
   Open(kOpenCalorie);
   form_.SetText(119, "new\r\n");
   boxes_.while_open = [&] {
-    AppendToFile(path, "appended\n");
+    ASSERT_TRUE(AppendToFile(path, "appended\n"));
     Repaint();
   };
   form_.Press(kSave);
@@ -329,6 +329,111 @@ TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
   for (const ReportOnScreen& report : kReports) EXPECT_EQ(Read(report.file_name), "old\r\n");
+}
+
+class UnsavedReportTest : public ReportScreenTest {
+ protected:
+  // Ann has typed over a report that nobody may write, and pressed "Save changes".
+  void TypeWhatCannotBeSaved() {
+    LogIn();
+    path_ = Write("mirvo.ASC", "old\r\n");
+    std::filesystem::permissions(path_, std::filesystem::perms{0444});
+    Open(kOpenCalorie);
+    form_.SetText(119, "typed");
+    form_.Press(kSave);
+    Repaint();
+    Repaint();
+  }
+  void LetItBeWritten() const { std::filesystem::permissions(path_, std::filesystem::perms{0644}); }
+
+  std::string path_;
+};
+
+TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
+  TypeWhatCannotBeSaved();
+  EXPECT_EQ(Shown(), "typed");
+  form_.SetText(119, "typed on");
+  Repaint();
+  EXPECT_EQ(Shown(), "typed on");
+  form_.Press(kSave);
+  Repaint();
+  EXPECT_EQ(Shown(), "typed on");
+  EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
+  LetItBeWritten();
+  form_.Press(kSave);
+  EXPECT_EQ(Read("mirvo.ASC"), "typed on");
+  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
+  form_.SetText(119, "changed");
+  Repaint();
+  EXPECT_EQ(Shown(), "typed on") << "saved: a repaint reloads again";
+}
+
+TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
+  TypeWhatCannotBeSaved();
+  LetItBeWritten();
+  AppendToFile(path_, "a record\n");
+  Repaint();
+  EXPECT_EQ(Shown(), "typed");
+  form_.Press(kSave);
+  EXPECT_EQ(Read("mirvo.ASC"), "typed");
+  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "a record\r\n");
+}
+
+TEST_F(UnsavedReportTest, StaysThroughARepaintUnderTheBox) {
+  LogIn();
+  path_ = Write("mirvo.ASC", "old\r\n");
+  std::filesystem::permissions(path_, std::filesystem::perms{0444});
+  Open(kOpenCalorie);
+  form_.SetText(119, "typed");
+  boxes_.while_open = [&] { Repaint(); };
+  form_.Press(kSave);
+  Repaint();
+  EXPECT_EQ(Shown(), "typed");
+}
+
+TEST_F(UnsavedReportTest, GoesWhenTheReportIsReloadedFromTheMenu) {
+  TypeWhatCannotBeSaved();
+  Open(kOpenCalorie);
+  EXPECT_EQ(Shown(), "old\r\n");
+  form_.SetText(119, "changed");
+  Repaint();
+  EXPECT_EQ(Shown(), "old\r\n");
+}
+
+TEST_F(UnsavedReportTest, GoesWhenTheReportIsCleared) {
+  TypeWhatCannotBeSaved();
+  form_.Press(kClear);
+  Repaint();
+  EXPECT_EQ(Shown(), "typed") << "nor could it be cleared";
+  LetItBeWritten();
+  form_.Press(kClear);
+  Repaint();
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(UnsavedReportTest, IsNotShownInAnotherReportOrToAnotherUser) {
+  TypeWhatCannotBeSaved();
+  Open(210);
+  EXPECT_EQ(Shown(), "");
+  Open(kOpenCalorie);
+  EXPECT_EQ(Shown(), "old\r\n");
+  TypeWhatCannotBeSaved();
+  program_->OnCommand(201, kButtonClicked);
+  LogIn("Bob");
+  Open(kOpenCalorie);
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(ReportScreenTest, ClearingTakesTheRestAndItsLineWithIt) {
+  LogIn();
+  Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
+  Open(kOpenCalorie);
+  form_.Press(kSave);
+  EXPECT_EQ(Repaint().texts.size(), 5U);
+  form_.Press(kClear);
+  EXPECT_EQ(Repaint().texts.size(), 4U);
+  EXPECT_EQ(Read("mirvo.ASC"), "");
+  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
 }
 
 }  // namespace

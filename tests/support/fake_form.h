@@ -48,12 +48,15 @@ class FakeForm final : public Form {
   // Of a multi-line edit, counted from 0. It shows kVisibleLines of them.
   int FirstVisibleLine(int id) const;
   static constexpr int kVisibleLines = 30;
+  // The fields in which a typed comma is a point.
+  const std::set<int>& NumberFields() const { return number_fields_; }
   // Moves of the focus and closings, in order.
   const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
   void SetText(int id, std::string_view text) override;
   void LimitText(int id, std::size_t limit) override;
+  void TakeNumbers(int id) override { number_fields_.insert(id); }
   int ItemCount(int id) const override;
   void FillItems(int id, std::span<const std::string_view> texts) override;
   void AddItems(int id, std::span<const std::string_view> texts) override;
@@ -93,6 +96,7 @@ class FakeForm final : public Form {
   std::map<int, Control> controls_;
   int focused_ = 0;
   int default_button_ = kOkButton;
+  std::set<int> number_fields_;
   std::vector<std::string> log_;
   Listener listener_;
 };

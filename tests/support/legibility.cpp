@@ -22,6 +22,7 @@ constexpr LetterWidth kLetterWidths[] = {
 };
 constexpr int kOtherWidth = 556;
 constexpr int kBoldPercent = 107;
+constexpr int kNarrowPercent = 86;  // five sixths and what hinting adds
 constexpr int kRegularWeight = 400;
 // For what hinting adds at some sizes: measured on whole lines, at most five in a hundred.
 constexpr int kSafetyPercent = 105;
@@ -108,6 +109,7 @@ int WidestExtent(const Font& font, std::string_view text) {
   int width = 0;
   for (const char letter : text) width += (WidthOf(letter) * SizeOf(font.height) + 510) / 1000;
   if (font.weight > kRegularWeight) width = width * kBoldPercent / 100;
+  if (font.narrow) width = width * kNarrowPercent / 100;
   return (width * kSafetyPercent + 99) / 100;
 }
 

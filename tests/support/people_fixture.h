@@ -53,7 +53,10 @@ class PeopleTest : public ProgramTest {
     return boxes_.TakeTexts();
   }
   std::string Registry() const { return folder_.Read("users.ASC"); }
-  const std::string& User() const { return program_->session().user_name; }
+  std::string User() const {
+    const std::optional<UserFolder>& user = program_->session().user;
+    return user ? user->name() : "";
+  }
 
   FakeForm users_;
   FakeForm login_;

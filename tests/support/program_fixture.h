@@ -37,15 +37,30 @@ class FakeMainWindow final : public MainWindow {
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
+  std::optional<std::string> ChooseFile(const FileKind& kind) override {
+    log.push_back("choose " + std::string(kind.patterns));
+    return file_to_choose;
+  }
+  bool OpenGuideFile(std::string_view name) override {
+    log.push_back("guide " + std::string(name));
+    return name == guide;
+  }
   void OpenHelp(std::string_view file_name) override {
     log.push_back("help " + std::string(file_name));
+  }
+  [[nodiscard]] bool OpenInBrowser(const std::string& path) override {
+    log.push_back("browse " + path);
+    return has_browser;
   }
 
   // The dialog opened last has these controls.
   void UseForm(FakeForm& form);
 
+  bool has_browser = true;
   std::vector<std::string> log;
+  std::optional<std::string> file_to_choose;  // what the person will choose
   std::function<void()> on_paint_now;
+  std::string guide;               // the file that can be opened as the guide
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::shared_ptr<Dialog> opened;  // the last one
 

@@ -43,7 +43,7 @@ class RecordingCanvas final : public Canvas {
   void SetFont(const Font& font) override { font_ = font; }
   void SetTextColour(Colour colour) override { text_colour_ = colour; }
   void SetPen(const Pen& pen) override { pen_ = pen; }
-  void DrawText(Point at, std::string_view text) override {
+  void WriteText(Point at, std::string_view text) override {
     texts.push_back({std::string(text), at, font_, text_colour_});
   }
   void DrawPolyline(std::span<const Point> points) override {

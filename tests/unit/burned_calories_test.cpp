@@ -62,7 +62,7 @@ class BurnedTotalTest : public testing::Test {
  protected:
   BurnedTotalTest() {
     std::filesystem::create_directory(folder_.path() + "Ann");
-    session_.user_name = "Ann";
+    session_.user = UserFolder::In(folder_.path(), "Ann");
     session_.base_folder = folder_.path();
     session_.date_text = "7.3.2008";
   }
@@ -249,7 +249,7 @@ TEST_F(BurnedTotalTest, ClearEmptiesTheFile) {
 TEST_F(BurnedTotalTest, EveryUserHasATotal) {
   std::filesystem::create_directory(folder_.path() + "Bob");
   total_.Add("9");
-  session_.user_name = "Bob";
+  session_.user = UserFolder::In(folder_.path(), "Bob");
   EXPECT_EQ(total_.RefreshForToday(), "");
   total_.Add("5");
   EXPECT_EQ(File(), "7.3.2008;9.;");
@@ -258,7 +258,7 @@ TEST_F(BurnedTotalTest, EveryUserHasATotal) {
 
 // A repaint behind the login dialog finds nobody: no file comes of it.
 TEST_F(BurnedTotalTest, LookingWithoutAUserMakesNoFile) {
-  session_.user_name.clear();
+  session_.user.reset();
   EXPECT_EQ(total_.RefreshForToday(), "");
   EXPECT_EQ(total_.Refresh(), "");
   EXPECT_EQ(folder_.Names(), Names{"Ann"});
@@ -332,7 +332,7 @@ TEST_F(BurnedTotalTest, WhatCannotBeReadIsNotOverwritten) {
 }
 
 TEST_F(BurnedTotalTest, WithoutTheFolderNothingIsKept) {
-  session_.user_name = "Zoe";
+  session_.user = UserFolder::In(folder_.path(), "Zoe");
   EXPECT_EQ(total_.RefreshForToday(), "");
   EXPECT_EQ(total_.Add("9"), "9.");
   EXPECT_EQ(total_.RefreshForToday(), "");

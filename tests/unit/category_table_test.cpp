@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -39,30 +40,20 @@ TEST(CategoryTableTest, HoldsTheMainCategoriesAndTheirSubcategoriesInOrder) {
   std::vector<std::pair<std::string, Subcategories>> actual;
   for (const CategoryRecord& row : BuiltInCategories()) {
     Subcategories used;
-    for (const std::string_view slot : row.subcategories) {
-      if (!IsUnusedSlot(slot)) used.emplace_back(slot);
+    for (const std::optional<std::string_view>& slot : row.subcategories) {
+      if (slot) used.emplace_back(*slot);
     }
     actual.emplace_back(row.main_category, used);
   }
   EXPECT_EQ(actual, expected);
 }
 
-TEST(CategoryTableTest, MarksUnusedSlotsAndKeepsTheEmptyNameOfGrainPreservesInTheNinth) {
+TEST(CategoryTableTest, KeepsTheEmptyNameOfGrainPreservesInTheNinthSlot) {
   const CategoryRecord& grain = BuiltInCategories()[3];
   for (std::size_t slot = 5; slot < grain.subcategories.size(); ++slot) {
-    if (slot == 8) {
-      EXPECT_EQ(grain.subcategories[slot], "");
-      EXPECT_FALSE(IsUnusedSlot(grain.subcategories[slot]));
-    } else {
-      EXPECT_EQ(grain.subcategories[slot], "0");
-      EXPECT_TRUE(IsUnusedSlot(grain.subcategories[slot]));
-    }
+    EXPECT_EQ(grain.subcategories[slot].has_value(), slot == 8) << slot;
   }
-}
-
-TEST(CategoryTableTest, TellsTheMarkerFromATextThatReadsLikeIt) {
-  const std::string zero = "0";
-  EXPECT_FALSE(IsUnusedSlot(zero));
+  EXPECT_EQ(grain.subcategories[8], "");
 }
 
 }  // namespace

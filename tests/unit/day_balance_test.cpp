@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,12 +36,14 @@ class DayBalanceTest : public testing::Test {
   std::string After(std::string_view bytes, const std::string& date = "5.3.2026") {
     session_.date_text = date;
     Write("bilans.ASC", bytes);
-    day_.StartDayIfNew();
+    EXPECT_TRUE(day_.StartDayIfNew());
     return Read("bilans.ASC");
   }
 
   TemporaryFolder folder_;
-  SessionState session_{.user_name = "Ann", .base_folder = folder_.path(), .date_text = "5.3.2026"};
+  SessionState session_{.user = UserFolder::In(folder_.path(), "Ann"),
+                        .base_folder = folder_.path(),
+                        .date_text = "5.3.2026"};
   DayBalance day_{session_};
 };
 
@@ -90,10 +93,10 @@ TEST_F(DayBalanceTest, LongAndBinaryFilesAreOtherDays) {
 }
 
 TEST_F(DayBalanceTest, WithoutTheFolderNothingHappens) {
-  session_.user_name = "nobody";
+  session_.user = UserFolder::In(folder_.path(), "nobody");
   EXPECT_FALSE(day_.StartDayIfNew());
-  EXPECT_FALSE(day_.Change({1, 2, 3, 4}));
-  EXPECT_FALSE(day_.Change({1, 2, 3, 4}, DayExchanges{1, 2}));
+  EXPECT_FALSE(day_.Add({1, 2, 3, 4}));
+  EXPECT_FALSE(day_.Add({1, 2, 3, 4}, DayExchanges{1, 2}));
   EXPECT_FALSE(day_.Clear());
   EXPECT_EQ(day_.ReadTotals(), std::nullopt);
   EXPECT_EQ(day_.ReadExchanges(), DayExchanges{});
@@ -110,8 +113,8 @@ TEST_F(DayBalanceTest, WithoutOneOfTheFilesTheDayStaysAsItIs) {
     const std::string path = folder_.path() + "Ann/" + name;
     std::filesystem::remove(path);
     std::filesystem::create_symlink(path, path);
-    EXPECT_FALSE(day_.Change({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
-    EXPECT_EQ(day_.Change({}), name != "bilans.ASC") << name;
+    EXPECT_FALSE(day_.Add({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
+    EXPECT_EQ(day_.Add({}), name != "bilans.ASC") << name;
     EXPECT_TRUE(std::filesystem::is_symlink(path)) << name;
     std::filesystem::remove(path);
     for (const std::string& other : names) {
@@ -124,20 +127,23 @@ TEST_F(DayBalanceTest, WithoutOneOfTheFilesTheDayStaysAsItIs) {
   EXPECT_EQ(NamesOfFiles().size(), 3U) << "and the series";
 }
 
-TEST_F(DayBalanceTest, WhatIsWriteProtectedStaysAndIsSaid) {
-  for (const char* const name : {"bilans.ASC", "z1.ASC", "z2.ASC"}) {
-    Write("bilans.ASC", "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0.");
-    Write("z1.ASC", "8.");
-    Write("z2.ASC", "1.7");
+TEST_F(DayBalanceTest, WhatIsWriteProtectedKeepsTheOthersAsTheyAre) {
+  const std::map<std::string, std::string> files = {
+      {"bilans.ASC", "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0."},
+      {"z1.ASC", "8."},
+      {"z2.ASC", "1.7"},
+      {"wykoda.txt", "5.3.2026;10.;0.;0.;0.;\r\n"}};
+  for (const auto& [name, bytes] : files) Write(name, bytes);
+  for (const auto& [name, bytes] : files) {
     const std::string path = folder_.path() + "Ann/" + name;
-    const std::string bytes = Read(name);
     std::filesystem::permissions(path, std::filesystem::perms{0444});
-    EXPECT_FALSE(day_.Change({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
-    EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0.") << name;
+    EXPECT_FALSE(day_.Add({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
+    EXPECT_FALSE(day_.TakeOff({1, 2, 3, 4}, DayExchanges{1, 2})) << name;
     EXPECT_FALSE(day_.Clear()) << name;
-    EXPECT_EQ(Read(name), bytes);
-    std::filesystem::remove(path);
+    for (const auto& [other, kept] : files) EXPECT_EQ(Read(other), kept) << name;
+    std::filesystem::permissions(path, std::filesystem::perms{0644});
   }
+  EXPECT_EQ(NamesOfFiles().size(), files.size());
 }
 
 TEST_F(DayBalanceTest, TheEnergyOfAnyDayIsTheSecondLine) {
@@ -153,7 +159,7 @@ TEST_F(DayBalanceTest, ADayThatCannotBeStartedWholeIsNotStarted) {
   std::filesystem::create_symlink(path, path);
   EXPECT_FALSE(day_.StartDayIfNew());
   EXPECT_EQ(Read("bilans.ASC"), "4.3.2026\r\n100.\r\n1.\r\n2.\r\n3.");
-  EXPECT_FALSE(day_.Change({1, 2, 3, 4}));
+  EXPECT_FALSE(day_.Add({1, 2, 3, 4}));
   EXPECT_EQ(Read("bilans.ASC"), "4.3.2026\r\n100.\r\n1.\r\n2.\r\n3.");
   std::filesystem::remove(path);
   EXPECT_TRUE(day_.StartDayIfNew());
@@ -184,7 +190,7 @@ TEST_F(DayBalanceTest, TheFirstChangeOfANewDayLeavesExactlyThatFood) {
   Write("bilans.ASC", "4.3.2026\r\n100.\r\n1.5\r\n2.\r\n30.");
   Write("z1.ASC", "3.");
   Write("z2.ASC", "0.24");
-  EXPECT_TRUE(day_.Change({70, 1.75, 1, 13.5}, DayExchanges{1.35, 0.16}));
+  EXPECT_TRUE(day_.Add({70, 1.75, 1, 13.5}, DayExchanges{1.35, 0.16}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n70.\r\n1.75\r\n1.\r\n13.5");
   EXPECT_EQ(Read("z1.ASC"), "1.35");
   EXPECT_EQ(Read("z2.ASC"), "0.16");
@@ -194,53 +200,77 @@ TEST_F(DayBalanceTest, TheFirstChangeOfANewDayLeavesExactlyThatFood) {
 TEST_F(DayBalanceTest, AnEmptyBalanceIsANewDay) {
   Write("bilans.ASC", "");
   Write("z1.ASC", "3.");
-  EXPECT_TRUE(day_.Change({70, 1.75, 1, 13.5}));
+  EXPECT_TRUE(day_.Add({70, 1.75, 1, 13.5}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n70.\r\n1.75\r\n1.\r\n13.5");
   EXPECT_EQ(Read("z1.ASC"), "");
 }
 
 TEST_F(DayBalanceTest, ChangesAddUp) {
-  EXPECT_TRUE(day_.Change({70, 1.75, 1, 13.5}));
-  EXPECT_TRUE(day_.Change({1780.5, 70.75, 59.25, 217.25}));
+  EXPECT_TRUE(day_.Add({70, 1.75, 1, 13.5}));
+  EXPECT_TRUE(day_.Add({1780.5, 70.75, 59.25, 217.25}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n1850.5\r\n72.5\r\n60.25\r\n230.75");
   EXPECT_EQ(Read("wykoda.txt"), "5.3.2026;1850.5;72.5;60.25;230.75;\r\n");
-  EXPECT_TRUE(day_.Change({-1780.5, -70.75, -59.25, -217.25}));
+  EXPECT_TRUE(day_.TakeOff({1780.5, 70.75, 59.25, 217.25}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n70.\r\n1.75\r\n1.\r\n13.5");
 }
 
 TEST_F(DayBalanceTest, NoFigureFallsBelowNothing) {
-  EXPECT_TRUE(day_.Change({70, 1.75, 1, 13.5}));
-  EXPECT_TRUE(day_.Change({-70.5, -1.75, -2, -13}));
+  EXPECT_TRUE(day_.Add({70, 1.75, 1, 13.5}));
+  EXPECT_TRUE(day_.TakeOff({70.5, 1.75, 2, 13}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.\r\n0.\r\n0.5");
   EXPECT_EQ(Read("wykoda.txt"), "5.3.2026;0.;0.;0.;0.5;\r\n");
-  EXPECT_TRUE(day_.Change({}, DayExchanges{1, 2}));
-  EXPECT_TRUE(day_.Change({}, DayExchanges{-1.5, -1.5}));
+  EXPECT_TRUE(day_.Add({}, DayExchanges{1, 2}));
+  EXPECT_TRUE(day_.TakeOff({}, DayExchanges{1.5, 1.5}));
   EXPECT_EQ(Read("z1.ASC"), "0.");
   EXPECT_EQ(Read("z2.ASC"), "0.5");
 }
 
-// Eight digits are written: taking off again what was added can leave a rest in the last of them.
-// Written as 1.2e-05 it would be read back as 1.2 by who reads eight characters.
 // It would be read as nothing, too.
 TEST_F(DayBalanceTest, ATotalBeyondEveryRangeIsWrittenAsNothing) {
   Write("bilans.ASC", "5.3.2026\r\n1e999\r\n1e308\r\n3\r\n4");
   Write("z1.ASC", "1e999");
-  EXPECT_TRUE(day_.Change({1, 1e308, 1, 1}, DayExchanges{1, 1}));
+  EXPECT_TRUE(day_.Add({1, 1e308, 1, 1}, DayExchanges{1, 1}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.\r\n4.\r\n5.");
   EXPECT_EQ(Read("z1.ASC"), "0.");
 }
 
-TEST_F(DayBalanceTest, ARestOfRoundingIsNothing) {
-  Write("bilans.ASC", "5.3.2026\r\n0.00004\r\n0.00011\r\n0.\r\n0.");
-  Write("z1.ASC", "0.00004");
-  EXPECT_TRUE(day_.Change({}));
-  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.00011\r\n0.\r\n0.");
-  EXPECT_TRUE(day_.Change({}, DayExchanges{}));
+TEST_F(DayBalanceTest, AddingSumsPlainlyBelowNothingToo) {
+  EXPECT_TRUE(day_.Add({-50, 0.0005, -0.0005, 1}, DayExchanges{-2.5, 1}));
+  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n-50.\r\n0.0005\r\n-0.0005\r\n1.");
+  EXPECT_EQ(Read("z1.ASC"), "-2.5");
+  EXPECT_EQ(Read("wykoda.txt"), "5.3.2026;-50.;0.0005;-0.0005;1.;\r\n");
+  EXPECT_TRUE(day_.Add({20, 0, 0, -3}, DayExchanges{0.5, -4}));
+  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n-30.\r\n0.0005\r\n-0.0005\r\n-2.");
+  EXPECT_EQ(Read("z1.ASC"), "-2.");
+  EXPECT_EQ(Read("z2.ASC"), "-3.");
+  EXPECT_TRUE(day_.TakeOff({-30, 0, 0, -2}, DayExchanges{-2, -2.5}));
+  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.\r\n0.\r\n0.");
   EXPECT_EQ(Read("z1.ASC"), "0.");
+  EXPECT_EQ(Read("z2.ASC"), "0.");
+}
+
+// Eight digits are written: taking off again what was added can leave a rest in the last of them.
+TEST_F(DayBalanceTest, ARestOfRoundingIsNothing) {
+  Write("bilans.ASC", "5.3.2026\r\n0.0009\r\n0.0011\r\n12345.678\r\n12345.678");
+  Write("z1.ASC", "0.00009");
+  Write("z2.ASC", "0.00011");
+  EXPECT_TRUE(day_.TakeOff({0, 0, 12345.669, 12345.667}, DayExchanges{}));
+  EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n0.\r\n0.0011\r\n0.\r\n0.011");
+  EXPECT_EQ(Read("z1.ASC"), "0.");
+  EXPECT_EQ(Read("z2.ASC"), "0.00011");
+}
+
+// Written as 1.2345678e-05 it would be read back as 1.23456 by who reads eight characters.
+TEST_F(DayBalanceTest, AnExchangeHasNoExponent) {
+  EXPECT_TRUE(day_.Add({}, DayExchanges{0.000012345678, -0.000012345678}));
+  EXPECT_EQ(Read("z1.ASC"), "0.");
+  EXPECT_EQ(Read("z2.ASC"), "0.");
+  EXPECT_TRUE(day_.Add({}, DayExchanges{0.00012345678, 0}));
+  EXPECT_EQ(day_.ReadExchanges(), (DayExchanges{0.000123, 0}));
 }
 
 TEST_F(DayBalanceTest, TotalsHaveEightDigitsInTheBalanceAndSixInTheSeries) {
-  EXPECT_TRUE(day_.Change({1234.567891234, 0.1, 0.2, 12345678.9}));
+  EXPECT_TRUE(day_.Add({1234.567891234, 0.1, 0.2, 12345678.9}));
   EXPECT_EQ(Read("bilans.ASC"), "5.3.2026\r\n1234.5679\r\n0.1\r\n0.2\r\n12345679.");
   EXPECT_EQ(Read("wykoda.txt"), "5.3.2026;1234.57;0.1;0.2;1.23457e+07;\r\n");
 }
@@ -250,7 +280,7 @@ TEST_F(DayBalanceTest, OfAnExchangeFileEightCharactersCount) {
   Write("z1.ASC", "1.23456789");
   Write("z2.ASC", "\r\n5");
   EXPECT_EQ(day_.ReadExchanges(), (DayExchanges{1.234567, 0}));
-  EXPECT_TRUE(day_.Change({}, DayExchanges{1, 1}));
+  EXPECT_TRUE(day_.Add({}, DayExchanges{1, 1}));
   EXPECT_EQ(Read("z1.ASC"), "2.234567");
   EXPECT_EQ(Read("z2.ASC"), "1.");
 }
@@ -259,7 +289,7 @@ TEST_F(DayBalanceTest, MissingAndJunkExchangeFilesCountAsNothing) {
   Write("bilans.ASC", "5.3.2026");
   Write("z2.ASC", "junk\0 5"s);
   EXPECT_EQ(day_.ReadExchanges(), DayExchanges{});
-  EXPECT_TRUE(day_.Change({}, DayExchanges{1.5, 2.5}));
+  EXPECT_TRUE(day_.Add({}, DayExchanges{1.5, 2.5}));
   EXPECT_EQ(Read("z1.ASC"), "1.5");
   EXPECT_EQ(Read("z2.ASC"), "2.5");
 }

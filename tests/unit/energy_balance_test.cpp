@@ -1,4 +1,4 @@
-#include "activity/energy_balance.h"
+#include "food/energy_balance.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -132,6 +132,42 @@ TEST(FoodListTest, TakingOffLeavesNoRestOfWhatWasAdded) {
   EXPECT_EQ(totals.fat, 0.4F);
 }
 
+// Three times 345.674 kcal; 1037.022 has seven digits.
+TEST(FoodListTest, WhatSixDigitsLeaveOutIsKnown) {
+  const DayTotals food = {345.674, 0.05, 8, 5};
+  TotalTexts shown;
+  DayTotals left_out;
+  const auto change = [&](const DayTotals& by, const TotalTexts& after) {
+    left_out = LeftOutAfter(left_out, shown, by, after);
+    shown = after;
+  };
+  change(food, {"", "345.674", "0.", "8.", "5."});
+  change(food, {"", "691.348", "0.", "16.", "10."});
+  EXPECT_NEAR(left_out.kcal, 0, 1e-9);
+  change(food, {"", "1037.02", "0.", "24.", "15."});
+  EXPECT_NEAR(left_out.kcal, 0.002, 1e-9);
+  EXPECT_EQ(left_out.protein, 0.0) << "a trace is no total";
+  EXPECT_EQ(left_out.fat, 0.0);
+  change(-food, {"", "691.346", "0.", "16.", "10."});
+  EXPECT_NEAR(left_out.kcal, 0.002, 1e-9);
+  change(-food, {"", "345.672", "0.", "8.", "5."});
+  change(-food, {"", "0.", "0.", "0.", "0."});
+  EXPECT_EQ(left_out, DayTotals{});
+}
+
+// A weight of tons typed by mistake swallows the figure before it; taking it off brings that back.
+TEST(FoodListTest, WhatAHugeTotalSwallowsIsNotForgotten) {
+  DayTotals left_out =
+      LeftOutAfter({}, {"", "23.456", "", "", ""}, {5.6e7, 0, 0, 0}, {"", "5.6e+07", "", "", ""});
+  EXPECT_NEAR(left_out.kcal, 23.456, 1e-6);
+  left_out = LeftOutAfter(left_out, {"", "5.6e+07", "", "", ""}, {-5.6e7, 0, 0, 0},
+                          {"", "0.", "", "", ""});
+  EXPECT_NEAR(left_out.kcal, 23.456, 1e-6);
+  left_out = LeftOutAfter(left_out, {}, {1e308, 0, 0, 0}, {"", "inf", "", "", ""});
+  left_out = LeftOutAfter(left_out, {}, {1e308, 0, 0, 0}, {"", "inf", "", "", ""});
+  EXPECT_EQ(left_out.kcal, 0.0);
+}
+
 TEST(FoodListTest, TotalsBelowATraceAreNothing) {
   ListTotals totals = TotalsAfter({}, 5, {0.0999, 0.1, 0.09, -5});
   EXPECT_EQ(totals.weight, 5.0F);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -18,7 +19,7 @@ namespace {
 
 using Filing = std::pair<std::string, std::string>;  // main category, subcategory
 
-class LookupTest : public testing::TestWithParam<Layout> {};
+class LookupTest : public testing::TestWithParam<Matching> {};
 
 // Of two rows with one name the later stands for both.
 TEST_P(LookupTest, ChoosingARowGivesThatRow) {
@@ -52,7 +53,7 @@ TEST_P(LookupTest, AnEqualNameGivesTheFoodThatIsMeant) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BothPickers, LookupTest,
-                         testing::Values(Layout::kCounter, Layout::kOverview));
+                         testing::Values(Matching::kCounter, Matching::kOverview));
 
 // Taking a food off today's list finds it by its first four and last two characters and its length.
 TEST(ProductLookupTest, RemovalFromTheListMistakesNoRowForAnother) {
@@ -74,7 +75,7 @@ Filing ListedUnder(const Filing& filing) {
   const FoodTable food;
   for (const CategoryRecord& category : food.categories) {
     if (category.main_category != main_category) continue;
-    for (const std::string_view slot : category.subcategories) {
+    for (const std::optional<std::string_view>& slot : category.subcategories) {
       if (slot == filing.second) return {main_category, filing.second};
     }
   }

@@ -24,10 +24,10 @@ constexpr ProductRecord Row(std::string_view main_category, std::string_view sub
 // A table of the built-in categories with products of the test's own.
 class ProductRulesTest : public testing::Test {
  protected:
-  Names Listed(Layout layout, std::span<const ProductRecord> products,
+  Names Listed(Matching matching, std::span<const ProductRecord> products,
                std::string_view main_category, std::string_view subcategory) {
     food_.products = products;
-    return ListProducts(food_, layout, main_category, subcategory);
+    return ListProducts(food_, matching, main_category, subcategory);
   }
   void LoadUserProducts(std::string_view lines) {
     food_.user_products.Load(folder_.Write("data.txt", lines));
@@ -50,39 +50,38 @@ TEST(LooseMatchTest, ReadsNulOutsideTheText) {
 }
 
 TEST_F(ProductRulesTest, OffersTheSubcategoriesOfTheChosenCategoryOnly) {
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
     for (const CategoryRecord& category : food_.categories) {
       Names expected;
-      for (const std::string_view slot : category.subcategories) {
-        if (layout == Layout::kCounter ? slot.size() > 1 : !IsUnusedSlot(slot)) {
-          expected.push_back(slot);
+      for (const std::optional<std::string_view>& slot : category.subcategories) {
+        if (slot && (matching == Matching::kOverview || slot->size() > 1)) {
+          expected.push_back(*slot);
         }
       }
-      EXPECT_EQ(ListSubcategories(food_, layout, category.main_category), expected);
+      EXPECT_EQ(ListSubcategories(food_, matching, category.main_category), expected);
     }
-    EXPECT_EQ(ListSubcategories(food_, layout, ""), Names{});
-    EXPECT_EQ(ListSubcategories(food_, layout, "no such category"), Names{});
+    EXPECT_EQ(ListSubcategories(food_, matching, ""), Names{});
+    EXPECT_EQ(ListSubcategories(food_, matching, "no such category"), Names{});
   }
 }
 
 TEST_F(ProductRulesTest, GrainPreservesOfferAnEmptyEntryOnTheOverviewOnly) {
-  EXPECT_EQ(ListSubcategories(food_, Layout::kCounter, "grain preserves"),
+  EXPECT_EQ(ListSubcategories(food_, Matching::kCounter, "grain preserves"),
             (Names{"flour", "groats", "rice", "breakfast", "other"}));
-  EXPECT_EQ(ListSubcategories(food_, Layout::kOverview, "grain preserves"),
+  EXPECT_EQ(ListSubcategories(food_, Matching::kOverview, "grain preserves"),
             (Names{"flour", "groats", "rice", "breakfast", "other", ""}));
 }
 
-TEST_F(ProductRulesTest, ASlotIsLeftOutForItsLengthOrForBeingTheUnusedOne) {
-  const std::string own_zero = "0";  // reads as an unused slot does and is none
+TEST_F(ProductRulesTest, ASlotIsLeftOutForItsLengthOrForHoldingNothing) {
   CategoryRecord category = {.main_category = "poultry", .subcategories = {}};
-  category.subcategories.fill(kUnusedSlot);
   category.subcategories[1] = "ab";
   category.subcategories[2] = "a";
-  category.subcategories[4] = own_zero;
+  category.subcategories[4] = "0";
   category.subcategories[11] = "abc";
   food_.categories = {&category, 1};
-  EXPECT_EQ(ListSubcategories(food_, Layout::kCounter, "poultry"), (Names{"ab", "abc"}));
-  EXPECT_EQ(ListSubcategories(food_, Layout::kOverview, "poultry"), (Names{"ab", "a", "0", "abc"}));
+  EXPECT_EQ(ListSubcategories(food_, Matching::kCounter, "poultry"), (Names{"ab", "abc"}));
+  EXPECT_EQ(ListSubcategories(food_, Matching::kOverview, "poultry"),
+            (Names{"ab", "a", "0", "abc"}));
 }
 
 TEST_F(ProductRulesTest, CategoriesAreComparedFromBothEnds) {
@@ -92,13 +91,12 @@ TEST_F(ProductRulesTest, CategoriesAreComparedFromBothEnds) {
        {"pouXtry", "poulXry", "pouttry", "poultry", "poultryman", "poultr"}) {
     CategoryRecord& category = categories.emplace_back();
     category.main_category = name;
-    category.subcategories.fill(kUnusedSlot);
     category.subcategories[3] = name;
   }
   food_.categories = categories;
-  EXPECT_EQ(ListSubcategories(food_, Layout::kOverview, "poultry"),
+  EXPECT_EQ(ListSubcategories(food_, Matching::kOverview, "poultry"),
             (Names{"pouXtry", "pouttry", "poultry"}));
-  EXPECT_EQ(ListSubcategories(food_, Layout::kCounter, "poultry"), (Names{"poultry"}));
+  EXPECT_EQ(ListSubcategories(food_, Matching::kCounter, "poultry"), (Names{"poultry"}));
 }
 
 TEST_F(ProductRulesTest, BuiltInSubcategoriesAreComparedAtFewPositions) {
@@ -108,9 +106,9 @@ TEST_F(ProductRulesTest, BuiltInSubcategoriesAreComparedAtFewPositions) {
       Row("dairy", "cottaXX XXXXXe", "counter"),  Row("dairy", "cotXXXX XXXese", "overview"),
       Row("dairy", "cottage cheeseX", "longer"),  Row("dairy", "cottage chees", "shorter"),
       Row("dXiry", "cottage cheese", "category"), Row("daXXX", "cottage cheese", "two letters")};
-  EXPECT_EQ(Listed(Layout::kCounter, products, "dairy products", "cottage cheese"),
+  EXPECT_EQ(Listed(Matching::kCounter, products, "dairy products", "cottage cheese"),
             (Names{"exact", "counter", "two letters"}));
-  EXPECT_EQ(Listed(Layout::kOverview, products, "dairy products", "cottage cheese"),
+  EXPECT_EQ(Listed(Matching::kOverview, products, "dairy products", "cottage cheese"),
             (Names{"exact", "overview", "two letters"}));
 }
 
@@ -128,8 +126,8 @@ TEST_F(ProductRulesTest, UserProductsAreComparedAtOtherPositions) {
       "vegetables;fre;shorter sub;100;1;1;1;1;\n");
   const Names expected = {"exact", "middle", "loose end", "longer", "shorter sub"};
   // "vegetablesX" has p = 11: 5 and 3, and "vegetables" ends by 11.
-  EXPECT_EQ(ListProducts(food_, Layout::kCounter, "vegetables", "fresh"), expected);
-  EXPECT_EQ(ListProducts(food_, Layout::kOverview, "vegetables", "fresh"), expected);
+  EXPECT_EQ(ListProducts(food_, Matching::kCounter, "vegetables", "fresh"), expected);
+  EXPECT_EQ(ListProducts(food_, Matching::kOverview, "vegetables", "fresh"), expected);
 }
 
 TEST_F(ProductRulesTest, TheOverviewComparesUserSubcategoriesAtOneMorePosition) {
@@ -140,9 +138,9 @@ TEST_F(ProductRulesTest, TheOverviewComparesUserSubcategoriesAtOneMorePosition) 
       "dishes;tradXtional/fish;differs at 4;100;1;1;1;1;\n"
       "dishes;tradiXional/fish;differs at 5;100;1;1;1;1;\n"
       "dishes;traditioXal/fish;differs at 8;100;1;1;1;1;\n");
-  EXPECT_EQ(ListProducts(food_, Layout::kCounter, "dishes", "traditional/fish"),
+  EXPECT_EQ(ListProducts(food_, Matching::kCounter, "dishes", "traditional/fish"),
             (Names{"agrees", "differs at 4"}));
-  EXPECT_EQ(ListProducts(food_, Layout::kOverview, "dishes", "traditional/fish"),
+  EXPECT_EQ(ListProducts(food_, Matching::kOverview, "dishes", "traditional/fish"),
             (Names{"agrees"}));
 }
 
@@ -154,8 +152,8 @@ TEST_F(ProductRulesTest, TheMiddleOfAUserCategoryIsThatOfTheProductsOwn) {
       "abcdefg#ijk#mnopqrstuvwxyzABC;fresh;differs at 7 and 11;100;1;1;1;1;\n"
       "abcdefghi#klmnopqrstuvwxyzABC;fresh;differs at 9;100;1;1;1;1;\n"
       "abcdefghijklmn#pqrstuvwxyzABC;fresh;differs at 14;100;1;1;1;1;\n");
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-    EXPECT_EQ(ListProducts(food_, layout, "abcdefghijklmnopqrstuvw", "fresh"),
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+    EXPECT_EQ(ListProducts(food_, matching, "abcdefghijklmnopqrstuvw", "fresh"),
               (Names{"goes on", "differs at 7 and 11"}));
   }
 }
@@ -165,12 +163,13 @@ TEST_F(ProductRulesTest, AUserProductIsListedUnderItsOwnCategoryOnly) {
   LoadUserProducts("vegetables;fresh;chard;100;19;1.8;0.2;2.1;\n");
   for (const CategoryRecord& category : food_.categories) {
     for (const std::string_view subcategory :
-         ListSubcategories(food_, Layout::kOverview, category.main_category)) {
+         ListSubcategories(food_, Matching::kOverview, category.main_category)) {
       const bool own = category.main_category == "vegetables" && subcategory == "fresh";
-      EXPECT_EQ(ListProducts(food_, Layout::kCounter, category.main_category, subcategory).size(),
+      EXPECT_EQ(ListProducts(food_, Matching::kCounter, category.main_category, subcategory).size(),
                 own ? 1U : 0U);
-      EXPECT_EQ(ListProducts(food_, Layout::kOverview, category.main_category, subcategory).size(),
-                own ? 1U : 0U);
+      EXPECT_EQ(
+          ListProducts(food_, Matching::kOverview, category.main_category, subcategory).size(),
+          own ? 1U : 0U);
     }
   }
 }
@@ -179,7 +178,7 @@ TEST_F(ProductRulesTest, ListsBuiltInProductsBeforeTheUsers) {
   const ProductRecord products[] = {Row("fruits", "fresh", "pears"),
                                     Row("fruits", "fresh", "figs")};
   LoadUserProducts("fruits;fresh;apple pie;100;1;1;1;1;\n");
-  EXPECT_EQ(Listed(Layout::kCounter, products, "fruits", "fresh"),
+  EXPECT_EQ(Listed(Matching::kCounter, products, "fruits", "fresh"),
             (Names{"pears", "figs", "apple pie"}));
 }
 
@@ -189,11 +188,11 @@ TEST_F(ProductRulesTest, NamesAreTakenForOneAnotherWhenTheyAgreeWhereItLooks) {
                                     Row("m", "s", "abcdeXgXXjkl", "2"),
                                     Row("m", "s", "abcXXXghijkl", "3")};
   food_.products = products;
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "abcdefghijkl")->kcal, "2");
-  EXPECT_EQ(FindProduct(food_, Layout::kOverview, "abcdefghijkl")->kcal, "3");
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "abcXXXghijkl")->kcal, "3");
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "abcdefghijk"), nullptr);
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "abcdefghijklm"), nullptr);
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "abcdefghijkl")->kcal, "2");
+  EXPECT_EQ(FindProduct(food_, Matching::kOverview, "abcdefghijkl")->kcal, "3");
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "abcXXXghijkl")->kcal, "3");
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "abcdefghijk"), nullptr);
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "abcdefghijklm"), nullptr);
 }
 
 TEST_F(ProductRulesTest, UserProductsAreLookedUpOnlyWhenNoBuiltInNameMatches) {
@@ -203,11 +202,11 @@ TEST_F(ProductRulesTest, UserProductsAreLookedUpOnlyWhenNoBuiltInNameMatches) {
       "m;s;pears;100;2;2;2;2;\n"
       "m;s;apple pie;100;3;3;3;3;\n"
       "m;s;apple cake;100;5;5;5;5;\n");
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-    EXPECT_EQ(FindProduct(food_, layout, "pears")->kcal, "1");
-    EXPECT_EQ(FindProduct(food_, layout, "apple pie")->kcal, "3");
-    EXPECT_EQ(FindProduct(food_, layout, "apple cake")->kcal, "5");
-    EXPECT_EQ(FindProduct(food_, layout, "peach tart"), nullptr);
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+    EXPECT_EQ(FindProduct(food_, matching, "pears")->kcal, "1");
+    EXPECT_EQ(FindProduct(food_, matching, "apple pie")->kcal, "3");
+    EXPECT_EQ(FindProduct(food_, matching, "apple cake")->kcal, "5");
+    EXPECT_EQ(FindProduct(food_, matching, "peach tart"), nullptr);
   }
 }
 
@@ -217,18 +216,18 @@ TEST_F(ProductRulesTest, OfSeveralUserProductsTheLastWins) {
       "m;s;apple pie;100;3;3;3;3;\n"
       "m;s;apple pXX;100;4;4;4;4;\n"  // counter and overview: 0 to 2, 4, 3 (and 2)
       "m;s;appleXX;100;5;5;5;5;\n");  // shorter names match as well
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "apple pie")->kcal, "5");
-  EXPECT_EQ(FindProduct(food_, Layout::kOverview, "apple pie")->kcal, "5");
-  EXPECT_EQ(FindProduct(food_, Layout::kCounter, "appleXX")->kcal, "5");
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "apple pie")->kcal, "5");
+  EXPECT_EQ(FindProduct(food_, Matching::kOverview, "apple pie")->kcal, "5");
+  EXPECT_EQ(FindProduct(food_, Matching::kCounter, "appleXX")->kcal, "5");
 }
 
 TEST_F(ProductRulesTest, ShortAndEmptyNamesAreFoundWithoutReadingOutsideThem) {
   food_.products = {};
   LoadUserProducts("mm;ss;;100;7;7;7;7;\nmm;ss;ab;100;8;8;8;8;\n");
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-    EXPECT_EQ(FindProduct(food_, layout, "")->kcal, "7");
-    EXPECT_EQ(FindProduct(food_, layout, "ab")->kcal, "8");
-    EXPECT_EQ(FindProduct(food_, layout, "a"), nullptr);
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+    EXPECT_EQ(FindProduct(food_, matching, "")->kcal, "7");
+    EXPECT_EQ(FindProduct(food_, matching, "ab")->kcal, "8");
+    EXPECT_EQ(FindProduct(food_, matching, "a"), nullptr);
   }
 }
 
@@ -240,35 +239,35 @@ constexpr std::string_view kChosenText = "abcdefghijklmnopqrstuvw";
 static_assert(kChosenText.size() == 23);
 
 // Whether a row that holds `row` in the field of the comparison is taken for the chosen text.
-using Comparison = bool (*)(Layout layout, std::string_view row);
+using Comparison = bool (*)(Matching matching, std::string_view row);
 
-bool IsCategoryTaken(Layout layout, std::string_view row) {
+bool IsCategoryTaken(Matching matching, std::string_view row) {
   CategoryRecord category = {.main_category = row, .subcategories = {}};
   category.subcategories.fill("offered");
   FoodTable food;
   food.categories = {&category, 1};
-  return !ListSubcategories(food, layout, kChosenText).empty();
+  return !ListSubcategories(food, matching, kChosenText).empty();
 }
 
-bool IsBuiltInMainCategoryTaken(Layout layout, std::string_view row) {
+bool IsBuiltInMainCategoryTaken(Matching matching, std::string_view row) {
   const ProductRecord product = Row(row, "fresh", "name");
   FoodTable food;
   food.products = {&product, 1};
-  return !ListProducts(food, layout, kChosenText, "fresh").empty();
+  return !ListProducts(food, matching, kChosenText, "fresh").empty();
 }
 
-bool IsBuiltInSubcategoryTaken(Layout layout, std::string_view row) {
+bool IsBuiltInSubcategoryTaken(Matching matching, std::string_view row) {
   const ProductRecord product = Row("fruits", row, "name");
   FoodTable food;
   food.products = {&product, 1};
-  return !ListProducts(food, layout, "fruits", kChosenText).empty();
+  return !ListProducts(food, matching, "fruits", kChosenText).empty();
 }
 
-bool IsBuiltInNameTaken(Layout layout, std::string_view row) {
+bool IsBuiltInNameTaken(Matching matching, std::string_view row) {
   const ProductRecord product = Row("fruits", "fresh", row);
   FoodTable food;
   food.products = {&product, 1};
-  return FindProduct(food, layout, kChosenText) != nullptr;
+  return FindProduct(food, matching, kChosenText) != nullptr;
 }
 
 void LoadUserProduct(FoodTable& food, std::string_view three_fields) {
@@ -277,28 +276,28 @@ void LoadUserProduct(FoodTable& food, std::string_view three_fields) {
   food.user_products.Load(folder.Write("data.txt", std::string(three_fields) + ";100;1;2;3;4;\n"));
 }
 
-bool IsUserMainCategoryTaken(Layout layout, std::string_view row) {
+bool IsUserMainCategoryTaken(Matching matching, std::string_view row) {
   FoodTable food;
   LoadUserProduct(food, std::string(row) + ";fresh;name");
-  return !ListProducts(food, layout, kChosenText, "fresh").empty();
+  return !ListProducts(food, matching, kChosenText, "fresh").empty();
 }
 
-bool IsUserSubcategoryTaken(Layout layout, std::string_view row) {
+bool IsUserSubcategoryTaken(Matching matching, std::string_view row) {
   FoodTable food;
   LoadUserProduct(food, "fruits;" + std::string(row) + ";name");
-  return !ListProducts(food, layout, "fruits", kChosenText).empty();
+  return !ListProducts(food, matching, "fruits", kChosenText).empty();
 }
 
-bool IsUserNameTaken(Layout layout, std::string_view row) {
+bool IsUserNameTaken(Matching matching, std::string_view row) {
   FoodTable food;
   LoadUserProduct(food, "fruits;fresh;" + std::string(row));
-  return FindProduct(food, layout, kChosenText) != nullptr;
+  return FindProduct(food, matching, kChosenText) != nullptr;
 }
 
 struct ComparisonCase {
   const char* name;
   Comparison is_taken;
-  Layout layout;
+  Matching matching;
   std::vector<int> positions;  // where the row and the chosen text have to agree
   bool may_be_shorter;
   bool may_be_longer;
@@ -308,7 +307,9 @@ void PrintTo(const ComparisonCase& comparison, std::ostream* out) { *out << comp
 
 class ComparisonTest : public testing::TestWithParam<ComparisonCase> {
  protected:
-  static bool IsTaken(std::string_view row) { return GetParam().is_taken(GetParam().layout, row); }
+  static bool IsTaken(std::string_view row) {
+    return GetParam().is_taken(GetParam().matching, row);
+  }
   static bool IsLookedAt(std::size_t position) {
     return std::ranges::count(GetParam().positions, static_cast<int>(position)) != 0;
   }
@@ -339,33 +340,33 @@ TEST_P(ComparisonTest, TakesShorterAndLongerTextsWhereItMay) {
 INSTANTIATE_TEST_SUITE_P(
     Every, ComparisonTest,
     testing::Values(
-        ComparisonCase{"CategoryOfTheCounter", IsCategoryTaken, Layout::kCounter,
+        ComparisonCase{"CategoryOfTheCounter", IsCategoryTaken, Matching::kCounter,
                        {0, 1, 2, 19, 20, 21, 22}, false, false},
-        ComparisonCase{"CategoryOfTheOverview", IsCategoryTaken, Layout::kOverview,
+        ComparisonCase{"CategoryOfTheOverview", IsCategoryTaken, Matching::kOverview,
                        {0, 1, 2, 20, 21, 22}, false, false},
         ComparisonCase{"BuiltInMainCategoryOfTheCounter", IsBuiltInMainCategoryTaken,
-                       Layout::kCounter, {0, 1}, true, true},
+                       Matching::kCounter, {0, 1}, true, true},
         ComparisonCase{"BuiltInMainCategoryOfTheOverview", IsBuiltInMainCategoryTaken,
-                       Layout::kOverview, {0, 1}, true, true},
+                       Matching::kOverview, {0, 1}, true, true},
         ComparisonCase{"BuiltInSubcategoryOfTheCounter", IsBuiltInSubcategoryTaken,
-                       Layout::kCounter, {0, 1, 2, 5, 7, 11, 22}, false, false},
+                       Matching::kCounter, {0, 1, 2, 5, 7, 11, 22}, false, false},
         ComparisonCase{"BuiltInSubcategoryOfTheOverview", IsBuiltInSubcategoryTaken,
-                       Layout::kOverview, {0, 1, 2, 11, 20, 21, 22}, false, false},
-        ComparisonCase{"BuiltInNameOfTheCounter", IsBuiltInNameTaken, Layout::kCounter,
+                       Matching::kOverview, {0, 1, 2, 11, 20, 21, 22}, false, false},
+        ComparisonCase{"BuiltInNameOfTheCounter", IsBuiltInNameTaken, Matching::kCounter,
                        {0, 1, 2, 5, 7, 11, 20, 21, 22}, false, false},
-        ComparisonCase{"BuiltInNameOfTheOverview", IsBuiltInNameTaken, Layout::kOverview,
+        ComparisonCase{"BuiltInNameOfTheOverview", IsBuiltInNameTaken, Matching::kOverview,
                        {0, 1, 2, 17, 18, 19, 20, 21, 22}, false, false},
-        ComparisonCase{"UserMainCategoryOfTheCounter", IsUserMainCategoryTaken, Layout::kCounter,
+        ComparisonCase{"UserMainCategoryOfTheCounter", IsUserMainCategoryTaken, Matching::kCounter,
                        {0, 1, 2, 7, 11}, false, true},
-        ComparisonCase{"UserMainCategoryOfTheOverview", IsUserMainCategoryTaken, Layout::kOverview,
+        ComparisonCase{"UserMainCategoryOfTheOverview", IsUserMainCategoryTaken, Matching::kOverview,
                        {0, 1, 2, 7, 11}, false, true},
-        ComparisonCase{"UserSubcategoryOfTheCounter", IsUserSubcategoryTaken, Layout::kCounter,
+        ComparisonCase{"UserSubcategoryOfTheCounter", IsUserSubcategoryTaken, Matching::kCounter,
                        {0, 1, 2, 7, 11}, true, false},
-        ComparisonCase{"UserSubcategoryOfTheOverview", IsUserSubcategoryTaken, Layout::kOverview,
+        ComparisonCase{"UserSubcategoryOfTheOverview", IsUserSubcategoryTaken, Matching::kOverview,
                        {0, 1, 2, 5, 7, 11}, true, false},
-        ComparisonCase{"UserNameOfTheCounter", IsUserNameTaken, Layout::kCounter,
+        ComparisonCase{"UserNameOfTheCounter", IsUserNameTaken, Matching::kCounter,
                        {0, 1, 2, 7, 11}, true, false},
-        ComparisonCase{"UserNameOfTheOverview", IsUserNameTaken, Layout::kOverview,
+        ComparisonCase{"UserNameOfTheOverview", IsUserNameTaken, Matching::kOverview,
                        {0, 1, 2, 5, 7, 11}, true, false}),
     [](const testing::TestParamInfo<ComparisonCase>& one) { return one.param.name; });
 // clang-format on
@@ -374,10 +375,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ListProductsTest, VegetablesAndSweetsListRowsOfAnotherSpelling) {
   const FoodTable food;
-  for (const Layout layout : {Layout::kCounter, Layout::kOverview}) {
-    EXPECT_EQ(ListProducts(food, layout, "vegetables", "fresh").size(), 49U);
-    EXPECT_EQ(ListProducts(food, layout, "vegetables", "tin").size(), 0U);
-    EXPECT_EQ(ListProducts(food, layout, "sweets", "chocolate").size(), 32U);
+  for (const Matching matching : {Matching::kCounter, Matching::kOverview}) {
+    EXPECT_EQ(ListProducts(food, matching, "vegetables", "fresh").size(), 49U);
+    EXPECT_EQ(ListProducts(food, matching, "vegetables", "tin").size(), 0U);
+    EXPECT_EQ(ListProducts(food, matching, "sweets", "chocolate").size(), 32U);
   }
 }
 
@@ -388,8 +389,8 @@ TEST(FindProductTest, ADuplicatedNameYieldsItsLaterRow) {
     for (const ProductRecord& row : food.products) {
       if (row.name == name) last = &row;
     }
-    EXPECT_EQ(FindProduct(food, Layout::kCounter, name), last);
-    EXPECT_EQ(FindProduct(food, Layout::kOverview, name), last);
+    EXPECT_EQ(FindProduct(food, Matching::kCounter, name), last);
+    EXPECT_EQ(FindProduct(food, Matching::kOverview, name), last);
   }
 }
 

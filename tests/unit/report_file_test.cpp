@@ -132,7 +132,7 @@ TEST_F(ReportFileTest, SavingKeepsWhatStandsBehindANul) {
 TEST_F(ReportFileTest, SavingKeepsARecordThatWasAppendedMeanwhile) {
   folder_.Write("waga.ASC", "one\r\n");
   const std::string shown = LoadReport(path_);
-  AppendToFile(path_, "two\n");
+  ASSERT_TRUE(AppendToFile(path_, "two\n"));
   EXPECT_TRUE(SaveReport(path_, shown, "changed\r\n"));
   EXPECT_EQ(File(), "changed\r\n");
   EXPECT_EQ(Rest(), "two\r\n");
@@ -233,11 +233,30 @@ TEST_F(ReportFileTest, ClearingMakesAMissingFile) {
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
 
-TEST_F(ReportFileTest, ClearingLeavesWhatWasKept) {
+TEST_F(ReportFileTest, ClearingTakesWhatWasKeptWithIt) {
   folder_.Write("waga.ASC", "shown\0rest"s);
   EXPECT_TRUE(SaveAsShown());
+  EXPECT_TRUE(HasRest(path_));
   EXPECT_TRUE(ClearReport(path_));
-  EXPECT_EQ(Rest(), "\0rest"s);
+  EXPECT_EQ(File(), "");
+  EXPECT_FALSE(HasRest(path_));
+  EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
+}
+
+TEST_F(ReportFileTest, AReportIsNotClearedWithoutWhatWasKept) {
+  for (const char* const name : {"waga.ASC", "waga.ASC.rest.txt"}) {
+    folder_.Write("waga.ASC", "report");
+    folder_.Write("waga.ASC.rest.txt", "kept");
+    std::filesystem::permissions(folder_.path() + name, std::filesystem::perms{0444});
+    EXPECT_FALSE(ClearReport(path_)) << name;
+    EXPECT_EQ(File(), "report") << name;
+    EXPECT_EQ(Rest(), "kept") << name;
+    std::filesystem::permissions(folder_.path() + name, std::filesystem::perms{0644});
+  }
+  std::filesystem::remove(RestPath(path_));
+  MakeUnreadable(RestPath(path_));
+  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_EQ(File(), "report");
 }
 
 TEST_F(ReportFileTest, AnEmptyRestIsNone) {

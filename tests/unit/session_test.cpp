@@ -15,7 +15,8 @@ TEST(DateTextTest, JoinsDayMonthAndYearWithoutLeadingZeros) {
 TEST(SessionStateTest, StartsAtHomeWithNobodyLoggedIn) {
   const SessionState session;
   EXPECT_EQ(session.screen, kHomeScreen);
-  EXPECT_EQ(session.user_name, "");
+  EXPECT_EQ(session.user, std::nullopt);
+  EXPECT_EQ(session.UserFile("info.ASC"), std::nullopt);
 }
 
 }  // namespace

@@ -45,10 +45,20 @@ TEST_F(UserProductFileTest, ALastLineWithoutAnEndKeepsItsProduct) {
             "fruits;fresh;fig;100;1;1;1;1;\r\nfruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
 }
 
+TEST_F(UserProductFileTest, AppendsManyLinesBehindAnOpenOne) {
+  Write("fruits;fresh;fig;100;1;1;1;1;");
+  const ProductRecord plum = {"fruits", "fresh", "plum", "100", "1", "1", "1", "1"};
+  const std::vector<ProductRecord> products = {kApplePie, plum};
+  EXPECT_TRUE(AddUserProducts(Path(), products));
+  EXPECT_EQ(Bytes(),
+            Line("fig") + "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n" + Line("plum"));
+}
+
 TEST_F(UserProductFileTest, WhatCannotBeReadOrWrittenIsReported) {
   std::filesystem::create_directory(Path());
   EXPECT_FALSE(RemoveUserProduct(Path(), "apple pie"));
   EXPECT_FALSE(AddUserProduct(Path(), kApplePie));
+  EXPECT_FALSE(AddUserProducts(Path(), {&kApplePie, 1}));
 }
 
 TEST_F(UserProductFileTest, ListsTheThirdFields) {
@@ -167,7 +177,7 @@ TEST_F(UserProductFileTest, AKilledRemovalLeavesTheOldFileOrTheNewOne) {
     Write(old);
     const pid_t child = fork();
     if (child == 0) {
-      RemoveUserProduct(Path(), "apple pie");
+      PassOver(RemoveUserProduct(Path(), "apple pie"));
       _exit(0);
     }
     usleep(delay * 200);

@@ -262,7 +262,7 @@ TEST_F(UserFilesTest, ANewUserGetsEightEmptyFiles) {
 }
 
 TEST_F(UserFilesTest, TheUserWhoIsLoggedInDoesNotMatter) {
-  session_.user_name = "Bob";
+  session_.user = UserFolder::In(folder_.path(), "Bob");
   CreateUserFiles(session_, "Ann");
   EXPECT_EQ(folder_.Names(), Names{"Ann"});
   MakeUser("Bob");

@@ -1,0 +1,45 @@
+// The dialog that adds products of the user's own from a table of another program.
+
+#ifndef VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
+#define VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
+
+#include <string>
+#include <string_view>
+
+#include "base/dialog.h"
+#include "base/main_window.h"
+#include "base/message_boxes.h"
+#include "food/food_table.h"
+#include "food/product_import.h"
+
+namespace velnor {
+
+inline constexpr int kImportProductsResource = 10023;
+
+class ImportProductsDialog final : public Dialog {
+ public:
+  // Adds to the file `path` and reloads the user's products of `food` from it.
+  ImportProductsDialog(FoodTable& food, std::string path, MainWindow& window,
+                       MessageBoxes& message_boxes);
+
+  void OnOpen(Form& form) override;
+  void OnCommand(Form& form, int id, int notification) override;
+
+ private:
+  void OfferSubcategories(Form& form);
+  void Browse(Form& form);
+  void Import(Form& form);
+  // Whether the plan is carried out, as far as the slots go; asks where that is not all of it.
+  bool Confirm(const ImportPlan& plan);
+  void CarryOut(const ImportPlan& plan);
+  void Say(std::string_view text);
+
+  FoodTable& food_;
+  std::string path_;
+  MainWindow& window_;
+  MessageBoxes& message_boxes_;
+};
+
+}  // namespace velnor
+
+#endif  // VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_

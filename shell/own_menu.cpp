@@ -1,0 +1,29 @@
+#include "shell/own_menu.h"
+
+#include <algorithm>
+
+#include "shell/program.h"
+
+namespace velnor {
+namespace {
+
+constexpr OwnMenuItem kItems[] = {
+    {kImportItem, "Import products...", false, [](Program& p) { p.OpenImportProducts(); }},
+};
+
+}  // namespace
+
+std::span<const OwnMenuItem> OwnMenuItems() { return kItems; }
+
+bool CanBeChosen(const OwnMenuItem& item, const SessionState& session) {
+  return !item.needs_user || !session.user_name.empty();
+}
+
+bool RunOwnMenuItem(Program& program, int id, std::span<const OwnMenuItem> items) {
+  const auto item = std::ranges::find(items, id, &OwnMenuItem::id);
+  if (item == items.end()) return false;
+  if (CanBeChosen(*item, program.session())) item->run(program);
+  return true;
+}
+
+}  // namespace velnor

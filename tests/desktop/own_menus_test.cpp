@@ -1,0 +1,123 @@
+// The items of our own in the title-bar menu and in the context menu of the screen.
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "tests/desktop/open_menu.h"
+
+namespace velnor::desktop {
+namespace {
+
+constexpr int kImportItem = 0x140;
+
+struct ExpectedItem {
+  int id;
+  const char* text;
+  bool needs_user;
+};
+// What both menus hold.
+const std::vector<ExpectedItem> kExpected = {
+    {kImportItem, "Import products...", false},
+};
+
+class OwnMenus : public testing::Test {
+ protected:
+  OwnMenus() {
+    folder_.Write("users.ASC", "Ann\r\n");
+    CreateDirectoryA((folder_.path() + "Ann").c_str(), nullptr);
+    folder_.Write("Ann\\info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone\r\n");
+  }
+  static std::vector<std::string> Expected(bool logged_in) {
+    std::vector<std::string> lines;
+    for (const ExpectedItem& item : kExpected) {
+      lines.push_back(Line(item.id, item.text, logged_in || !item.needs_user));
+    }
+    return lines;
+  }
+  static std::string Line(int id, const std::string& text, bool enabled) {
+    return std::to_string(id) + ' ' + text + (enabled ? "" : " (grey)");
+  }
+  // From the item `first` on.
+  static std::vector<std::string> Lines(const std::vector<App::MenuItem>& items,
+                                        std::size_t first = 0) {
+    std::vector<std::string> lines;
+    for (std::size_t i = first; i < items.size(); ++i) {
+      lines.push_back(Line(items[i].id, items[i].text, items[i].enabled));
+    }
+    return lines;
+  }
+  void LogIn(const App& app) const {
+    app.main().Command(200);
+    const Window login = app.WaitForPopup();
+    login.Choose(700, "Ann");
+    login.Command(IDOK);
+    WaitUntilGone(login.handle());
+    app.Settle();
+  }
+  // Of the title-bar menu what stands behind the platform's last item, "Close", and a separator.
+  static std::vector<std::string> TitleBarLines(const App& app) {
+    const OpenMenu menu = OpenMenu::OfTitleBar(app);
+    EXPECT_TRUE(menu.is_open());
+    const std::vector<App::MenuItem> items = menu.Items();
+    menu.Close();
+    std::size_t first = 0;
+    while (first < items.size() && items[first].id != SC_CLOSE) ++first;
+    if (first + 1 >= items.size()) return {};
+    EXPECT_EQ(items[first + 1].id, 0) << "a separator";
+    return Lines(items, first + 2);
+  }
+  static std::vector<std::string> ContextLines(const OpenMenu& menu) {
+    EXPECT_TRUE(menu.is_open());
+    const std::vector<std::string> lines = Lines(menu.Items());
+    menu.Close();
+    return lines;
+  }
+
+  WorkFolder folder_;
+  App app_{folder_};
+};
+
+TEST_F(OwnMenus, HoldTheSameItemsGreyWithoutAUser) {
+  EXPECT_EQ(TitleBarLines(app_), Expected(false));
+  EXPECT_EQ(ContextLines(OpenMenu::AtPoint(app_, 300, 70)), Expected(false));
+  LogIn(app_);
+  EXPECT_EQ(TitleBarLines(app_), Expected(true));
+  EXPECT_EQ(ContextLines(OpenMenu::AtPoint(app_, 300, 70)), Expected(true));
+  EXPECT_EQ(ContextLines(OpenMenu::ByKeyboard(app_)), Expected(true));
+}
+
+TEST_F(OwnMenus, EachOpensWhatWasChosen) {
+  for (const auto choose : {ChooseFromTitleBarMenu, ChooseFromContextMenu}) {
+    ASSERT_TRUE(choose(app_, kImportItem));
+    const Window import = app_.WaitForPopup();
+    EXPECT_NE(import.Control(802), nullptr);
+    import.Command(IDCANCEL);
+    ASSERT_TRUE(WaitUntilGone(import.handle()));
+  }
+}
+
+// An edit opens the platform's menu, a list none.
+TEST_F(OwnMenus, EditsAndListsKeepWhatThePlatformDoes) {
+  app_.main().Command(231);
+  app_.Settle();
+  const auto right_click_on = [this](int id) {
+    RECT place = {};
+    GetWindowRect(app_.main().Control(id), &place);
+    RightClickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  };
+  right_click_on(128);
+  ASSERT_TRUE(WaitUntil([this] { return MenuIsOpen(app_); }));
+  PressKey(VK_ESCAPE);
+  ASSERT_TRUE(WaitUntil([this] { return !MenuIsOpen(app_); }));
+  right_click_on(126);
+  right_click_on(124);
+  app_.Settle();
+  EXPECT_FALSE(MenuIsOpen(app_));
+  // Beside them there is ours.
+  const OpenMenu menu = OpenMenu::AtPoint(app_, 200, 70);
+  EXPECT_EQ(ContextLines(menu), Expected(false));
+}
+
+}  // namespace
+}  // namespace velnor::desktop

@@ -1,0 +1,205 @@
+#include "users/backup.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "base/session.h"
+#include "tests/support/temporary_folder.h"
+
+namespace velnor {
+namespace {
+
+namespace fs = std::filesystem;
+
+class BackupTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    Write("users.ASC", "Ann\r\nBob");
+    Write("data.txt", "fruits;fresh;quince;100;57;0.4;0.1;15;\r\n");
+    Write("Ann/info.ASC", "30\r\n170");
+    Write("Ann/waga.ASC", "record\r\n");
+    Write("Bob/info.ASC", "");
+  }
+
+  std::string Base() const { return folder_.path(); }
+  std::string Copies() const { return Base() + "kopie zapasowe" + kPathSeparator; }
+
+  void Write(const std::string& name, const std::string& bytes) const {
+    const fs::path path = fs::path(Base()) / name;
+    fs::create_directories(path.parent_path());
+    folder_.Write(name, bytes);
+  }
+
+  // The files below a folder by their path in it.
+  static std::map<std::string, std::string> Tree(const std::string& folder) {
+    std::map<std::string, std::string> tree;
+    if (!fs::exists(folder)) return tree;
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+      if (!entry.is_regular_file()) continue;
+      std::ifstream file(entry.path(), std::ios::binary);
+      tree[fs::relative(entry.path(), folder).string()] = {std::istreambuf_iterator<char>(file),
+                                                           {}};
+    }
+    return tree;
+  }
+
+  std::vector<std::string> CopyNames() const {
+    std::vector<std::string> names;
+    if (!fs::exists(Copies())) return names;
+    for (const auto& entry : fs::directory_iterator(Copies())) {
+      names.push_back(entry.path().filename().string());
+    }
+    std::ranges::sort(names);
+    return names;
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(BackupTest, ACopyHoldsTheListTheProductsAndEverybody) {
+  Write("velnor.exe", "not data");
+  Write("photos/cat.jpg", "not data");
+  Write("Zoe/info.ASC", "not on the list");
+  std::map<std::string, std::string> expected = Tree(Base());
+  expected.erase("velnor.exe");
+  expected.erase("photos/cat.jpg");
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_EQ(Tree(Copies() + "2026-11-21"), expected);
+  EXPECT_EQ(CopyNames(), std::vector<std::string>{"2026-11-21"});
+}
+
+TEST_F(BackupTest, TheFirstCopyOfADayStays) {
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
+  Write("Ann/waga.ASC", "changed since");
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_EQ(Tree(Copies() + "2026-11-21")["Ann/waga.ASC"], "record\r\n");
+}
+
+TEST_F(BackupTest, SevenDaysAndTheFirstsOfTwelveMonthsAreKept) {
+  std::vector<std::string> expected;
+  for (int month = 1; month <= 14; ++month) {
+    const int last = month == 14 ? 12 : 4;
+    for (int day = 3; day <= last; ++day) {
+      const auto two_digits = [](int number) {
+        return (number < 10 ? "0" : "") + std::to_string(number);
+      };
+      const std::string date = (month > 12 ? "2026-" : "2025-") + two_digits((month - 1) % 12 + 1) +
+                               '-' + two_digits(day);
+      ASSERT_TRUE(MakeDailyCopy(Base(), date));
+      if ((month >= 3 && day == 3) || (month == 14 && day >= 6)) expected.push_back(date);
+    }
+  }
+  EXPECT_EQ(CopyNames(), expected);
+}
+
+TEST_F(BackupTest, NothingElseInTheFolderIsTouched) {
+  Write("kopie zapasowe/2026-11-01x/users.ASC", "mine");
+  Write("kopie zapasowe/2026-02-30/users.ASC", "no day");
+  Write("kopie zapasowe/2020-01-01", "a file");
+  Write("kopie zapasowe/notes.part/x.txt", "mine too");
+  for (int day = 1; day <= 9; ++day) {
+    ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-0" + std::to_string(day)));
+  }
+  EXPECT_EQ(Tree(Copies())["2026-11-01x/users.ASC"], "mine");
+  EXPECT_EQ(Tree(Copies())["2026-02-30/users.ASC"], "no day");
+  EXPECT_EQ(Tree(Copies())["2020-01-01"], "a file");
+  EXPECT_EQ(Tree(Copies())["notes.part/x.txt"], "mine too");
+  EXPECT_FALSE(fs::exists(Copies() + "2026-11-02"));  // but for the copies themselves
+}
+
+TEST_F(BackupTest, AClockThatIsSetBackLosesNoOlderCopy) {
+  for (int day = 10; day <= 19; ++day) {
+    ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-" + std::to_string(day)));
+  }
+  const std::vector<std::string> before = CopyNames();
+  ASSERT_TRUE(MakeDailyCopy(Base(), "1990-01-01"));
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-02"));
+  std::vector<std::string> after = before;
+  after.insert(after.begin(), {"1990-01-01", "2026-11-02"});
+  EXPECT_EQ(CopyNames(), after);
+}
+
+TEST_F(BackupTest, ACopyThatWasCutOffIsNoneAndGoes) {
+  Write("kopie zapasowe/2026-11-20.part/Ann/info.ASC", "half");
+  EXPECT_TRUE(ListCopies(Base()).empty());
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_EQ(CopyNames(), std::vector<std::string>{"2026-11-21"});
+}
+
+TEST_F(BackupTest, AFileThatCannotBeReadMakesNoCopy) {
+  // A folder where a file belongs cannot be read as one.
+  fs::remove(fs::path(Base()) / "data.txt");
+  fs::create_directories(fs::path(Base()) / "data.txt");
+  EXPECT_FALSE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_TRUE(CopyNames().empty());
+}
+
+TEST_F(BackupTest, ACopiesFolderThatCannotBeMadeIsSaid) {
+  Write("kopie zapasowe", "a file stands in its way");
+  EXPECT_FALSE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_EQ(Tree(Base())["kopie zapasowe"], "a file stands in its way");
+}
+
+TEST_F(BackupTest, BeforeAPressOnePersonIsCopiedUnderTheMoment) {
+  ASSERT_TRUE(MakeCopyBefore(Base(), {"2026-11-21", "13:05:09"}, "\"Clear raport\" of Ann", "Ann"));
+  EXPECT_EQ(Tree(Copies() + "2026-11-21 130509"),
+            (std::map<std::string, std::string>{{"Ann/info.ASC", "30\r\n170"},
+                                                {"Ann/waga.ASC", "record\r\n"},
+                                                {"opis.txt", "\"Clear raport\" of Ann"}}));
+}
+
+TEST_F(BackupTest, TwentyCopiesOfPressesAreKeptBesideThoseOfDays) {
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2020-01-01"));
+  for (int minute = 10; minute < 35; ++minute) {
+    ASSERT_TRUE(
+        MakeCopyBefore(Base(), {"2026-11-21", "13:" + std::to_string(minute) + ":00"}, "x", "Ann"));
+  }
+  const std::vector<std::string> names = CopyNames();
+  ASSERT_EQ(names.size(), 21U);
+  EXPECT_EQ(names[0], "2020-01-01");
+  EXPECT_EQ(names[1], "2026-11-21 131500");
+  EXPECT_EQ(names.back(), "2026-11-21 133400");
+}
+
+TEST_F(BackupTest, TheListSaysWhoIsInACopyAndHowLargeItIs) {
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-20"));
+  ASSERT_TRUE(MakeCopyBefore(Base(), {"2026-11-21", "13:05:09"}, "removing Bob", "Bob"));
+  const std::vector<ListedCopy> copies = ListCopies(Base());
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[0].name, "2026-11-21 130509");
+  EXPECT_EQ(copies[0].about, "removing Bob");
+  EXPECT_EQ(copies[0].people, "Bob");
+  EXPECT_EQ(copies[1].path, Copies() + "2026-11-20");
+  EXPECT_EQ(copies[1].about, "");
+  EXPECT_EQ(copies[1].people, "Ann, Bob");
+  EXPECT_EQ(copies[1].size.files, 5U);
+  EXPECT_EQ(copies[1].size.bytes,
+            Tree(Base())["users.ASC"].size() + Tree(Base())["data.txt"].size() +
+                Tree(Base())["Ann/info.ASC"].size() + Tree(Base())["Ann/waga.ASC"].size());
+}
+
+TEST_F(BackupTest, ASecondCopyOfADayElsewhereGetsANumber) {
+  const std::string first = NewCopyPath(Base(), "2026-11-21");
+  EXPECT_EQ(first, Base() + "Velnor 2026-11-21");
+  ASSERT_TRUE(MakeCopy(Base(), first));
+  const std::string second = NewCopyPath(Base(), "2026-11-21");
+  EXPECT_EQ(second, Base() + "Velnor 2026-11-21 (2)");
+  ASSERT_TRUE(MakeCopy(Base(), second));
+  EXPECT_EQ(NewCopyPath(Base(), "2026-11-21"), Base() + "Velnor 2026-11-21 (3)");
+  EXPECT_FALSE(MakeCopy(Base(), first));  // what is there is never written over
+}
+
+TEST_F(BackupTest, KnowsACopyFromOtherFolders) {
+  ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
+  EXPECT_TRUE(IsCopy(Copies() + "2026-11-21" + kPathSeparator));
+  EXPECT_FALSE(IsCopy(Copies()));
+  EXPECT_FALSE(IsCopy(Base() + "nowhere" + kPathSeparator));
+}
+
+}  // namespace
+}  // namespace velnor
