@@ -5,8 +5,10 @@
 #include <optional>
 
 #include "activity/activity_table.h"
+#include "base/file_calls.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -69,10 +71,16 @@ BurnedTotal::DayLine BurnedTotal::Read() const {
   return result;
 }
 
+bool BurnedTotal::IsOfAnotherDay(const DayLine& line) const {
+  return line.is_readable && !line.is_empty && !IsSameDay(line.date, session_.date_text);
+}
+
 BurnedTotal::DayLine BurnedTotal::Take() {
   DayLine line = Read();
-  if (line.is_readable && line.is_empty) {
-    PassOver(AppendToFile(session_.user->File(kBurnedFile), ""));
+  if (line.is_empty && session_.user && !IsThere(session_.user->File(kBurnedFile))) {
+    Transaction deed(session_.base_folder);
+    deed.Append(session_.user->File(kBurnedFile), "");
+    deed.CommitUnreported();
   }
   kcal_ = static_cast<float>(ParseNumber(line.kcal));
   return line;
@@ -82,27 +90,34 @@ std::string BurnedTotal::Refresh() { return Take().kcal; }
 
 std::string BurnedTotal::RefreshForToday() {
   const DayLine line = Take();
-  const bool may_be_emptied = line.is_readable && !line.is_empty;
-  if (may_be_emptied && !IsSameDay(line.date, session_.date_text)) Write("");
+  if (!session_.user || !IsOfAnotherDay(line)) return line.kcal;
+  Transaction deed(session_.base_folder);
+  // Another program may have begun the day meanwhile.
+  if (IsOfAnotherDay(Read())) deed.Replace(session_.user->File(kBurnedFile), "");
+  deed.CommitUnreported();
   return line.kcal;
 }
 
 std::string BurnedTotal::Add(std::string_view burned) {
+  Transaction deed(session_.base_folder);
   const DayLine line = Read();
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
-  if (line.is_readable) Write(session_.date_text + kFieldEnd + total + kFieldEnd);
+  if (line.is_readable) {
+    deed.Replace(session_.user->File(kBurnedFile), session_.date_text + kFieldEnd + total + kFieldEnd);
+  }
+  deed.CommitUnreported();
   return total;
 }
 
 void BurnedTotal::Clear() {
-  Write("");
+  if (session_.user) {
+    Transaction deed(session_.base_folder);
+    deed.Replace(session_.user->File(kBurnedFile), "");
+    deed.CommitUnreported();
+  }
   kcal_ = 0;
-}
-
-void BurnedTotal::Write(std::string_view bytes) {
-  if (session_.user) PassOver(ReplaceFile(session_.user->File(kBurnedFile), bytes));
 }
 
 }  // namespace velnor

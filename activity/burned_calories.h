@@ -65,9 +65,9 @@ class BurnedTotal {
   };
 
   DayLine Read() const;
+  bool IsOfAnotherDay(const DayLine& line) const;
   // Reads, making the file when there is none, and knows the total from then on.
   DayLine Take();
-  void Write(std::string_view bytes);
 
   const SessionState& session_;
   float kcal_ = 0;

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 
-#include "base/text_file.h"
 
 namespace velnor {
 namespace {
@@ -19,10 +18,6 @@ std::string BurnedRecordText(const BurnedRecord& record) {
          "  fat burned[g]: " + record.fat +           //
          "  \nother: " + record.other +               //
          '\n' + std::string(kDashes, '-') + '\n';
-}
-
-bool AppendBurnedRecord(const std::string& path, const BurnedRecord& record) {
-  return AppendToFile(path, BurnedRecordText(record));
 }
 
 }  // namespace velnor

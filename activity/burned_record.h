@@ -27,9 +27,6 @@ struct BurnedRecord {
 // line of 99 dashes. Lines end with LF here.
 std::string BurnedRecordText(const BurnedRecord& record);
 
-// Adds the record to the end of the report. False when the report is what it was before.
-[[nodiscard]] bool AppendBurnedRecord(const std::string& path, const BurnedRecord& record);
-
 }  // namespace velnor
 
 #endif  // VELNOR_ACTIVITY_BURNED_RECORD_H_

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -39,14 +39,15 @@ void BurnedRecordDialog::OnCommand(Form& form, int id, int notification) {
 }
 
 void BurnedRecordDialog::Save(Form& form) {
-  const BurnedRecord record = {.date = form.ReadText(kDate, kTextLimit),
-                               .activity = counted_activity_,
-                               .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
-                               .kcal = form.ReadText(kCalories, kRecordFigureLimit),
-                               .fat = form.ReadText(kFat, kRecordFigureLimit),
-                               .other = form.ReadText(kOther, kTextLimit)};
   if (const auto path = session_.UserFile(kBurnedReportFile)) {
-    PassOver(AppendBurnedRecord(*path, record));
+    Transaction deed(session_.base_folder);
+    deed.Append(*path, BurnedRecordText({.date = form.ReadText(kDate, kTextLimit),
+                                         .activity = counted_activity_,
+                                         .minutes = form.ReadText(kMinutes, kRecordFigureLimit),
+                                         .kcal = form.ReadText(kCalories, kRecordFigureLimit),
+                                         .fat = form.ReadText(kFat, kRecordFigureLimit),
+                                         .other = form.ReadText(kOther, kTextLimit)}));
+    deed.CommitUnreported();
   }
   form.Close();
 }

@@ -81,12 +81,14 @@ std::optional<std::string_view> FindFault(const PersonalLimits& limits) {
   return std::nullopt;
 }
 
-bool WritePersonalLimits(const std::string& path, const PersonalLimits& limits) {
+void WritePersonalLimits(Transaction& deed, const std::string& path, const PersonalLimits& limits) {
   std::string text = "1\n";
   for (const std::string& limit : limits.texts) text += limit + '\n';
-  return ReplaceFile(path, WithCrLf(text));
+  deed.Replace(path, WithCrLf(text));
 }
 
-bool WriteNoLimits(const std::string& path) { return ReplaceFile(path, WithCrLf("0\n")); }
+void WriteNoLimits(Transaction& deed, const std::string& path) {
+  deed.Replace(path, WithCrLf("0\n"));
+}
 
 }  // namespace velnor

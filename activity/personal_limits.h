@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/transaction.h"
+
 namespace velnor {
 
 // In the order of file and screen: lower and upper limit of calories [kcal], protein, fat and
@@ -52,9 +54,9 @@ PersonalLimits ReadPersonalLimits(const std::string& path);
 // kcal, 239 g, 239 g and 1399 g, and no lower one may pass its upper one.
 std::optional<std::string_view> FindFault(const PersonalLimits& limits);
 
-// Writes the limits to the file, or that there are none. False when the file keeps what it held.
-[[nodiscard]] bool WritePersonalLimits(const std::string& path, const PersonalLimits& limits);
-[[nodiscard]] bool WriteNoLimits(const std::string& path);
+// Writes the limits to the file, or that there are none.
+void WritePersonalLimits(Transaction& deed, const std::string& path, const PersonalLimits& limits);
+void WriteNoLimits(Transaction& deed, const std::string& path);
 
 }  // namespace velnor
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -156,13 +156,21 @@ void RequirementScreen::Activate() {
     message_boxes_.Show({.text = *fault});
     return;
   }
-  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WritePersonalLimits(*path, typed));
+  if (const auto path = session_.UserFile(kLimitsFile)) {
+    Transaction deed(session_.base_folder);
+    WritePersonalLimits(deed, *path, typed);
+    deed.CommitUnreported();
+  }
   limits_ = ReadLimits();
   window_.Invalidate();
 }
 
 void RequirementScreen::Clear() {
-  if (const auto path = session_.UserFile(kLimitsFile)) PassOver(WriteNoLimits(*path));
+  if (const auto path = session_.UserFile(kLimitsFile)) {
+    Transaction deed(session_.base_folder);
+    WriteNoLimits(deed, *path);
+    deed.CommitUnreported();
+  }
   limits_active_ = false;
   window_.Invalidate();
 }

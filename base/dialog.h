@@ -12,6 +12,10 @@ namespace velnor {
 inline constexpr int kOkButton = 1;
 inline constexpr int kCancelButton = 2;
 
+// The keys that a dialog may take before the platform does, wherever they mean something of their
+// own in it.
+enum class Key { kEnter, kUp, kDown, kPageUp, kPageDown };
+
 class Dialog {
  public:
   virtual ~Dialog() = default;
@@ -22,6 +26,10 @@ class Dialog {
 
   // Called for every notification of a control. Unknown ids are ignored.
   virtual void OnCommand(Form& form, int id, int notification) = 0;
+
+  // Called when a key is pressed in the control `id`. False when the platform is to do with it what
+  // it does everywhere: Enter presses the default button, arrows move within a list.
+  virtual bool OnKey(Form& /*form*/, int /*id*/, Key /*key*/) { return false; }
 };
 
 }  // namespace velnor

@@ -62,6 +62,8 @@ class Form {
   virtual std::string ItemText(int id, int index) const = 0;
   // Selects an item, counted from 0. As nothing here does, this does not announce itself.
   virtual void SelectItem(int id, int index) = 0;
+  // The place of the selected item, counted from 0; nothing when no item is selected.
+  virtual std::optional<int> SelectedItem(int id) const = 0;
   // The text of the selected item; nothing when no item is selected.
   virtual std::optional<std::string> SelectedText(int id) const = 0;
   // Takes the selected item off a list box; without a selection nothing happens.
@@ -70,6 +72,8 @@ class Form {
   virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
+  // Selects all of an edit's text, so that what is typed takes its place.
+  virtual void SelectAllText(int id) = 0;
   // Makes the button the one that a dialog's Enter key presses.
   virtual void SetDefaultButton(int id) = 0;
 

@@ -27,34 +27,6 @@ bool IsTemporaryName(std::string_view name) {
   return !process.empty() && process.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-bool WriteTemporary(const std::string& path, std::string_view bytes) {
-  // To take the place of a file, a system asks the folder's leave and not always the file's.
-  if (IsWriteProtected(path)) return false;
-  return WriteNewFile(TemporaryPath(path), bytes);
-}
-
-// False, and no temporary file any more, when the file stays.
-bool TakePlace(const std::string& path) {
-  const std::string temporary = TemporaryPath(path);
-  if (ReplaceByRename(temporary, path)) return true;
-  RemoveFile(temporary);
-  return false;
-}
-
-struct OldFile {
-  std::string path;
-  std::string bytes;
-  bool existed;
-};
-
-void Restore(const OldFile& old) {
-  if (old.existed) {
-    PassOver(ReplaceFile(old.path, old.bytes));
-  } else {
-    RemoveFile(old.path);
-  }
-}
-
 }  // namespace
 
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit) {
@@ -86,12 +58,6 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
 
 bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
-bool AppendToFile(const std::string& path, std::string_view text) {
-  if (text.empty()) return Open(path, "ab") != nullptr;
-  const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
-  return old && ReplaceFile(path, *old + WithCrLf(text));
-}
-
 bool WriteAndClose(File file, std::string_view bytes) {
   // An empty file has nothing to bring to the disk.
   const bool written =
@@ -121,30 +87,11 @@ void RemoveLeftovers(const std::string& folder) {
 }
 
 bool ReplaceFile(const std::string& path, std::string_view bytes) {
-  return WriteTemporary(path, bytes) && TakePlace(path);
-}
-
-bool ReplaceFiles(std::span<const FileBytes> files) {
-  std::vector<OldFile> old;
-  for (const FileBytes& file : files) {
-    std::optional<std::string> bytes = ReadFileToRewrite(file.path, kWholeFile);
-    if (!bytes) return false;
-    old.push_back({file.path, std::move(*bytes), FileExists(file.path)});
-  }
-  // What needs space comes first, while nothing has been replaced.
-  std::size_t written = 0;
-  while (written < files.size() && WriteTemporary(files[written].path, files[written].bytes)) {
-    ++written;
-  }
-  std::size_t replaced = 0;
-  if (written == files.size()) {
-    while (replaced < files.size() && TakePlace(files[replaced].path)) ++replaced;
-    if (replaced == files.size()) return true;
-  }
-  for (std::size_t i = 0; i < replaced; ++i) Restore(old[i]);
-  for (std::size_t i = replaced; i < written; ++i) {
-    RemoveFile(TemporaryPath(files[i].path));
-  }
+  // To take the place of a file, a system asks the folder's leave and not always the file's.
+  const std::string temporary = TemporaryPath(path);
+  if (IsWriteProtected(path) || !WriteNewFile(temporary, bytes)) return false;
+  if (ReplaceByRename(temporary, path)) return true;
+  RemoveFile(temporary);
   return false;
 }
 

@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,11 +37,6 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 // Whether there is a file that can be opened for reading.
 bool FileExists(const std::string& path);
 
-// Adds `text` to the end of the file, which is made when it is missing, for an empty text too.
-// Every line end of the text goes to disk as CR LF. The file is replaced by a longer one, so that
-// no crash leaves half a record. False when the file is not longer by all of the text.
-[[nodiscard]] bool AppendToFile(const std::string& path, std::string_view text);
-
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. A
 // write-protected file is not replaced. False when the old ones remain.
@@ -50,16 +44,6 @@ bool FileExists(const std::string& path);
 
 // For a write whose failure nobody is told, on purpose.
 inline void PassOver(bool /*written*/) {}
-
-struct FileBytes {
-  std::string path;
-  std::string bytes;
-};
-
-// Does the same with several files that belong together: when one of them cannot be written, all
-// stay as they were. Only a crash can come between two of them, or a disk that also refuses what
-// was there before. False when the old bytes remain.
-[[nodiscard]] bool ReplaceFiles(std::span<const FileBytes> files);
 
 // Makes a file of these bytes, which are on the disk then. False, and no such file, when the system
 // could not.

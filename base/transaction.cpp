@@ -36,7 +36,11 @@ bool PutAside(const std::string& note) {
 std::optional<bool> IsWhole(const std::string& folder, const Change& change) {
   if (change.kind != ChangeKind::kReplace) return true;
   const std::string path = PathOf(folder, change.beside);
-  if (!IsThere(path)) return true;  // has taken its place
+  errno = 0;
+  if (!File(OpenFile(path, "rb"))) {
+    const bool has_taken_its_place = errno == ENOENT;
+    return has_taken_its_place ? std::optional<bool>(true) : std::nullopt;
+  }
   const std::optional<std::string> bytes =
       ReadFileToRewrite(path, static_cast<std::size_t>(change.size) + 1);
   if (!bytes) return std::nullopt;
@@ -91,7 +95,9 @@ void Transaction::Remove(const std::string& path) {
 }
 
 void Transaction::MakeFolder(const std::string& path) {
-  if (!HasFolder(path + kPathSeparator)) Put(ChangeKind::kMakeFolder, path);
+  if (HasFolder(path + kPathSeparator)) return;
+  Put(ChangeKind::kMakeFolder, path);
+  if (IsThere(path)) has_failed_ = true;  // something else has the name
 }
 
 void Transaction::RemoveFolder(const std::string& path) {
@@ -207,9 +213,12 @@ bool Transaction::MakeWrittenDown() const {
 bool Transaction::TakeBackUpTo(const Change& refused) const {
   for (const Change& change : changes_) {
     const bool can_be_taken_back = change.kind <= ChangeKind::kAppend;
-    if (can_be_taken_back && !TakeBack(folder_, change)) return false;
-    if (&change == &refused) return RemoveFile(NotePath(folder_));
-    if (!can_be_taken_back) return false;
+    const bool is_refused = &change == &refused;
+    if (!can_be_taken_back && !is_refused) return false;
+    // Of a text that was refused a part may stand there.
+    const bool is_made = can_be_taken_back && (!is_refused || change.kind == ChangeKind::kAppend);
+    if (is_made && !TakeBack(folder_, change)) return false;
+    if (is_refused) return RemoveFile(NotePath(folder_));
   }
   return false;
 }

@@ -62,6 +62,8 @@ class Transaction {
 
   // Makes the changes. False when nothing has changed. Once only; frees the lock.
   [[nodiscard]] bool Commit();
+  // The same where nobody is told of a failure: the screens show the files as they are.
+  void CommitUnreported() { static_cast<void>(Commit()); }
 
  private:
   Change* Put(ChangeKind kind, const std::string& path);

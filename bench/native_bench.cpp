@@ -48,6 +48,26 @@ constexpr GrowthRow kByProducts[] = {
      {nullptr, "ProductRemove/300/real_time", "ProductRemove/3000/real_time"}},
 };
 
+// With ten years of history.
+constexpr GrowthRow kQuickAdd[] = {
+    {"key, 1 letter",
+     {"QuickFindKey/0/0/40000", "QuickFindKey/0/300/40000", "QuickFindKey/0/3000/40000"}},
+    {"key, 3 letters",
+     {"QuickFindKey/1/0/40000", "QuickFindKey/1/300/40000", "QuickFindKey/1/3000/40000"}},
+    {"key, 2 words",
+     {"QuickFindKey/2/0/40000", "QuickFindKey/2/300/40000", "QuickFindKey/2/3000/40000"}},
+    {"key, nothing found",
+     {"QuickFindKey/3/0/40000", "QuickFindKey/3/300/40000", "QuickFindKey/3/3000/40000"}},
+    {"what is eaten at this time",
+     {"QuickFindEmpty/0/40000", "QuickFindEmpty/300/40000", "QuickFindEmpty/3000/40000"}},
+    {"first key after the products changed",
+     {"QuickFindFirstKey/0", "QuickFindFirstKey/300", "QuickFindFirstKey/3000"}},
+};
+
+constexpr GrowthRow kByHistory[] = {
+    {"habits read", {"HabitsRead/0", "HabitsRead/4000", "HabitsRead/40000"}},
+};
+
 constexpr GrowthRow kByBytes[] = {
     {"record added to a report",
      {"ReportAppend/1000/real_time", "ReportAppend/100000/real_time",
@@ -150,6 +170,10 @@ int Run(int argc, char** argv) {
   PrintComparisons("to the disk", "us", CompareFileWork());
   PrintComparisons("beside what is allowed", "us", CompareAllowed(medians));
   PrintGrowth("by products of the user's", "us", {"0", "300", "3000"}, Grow(medians, kByProducts));
+  PrintGrowth("quick add, by products of the user's", "us", {"0", "300", "3000"},
+              Grow(medians, kQuickAdd));
+  PrintGrowth("quick add, by lines of history", "us", {"0", "4,000", "40,000"},
+              Grow(medians, kByHistory));
   PrintGrowth("by days in the chart", "us", {"1", "20"}, GrowFileWork());
   PrintGrowth("by bytes of a report", "us", {"1,000", "100,000", "10,000,000"},
               Grow(medians, kByBytes));

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/weight_record.h"
 #include "charts/chart_file.h"
@@ -27,6 +27,7 @@ WeightRecordDialog::WeightRecordDialog(const SessionState& session, const Weight
 void WeightRecordDialog::OnOpen(Form& form) {
   for (const int id : {kRecordDate, kWeight, kBmi}) form.LimitText(id, kRecordTextLimit);
   form.LimitText(kRecordOther, kOtherLimit);
+  for (const int id : {kWeight, kBmi}) form.TakeNumbers(id);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWeight, weight_.text);
   if (bmi_.value > 0) form.SetText(kBmi, FormatNumber(bmi_.value, kRecordDigits));
@@ -47,10 +48,13 @@ void WeightRecordDialog::Save(Form& form) {
 }
 
 void WeightRecordDialog::Write(const UserFolder& user, const WeightRecord& record) {
-  PassOver(AppendToFile(user.File(kWeightReportFile), WeightRecordLine(record)));
+  Transaction deed(session_.base_folder);
+  deed.Append(user.File(kWeightReportFile), WeightRecordLine(record));
   // The chart goes by the days of the calendar, whatever date the report was given.
   const std::string fields[] = {record.weight, record.bmi};
-  PassOver(UpdateChartFile(user.File(kWeightSeriesFile), session_.date_text, fields));
+  if (UpdateChartFile(deed, user.File(kWeightSeriesFile), session_.date_text, fields)) {
+    deed.CommitUnreported();
+  }
 }
 
 }  // namespace velnor

@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
 #include "users/user_files.h"
@@ -25,6 +25,7 @@ WhrRecordDialog::WhrRecordDialog(const SessionState& session, const WhrResult& w
 void WhrRecordDialog::OnOpen(Form& form) {
   for (const int id : {kRecordDate, kWaist, kHip, kWhr}) form.LimitText(id, kRecordTextLimit);
   form.LimitText(kRecordOther, kOtherLimit);
+  for (const int id : {kWaist, kHip, kWhr}) form.TakeNumbers(id);
   form.SetText(kRecordDate, session_.date_text);
   form.SetText(kWaist, whr_.waist);
   form.SetText(kHip, whr_.hip);
@@ -44,7 +45,9 @@ void WhrRecordDialog::Save(Form& form) {
                             .other = form.ReadText(kRecordOther, kOtherLimit)};
   // Whether the record could be written is not reported.
   if (const auto path = session_.UserFile(kWhrReportFile)) {
-    PassOver(AppendToFile(*path, WhrRecordLine(record)));
+    Transaction deed(session_.base_folder);
+    deed.Append(*path, WhrRecordLine(record));
+    deed.CommitUnreported();
   }
   form.Close();
 }

@@ -1,5 +1,7 @@
 #include "charts/chart_file.h"
 
+#include "base/text_file.h"
+
 namespace velnor {
 namespace {
 
@@ -39,10 +41,10 @@ ChartSeries LoadChartFile(const std::string& path) {
   return SeriesOf(ReadFile(path, kChartSlots * (kLineLimit + 1)));
 }
 
-std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
-                                          std::span<const std::string> fields) {
+bool UpdateChartFile(Transaction& deed, const std::string& path, std::string_view date,
+                     std::span<const std::string> fields) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
-  if (!text) return std::nullopt;
+  if (!text) return false;
   const ChartSeries series = SeriesOf(*text);
 
   std::string day(date);
@@ -61,18 +63,17 @@ std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_v
       // A full slot is a piece of a line, whose rest, or whose end alone, is the next slot.
       if (slot.size() < kLineLimit) lines += '\n';
     }
-    return FileBytes{path, WithCrLf(lines + day)};
+    deed.Replace(path, WithCrLf(lines + day));
+    return true;
   }
-  if (!IsEmptySlot(series.slots[kFullSlot])) return FileBytes{path, WithCrLf(day)};
+  if (!IsEmptySlot(series.slots[kFullSlot])) {
+    deed.Replace(path, WithCrLf(day));
+    return true;
+  }
   // Someone who edited the file by hand may have left its last line open.
   const bool open = !text->empty() && text->back() != '\n';
-  return FileBytes{path, *text + WithCrLf(open ? '\n' + day : day)};
-}
-
-bool UpdateChartFile(const std::string& path, std::string_view date,
-                     std::span<const std::string> fields) {
-  const std::optional<FileBytes> file = UpdatedChartFile(path, date, fields);
-  return file && ReplaceFile(file->path, file->bytes);
+  deed.Append(path, open ? '\n' + day : day);
+  return true;
 }
 
 }  // namespace velnor

@@ -7,12 +7,11 @@
 
 #include <array>
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 
 namespace velnor {
 
@@ -32,16 +31,12 @@ bool IsEmptySlot(std::string_view slot);
 // its line end counted. A missing or unreadable file gives empty slots.
 ChartSeries LoadChartFile(const std::string& path);
 
-// What the series holds with the day's line in it, for who writes it together with other files: the
-// line replaces the newest one when that is of the same day (the first seven characters of the
-// dates agree), otherwise it becomes a line of its own. A new day that finds 21 lines starts the
-// series again. `date` has at least eight characters. Nothing when the file cannot be read.
-std::optional<FileBytes> UpdatedChartFile(const std::string& path, std::string_view date,
-                                          std::span<const std::string> fields);
-
-// Writes that. False when the file keeps what it held, which is not reported to anyone.
-[[nodiscard]] bool UpdateChartFile(const std::string& path, std::string_view date,
-                                   std::span<const std::string> fields);
+// Writes the day's line into the series: it replaces the newest line when that is of the same day
+// (the first seven characters of the dates agree), otherwise it becomes a line of its own. A new
+// day that finds 21 lines starts the series again. `date` has at least eight characters. Returns
+// false, and changes nothing, if the file cannot be read.
+[[nodiscard]] bool UpdateChartFile(Transaction& deed, const std::string& path,
+                                   std::string_view date, std::span<const std::string> fields);
 
 }  // namespace velnor
 

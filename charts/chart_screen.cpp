@@ -4,7 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/file_calls.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 #include "charts/chart.h"
 
 namespace velnor {
@@ -102,7 +104,11 @@ ChartSeries LoadSeries(const Chart& chart, const SessionState& session) {
   if (!session.user) return {};
   const std::string path = session.user->File(chart.file);
   ChartSeries series = LoadChartFile(path);
-  if (series.file_is_empty) PassOver(AppendToFile(path, ""));  // makes it when it is missing
+  if (series.file_is_empty && !IsThere(path)) {
+    Transaction deed(session.base_folder);
+    deed.Append(path, "");
+    deed.CommitUnreported();
+  }
   return series;
 }
 

@@ -1,10 +1,9 @@
 #include "diary/diary.h"
 
-#include <array>
 #include <utility>
 
 #include "base/number_text.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "diary/page.h"
 #include "diary/spreadsheet.h"
 #include "diary/weight_trend.h"
@@ -56,11 +55,12 @@ DiaryFiles MakeDiary(const DiaryInputs& inputs) {
           .deeds = DeedsSpreadsheet(content.table)};
 }
 
-bool WriteDiary(const UserFolder& user, const DiaryFiles& files) {
-  const std::array<FileBytes, 3> written = {{{user.File(kDiaryPageFile), files.page},
-                                             {user.File(kDiaryDaysFile), files.days},
-                                             {user.File(kDiaryDeedsFile), files.deeds}}};
-  return ReplaceFiles(written);
+bool WriteDiary(const std::string& base_folder, const UserFolder& user, const DiaryFiles& files) {
+  Transaction deed(base_folder);
+  deed.Replace(user.File(kDiaryPageFile), files.page);
+  deed.Replace(user.File(kDiaryDaysFile), files.days);
+  deed.Replace(user.File(kDiaryDeedsFile), files.deeds);
+  return deed.Commit();
 }
 
 }  // namespace velnor

@@ -32,8 +32,10 @@ struct DiaryFiles {
 // known.
 DiaryFiles MakeDiary(const DiaryInputs& inputs);
 
-// Writes the files into the folder of the user. False when they hold what they held before.
-[[nodiscard]] bool WriteDiary(const UserFolder& user, const DiaryFiles& files);
+// Writes the files into the folder of the user, which lies in `base_folder`, all of them or none.
+// Returns false if they hold what they held before.
+[[nodiscard]] bool WriteDiary(const std::string& base_folder, const UserFolder& user,
+                              const DiaryFiles& files);
 
 }  // namespace velnor
 

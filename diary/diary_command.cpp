@@ -34,7 +34,7 @@ void DiaryCommand::Run(const UserProfile& profile, const RequirementBounds& requ
                                       .requirement = requirement,
                                       .date_text = session_.date_text,
                                       .user_name = user.name()});
-  if (!WriteDiary(user, files)) {
+  if (!WriteDiary(session_.base_folder, user, files)) {
     message_boxes_.Show({.text = kNotWritten});
     return;
   }

@@ -22,7 +22,8 @@ std::string Figure(const std::optional<double>& figure, int decimals) {
 }
 
 std::string_view HourAndMinute(const HistoryEntry& entry) {
-  return std::string_view(entry.time).substr(0, 5);
+  const std::string_view time = entry.time;
+  return time.substr(0, 5);
 }
 
 // A line without a product says what it was: "day cleared", or "imported" for a whole day.

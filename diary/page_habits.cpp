@@ -63,6 +63,7 @@ std::string Foods(const DiaryContent& content) {
     energy.push_back({food.name, NumberText(food.kcal) + " kcal", food.kcal / most});
   }
   std::vector<RankRow> times;
+  times.reserve(by_times.size());
   for (const EatenFood& food : by_times) {
     times.push_back({food.name, CountText(static_cast<std::size_t>(food.times), "time", "times"),
                      static_cast<double>(food.times) / by_times.front().times});

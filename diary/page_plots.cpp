@@ -263,10 +263,11 @@ std::string Notes(const DiaryContent& content) {
 
 DayRange WholeRange(const DayTable& table, DayNumber today) {
   DayNumber first = today;
-  for (auto day = table.days.rbegin(); day != table.days.rend(); ++day) {
-    if (day->day > today) continue;
-    if (first - day->day > kLongestPause || today - day->day >= kLongestRange) break;
-    first = day->day;
+  for (std::size_t i = table.days.size(); i > 0; --i) {
+    const DayNumber day = table.days[i - 1].day;
+    if (day > today) continue;
+    if (first - day > kLongestPause || today - day >= kLongestRange) break;
+    first = day;
   }
   return {std::min(first, today - kWeekDays + 1), today};
 }
@@ -277,10 +278,10 @@ std::string PlotsSection(const DiaryContent& content) {
       "<section class=\"plots\" aria-labelledby=\"plots\">\n<h2 id=\"plots\">Over time</h2>\n"
       "<fieldset class=\"ranges\"><legend>Time shown by the plots</legend>";
   for (const RangeRow& row : kRanges) {
-    const std::string id = "r" + std::string(row.id);
-    text += "<input type=\"radio\" name=\"range\" id=\"" + id + "\"" +
-            (row.id == chosen ? " checked" : "") + "><label for=\"" + id + "\">" +
-            std::string(row.label) + "</label>";
+    const std::string id = 'r' + std::string(row.id);
+    text += R"(<input type="radio" name="range" id=")" + id;
+    text += row.id == chosen ? R"(" checked><label for=")" : R"("><label for=")";
+    text += id + "\">" + std::string(row.label) + "</label>";
   }
   text += "</fieldset>\n";
   for (const RangeRow& row : kRanges) text += RangePanel(content, row).Text();

@@ -49,7 +49,7 @@ std::string Percent(double share) {
 // A rail with the requirement on it and what was eaten as a bar.
 std::string Meter(const MeterRow& row, double eaten, const ValueBand& needed) {
   const std::string unit(row.unit);
-  std::string text = "<div class=\"meter\"><div class=\"names\"><span>" + std::string(row.name) +
+  std::string text = R"(<div class="meter"><div class="names"><span>)" + std::string(row.name) +
                      "</span><span><b>" + NumberText(eaten) + "</b>";
   if (!needed.IsKnown()) return text + ' ' + unit + "</span></div></div>\n";
   const double end = std::max(needed.upper * 1.25, 1.0);
@@ -57,14 +57,14 @@ std::string Meter(const MeterRow& row, double eaten, const ValueBand& needed) {
           "</span></div><div class=\"rail\" aria-hidden=\"true\"><span class=\"need\" "
           "style=\"left:" +
           Percent(needed.lower / end) + ";right:" + Percent(1 - needed.upper / end) +
-          "\"></span><span class=\"eaten\" style=\"width:" + Percent(eaten / end) +
+          R"("></span><span class="eaten" style="width:)" + Percent(eaten / end) +
           "\"></span></div></div>\n";
   return text;
 }
 
 std::string Tile(std::string_view what, const std::string& value, std::string_view unit,
                  const std::string& more) {
-  return "<div class=\"tile\"><p class=\"what\">" + std::string(what) + "</p><p class=\"value\">" +
+  return R"(<div class="tile"><p class="what">)" + std::string(what) + "</p><p class=\"value\">" +
          value + " <small>" + std::string(unit) + "</small></p><p class=\"more\">" + more +
          "</p></div>\n";
 }

@@ -34,7 +34,7 @@ void SvgPath::Dot(const PlotPoint& point) {
 SvgDrawing::SvgDrawing(const Head& head) {
   text_ = "<svg id=\"" + head.id + "\" class=\"" + std::string(head.css_class) +
           "\" viewBox=\"0 0 " + Coordinate(head.width) + ' ' + Coordinate(head.height) +
-          "\" role=\"img\" aria-labelledby=\"" + head.id + "-t " + head.id + "-d\"><title id=\"" +
+          R"(" role="img" aria-labelledby=")" + head.id + "-t " + head.id + "-d\"><title id=\"" +
           head.id + "-t\">" + head.title + "</title><desc id=\"" + head.id + "-d\">" +
           head.description + "</desc>\n";
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/code_page.h"
+#include "base/transaction.h"
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
 
@@ -39,10 +40,10 @@ bool BeginsWithDigit(const std::string& text) {
 
 }  // namespace
 
-AddProductDialog::AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
-                                   std::function<void()> on_changed)
+AddProductDialog::AddProductDialog(FoodTable& food, const SessionState& session,
+                                   MessageBoxes& message_boxes, std::function<void()> on_changed)
     : food_(food),
-      path_(std::move(path)),
+      session_(session),
       message_boxes_(message_boxes),
       on_changed_(std::move(on_changed)) {}
 
@@ -50,6 +51,7 @@ void AddProductDialog::OnOpen(Form& form) {
   form.LimitText(kName, kRemovableNameLimit);
   for (const int id : {kMass, kCalories, kProtein, kFat, kCarbohydrate}) {
     form.LimitText(id, kNumberLimit);
+    form.TakeNumbers(id);
   }
   form.SetText(kMass, kUsualProductMass);
   if (form.ItemCount(kMainCategory) > 0) return;
@@ -94,14 +96,18 @@ void AddProductDialog::Add(Form& form) {
     message_boxes_.Show({.text = kIncomplete});
   } else if (!BeginsWithDigit(protein) || !BeginsWithDigit(fat) || !BeginsWithDigit(carbohydrate)) {
     message_boxes_.Show({.text = kNotNumbers});
-  } else if (AddUserProduct(path_, {main_category, subcategory, name, mass, kcal, protein, fat,
-                                    carbohydrate})) {
+  } else if (Write({main_category, subcategory, name, mass, kcal, protein, fat, carbohydrate})) {
     message_boxes_.Show({.text = kAdded});
     form.SetText(kMass, kUsualProductMass);
     for (const int id : {kName, kProtein, kFat, kCarbohydrate, kCalories}) form.SetText(id, "");
   }
-  food_.user_products.Load(path_);
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
   on_changed_();
+}
+
+bool AddProductDialog::Write(const ProductRecord& product) const {
+  Transaction deed(session_.base_folder);
+  return AddUserProduct(deed, session_.BaseFile(kUserProductsFile), product) && deed.Commit();
 }
 
 }  // namespace velnor

@@ -8,6 +8,7 @@
 
 #include "base/dialog.h"
 #include "base/message_boxes.h"
+#include "base/session.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -16,9 +17,9 @@ inline constexpr int kAddProductResource = 10010;
 
 class AddProductDialog final : public Dialog {
  public:
-  // Adds to the file `path` and reloads the user's products of `food` from it; calls
-  // `on_changed` when they may be others than before.
-  AddProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+  // Adds to the file of own products and reloads those of `food` from it; calls `on_changed` when
+  // they may be others than before.
+  AddProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes,
                    std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
@@ -27,9 +28,10 @@ class AddProductDialog final : public Dialog {
  private:
   void OfferSubcategories(Form& form);
   void Add(Form& form);
+  bool Write(const ProductRecord& product) const;
 
   FoodTable& food_;
-  std::string path_;
+  const SessionState& session_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_changed_;
 };

@@ -1,6 +1,6 @@
 #include "food/calorie_record_dialog.h"
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -47,10 +47,12 @@ void CalorieRecordDialog::OnCommand(Form& form, int id, int notification) {
 void CalorieRecordDialog::Save(const Form& form) const {
   const std::optional<std::string> path = session_.UserFile(kCalorieReportFile);
   if (!path) return;
-  PassOver(AppendToFile(
+  Transaction deed(session_.base_folder);
+  deed.Append(
       *path,
       CalorieRecordText({form.ReadText(kDate, kTextLimit), totals_, exchanges_.last_carbohydrate(),
-                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)})));
+                         exchanges_.last_protein_fat(), form.ReadText(kOther, kTextLimit)}));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

@@ -13,7 +13,7 @@ constexpr PickerControls kControls = {.matching = Matching::kCounter,
                                       .fat = 131,
                                       .carbohydrate = 132,
                                       .weight_limit = kCounterWeightLimit,
-                                      .name_limit = 99};
+                                      .name_limit = kCounterNameLimit};
 
 constexpr std::string_view kNoValue = "   -";
 

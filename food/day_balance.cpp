@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <utility>
-#include <vector>
 
+#include "base/file_calls.h"
 #include "base/number_text.h"
+#include "base/text_file.h"
 #include "charts/chart_file.h"
 #include "users/user_files.h"
 
@@ -25,7 +25,7 @@ constexpr int kSeriesDigits = 6;
 // day of thousands, less than 0.0001 with each change. No food counts for so little.
 constexpr double kTotalRest = 1e-3;
 constexpr double kExchangeRest = 1e-4;
-constexpr double kRestDigits = kStoredDigits - 1;  // a rest is no unit of the last of these
+constexpr int kRestDigits = kStoredDigits - 1;  // a rest is less than a unit of the last of these
 
 // The eight characters that are read of an exchange file would take the digits of a figure such as
 // 1.2345678e-05 for the whole of it.
@@ -66,23 +66,46 @@ std::optional<double> ReadExchange(const std::string& path) {
   return ParseNumber(LineReader(*text, kExchangeLimit).Next().value_or(""));
 }
 
-bool EmptyFile(const std::string& path) {
-  const std::optional<std::string> text = ReadFileToRewrite(path, 1);
-  return text && (text->empty() || ReplaceFile(path, ""));
+bool IsToday(const BalanceLines& lines, const SessionState& session) {
+  return lines.front().starts_with(session.date_text);
+}
+
+// The balance of today as the deed finds it, or as it begins it.
+struct Today {
+  BalanceLines lines;
+  bool is_new;
+};
+
+std::optional<Today> BeginToday(Transaction& deed, const SessionState& session,
+                                const UserFolder& user) {
+  const std::string path = user.File(kBalanceFile);
+  const std::optional<BalanceLines> lines = ReadLines(path);
+  if (!lines) return std::nullopt;
+  if (IsToday(*lines, session)) return Today{*lines, false};
+  for (const std::string_view file : kExchangeFiles) {
+    const std::string exchange_path = user.File(file);
+    const std::optional<std::string> text = ReadFileToRewrite(exchange_path, 1);
+    if (!text) return std::nullopt;
+    if (!text->empty()) deed.Replace(exchange_path, "");
+  }
+  deed.Replace(path, session.date_text);
+  return Today{{session.date_text}, true};
 }
 
 // The balance of today: a new day is started when it is not.
 std::optional<BalanceLines> LinesOfToday(const SessionState& session) {
   if (!session.user) return std::nullopt;
-  const std::string path = session.user->File(kBalanceFile);
-  std::optional<BalanceLines> lines = ReadLines(path);
-  if (!lines || lines->front().starts_with(session.date_text)) return lines;
-  // The date comes last: when it stands, the day has been started whole.
-  for (const std::string_view file : kExchangeFiles) {
-    if (!EmptyFile(session.user->File(file))) return std::nullopt;
-  }
-  if (!ReplaceFile(path, session.date_text)) return std::nullopt;
-  return BalanceLines{session.date_text};
+  std::optional<BalanceLines> lines = ReadLines(session.user->File(kBalanceFile));
+  if (!lines || IsToday(*lines, session)) return lines;
+  Transaction deed(session.base_folder);
+  const std::optional<Today> today = BeginToday(deed, session, *session.user);
+  if (!today || !deed.Commit()) return std::nullopt;
+  return today->lines;
+}
+
+DayTotals TotalsIn(const BalanceLines& lines) {
+  const auto number = [&](std::size_t line) { return ParseNumber(lines[line]); };
+  return {number(1), number(2), number(3), number(4)};
 }
 
 }  // namespace
@@ -91,16 +114,19 @@ bool DayBalance::StartDayIfNew() { return LinesOfToday(session_).has_value(); }
 
 void DayBalance::MakeExchangeFiles() {
   if (!session_.user) return;
-  for (const std::string_view file : kExchangeFiles) {
-    PassOver(AppendToFile(session_.user->File(file), ""));
-  }
+  const auto is_there = [this](std::string_view file) {
+    return IsThere(session_.user->File(file));
+  };
+  if (std::ranges::all_of(kExchangeFiles, is_there)) return;
+  Transaction deed(session_.base_folder);
+  for (const std::string_view file : kExchangeFiles) deed.Append(session_.user->File(file), "");
+  deed.CommitUnreported();
 }
 
 std::optional<DayTotals> DayBalance::ReadTotals() {
   const std::optional<BalanceLines> lines = LinesOfToday(session_);
   if (!lines) return std::nullopt;
-  const auto number = [&](std::size_t line) { return ParseNumber((*lines)[line]); };
-  return DayTotals{number(1), number(2), number(3), number(4)};
+  return TotalsIn(*lines);
 }
 
 double DayBalance::ReadKcalOfAnyDay() const {
@@ -127,56 +153,51 @@ bool DayBalance::Make(Change change, const DayTotals& totals,
   const auto changed = [change](double figure, double by, double rest) {
     return change == Change::kAdd ? Sum(figure, by) : Difference(figure, by, rest);
   };
-  const std::optional<DayTotals> before = ReadTotals();
-  if (!before) return false;
-  const UserFolder& user = *session_.user;  // whose totals those are
+  if (!session_.user) return false;
+  const UserFolder& user = *session_.user;
+  Transaction deed(session_.base_folder);
+  const std::optional<Today> today = BeginToday(deed, session_, user);
+  if (!today) return false;
+  const DayTotals before = TotalsIn(today->lines);
   DayTotals after;
   for (double DayTotals::*const figure :
        {&DayTotals::kcal, &DayTotals::protein, &DayTotals::fat, &DayTotals::carbohydrate}) {
-    after.*figure = changed(*before.*figure, totals.*figure, kTotalRest);
+    after.*figure = changed(before.*figure, totals.*figure, kTotalRest);
   }
-  std::vector<FileBytes> exchange_files;
+  const std::string text = session_.date_text + '\n' + Stored(after.kcal) + '\n' +
+                           Stored(after.protein) + '\n' + Stored(after.fat) + '\n' +
+                           Stored(after.carbohydrate);
+  deed.Replace(user.File(kBalanceFile), WithCrLf(text));
   if (exchanges) {
     const double changes[] = {exchanges->carbohydrate, exchanges->protein_fat};
     for (std::size_t i = 0; i < kExchangeFiles.size(); ++i) {
       const std::string path = user.File(kExchangeFiles[i]);
-      const std::optional<double> exchange = ReadExchange(path);
+      const std::optional<double> exchange = today->is_new ? 0 : ReadExchange(path);
       if (!exchange) return false;
       const double figure = changed(*exchange, changes[i], kExchangeRest);
-      exchange_files.push_back({path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure)});
+      deed.Replace(path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure));
     }
   }
-  return Write(user,
-               session_.date_text + '\n' + Stored(after.kcal) + '\n' + Stored(after.protein) +
-                   '\n' + Stored(after.fat) + '\n' + Stored(after.carbohydrate),
-               after, exchange_files);
+  return UpdateSeries(deed, user, after) && deed.Commit();
 }
 
 bool DayBalance::Clear() {
   if (!session_.user) return false;
-  std::vector<FileBytes> exchange_files;
-  for (const std::string_view file : kExchangeFiles) {
-    exchange_files.push_back({session_.user->File(file), "0"});
-  }
-  return Write(*session_.user, session_.date_text, {}, exchange_files);
+  const UserFolder& user = *session_.user;
+  Transaction deed(session_.base_folder);
+  for (const std::string_view file : kExchangeFiles) deed.Replace(user.File(file), "0");
+  deed.Replace(user.File(kBalanceFile), session_.date_text);
+  return UpdateSeries(deed, user, {}) && deed.Commit();
 }
 
-// One after the other and not together, a failure would leave the day half changed, and a person
-// who tries again would count the other half twice.
-bool DayBalance::Write(const UserFolder& user, std::string_view balance, const DayTotals& totals,
-                       std::span<const FileBytes> exchange_files) {
+bool DayBalance::UpdateSeries(Transaction& deed, const UserFolder& user,
+                              const DayTotals& totals) const {
   const auto text = [](double figure) {
     return FormatNumber(static_cast<float>(figure), kSeriesDigits);
   };
-  std::optional<FileBytes> series =
-      UpdatedChartFile(user.File(kNutrientSeriesFile), session_.date_text,
-                       std::array{text(totals.kcal), text(totals.protein), text(totals.fat),
-                                  text(totals.carbohydrate)});
-  if (!series) return false;
-  std::vector<FileBytes> files = {{user.File(kBalanceFile), WithCrLf(balance)}};
-  files.insert(files.end(), exchange_files.begin(), exchange_files.end());
-  files.push_back(std::move(*series));
-  return ReplaceFiles(files);
+  return UpdateChartFile(deed, user.File(kNutrientSeriesFile), session_.date_text,
+                         std::array{text(totals.kcal), text(totals.protein), text(totals.fat),
+                                    text(totals.carbohydrate)});
 }
 
 }  // namespace velnor

@@ -7,12 +7,11 @@
 #define VELNOR_FOOD_DAY_BALANCE_H_
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
 #include "base/session.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 
 namespace velnor {
 
@@ -83,9 +82,8 @@ class DayBalance {
   enum class Change { kAdd, kTakeOff };
 
   bool Make(Change change, const DayTotals& totals, const std::optional<DayExchanges>& exchanges);
-  // Gives the balance those bytes and the series those totals, with `exchange_files`.
-  bool Write(const UserFolder& user, std::string_view balance, const DayTotals& totals,
-             std::span<const FileBytes> exchange_files);
+  // Brings the day's line of the chart series to those totals.
+  bool UpdateSeries(Transaction& deed, const UserFolder& user, const DayTotals& totals) const;
 
   const SessionState& session_;
 };

@@ -5,12 +5,12 @@
 #define VELNOR_FOOD_ENERGY_SCREEN_H_
 
 #include "activity/burned_calories.h"
-#include "food/energy_balance.h"
 #include "base/canvas.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "food/day_balance.h"
+#include "food/energy_balance.h"
 
 namespace velnor {
 

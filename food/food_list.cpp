@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "base/number_text.h"
-#include "food/nutrition.h"
 #include "food/product_rules.h"
 
 namespace velnor {
@@ -44,6 +43,14 @@ ListedFood ParseListLine(std::string_view line) {
   return {std::string(line.substr(0, gap)), std::string(weight.substr(0, weight.find(kUnit)))};
 }
 
+DayTotals ShownAmounts(const SelectedProduct& product, std::string_view weight) {
+  const NutrientAmounts amounts =
+      ScaleToWeight(product, ParseNumber(weight.substr(0, kCounterWeightLimit)));
+  const auto shown = [](float amount) { return ParseNumber(CounterText(amount)); };
+  return {shown(amounts.kcal), shown(amounts.protein), shown(amounts.fat),
+          shown(amounts.carbohydrate)};
+}
+
 bool CountsInTotals(std::string_view weight) { return !(ParseNumber(weight) < kLeastWeight); }
 
 DayTotals ListedAmounts(const FoodTable& food, const ListedFood& listed, FigureKind kind) {
@@ -53,11 +60,7 @@ DayTotals ListedAmounts(const FoodTable& food, const ListedFood& listed, FigureK
     return {ParseNumber(product->kcal), ParseNumber(product->protein), ParseNumber(product->fat),
             ParseNumber(product->carbohydrate)};
   }
-  const double weight = ParseNumber(listed.weight.substr(0, kCounterWeightLimit));
-  const NutrientAmounts amounts = ScaleToWeight(SelectedProduct::CopyOf(*product), weight);
-  const auto shown = [](float amount) { return ParseNumber(CounterText(amount)); };
-  return {shown(amounts.kcal), shown(amounts.protein), shown(amounts.fat),
-          shown(amounts.carbohydrate)};
+  return ShownAmounts(SelectedProduct::CopyOf(*product), listed.weight);
 }
 
 ListTotals TotalsAfter(const TotalTexts& shown, double weight_change, const DayTotals& change) {

@@ -10,6 +10,7 @@
 #include "food/calorie_record.h"
 #include "food/day_balance.h"
 #include "food/food_table.h"
+#include "food/nutrition.h"
 
 namespace velnor {
 
@@ -28,6 +29,13 @@ std::string ListLine(const ListedFood& food);
 // The food of a line: the name goes to the first two blanks in a row, the weight on to the next
 // "g". A line without two blanks is all name.
 ListedFood ParseListLine(std::string_view line);
+
+// Characters of a weight that the list takes.
+inline constexpr std::size_t kListedWeightLimit = 30;
+
+// What the counter shows for a typed weight of that product, and so what is added with it: traces
+// below 0.1 left out, six digits. Of the weight the first seven characters count.
+DayTotals ShownAmounts(const SelectedProduct& product, std::string_view weight);
 
 // Whether a weight is one to be eaten: 1 g or more. Smaller ones never enter the list's totals.
 bool CountsInTotals(std::string_view weight);

@@ -60,21 +60,40 @@ FoodListPanel::FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& 
 
 void FoodListPanel::Add(const std::string& product) {
   const auto number = [this](int id) { return ParseNumber(form_.ReadText(id, kNumberLimit)); };
-  const ListedFood listed = {product, ListedWeight(form_.ReadText(kWeight, kNumberLimit))};
-  const DayTotals amounts = {number(kKcal), number(kProtein), number(kFat), number(kCarbohydrate)};
+  Put({product,
+       form_.ReadText(kWeight, kListedWeightLimit),
+       {number(kKcal), number(kProtein), number(kFat), number(kCarbohydrate)}});
+}
+
+bool FoodListPanel::AddChosen(const WeighedFood& food) {
+  const ListedFood listed = {food.name, ListedWeight(food.weight)};
+  const std::string line = ListLine(listed);
+  if (!Put(food)) return false;
+  if (AmountsOf(line, listed) != food.amounts) {
+    lines_of_other_products_.push_back({line, food.amounts});
+  }
+  return true;
+}
+
+bool FoodListPanel::Put(const WeighedFood& food) {
+  const ListedFood listed = {food.name, ListedWeight(food.weight)};
   const bool counts = CountsInTotals(listed.weight);
   day_.MakeExchangeFiles();
-  if (!day_.Add(amounts, ExchangesOf(amounts, counts))) return ReportFailedWrite();
+  if (!day_.Add(food.amounts, ExchangesOf(food.amounts, counts))) {
+    ReportFailedWrite();
+    return false;
+  }
   const std::string line = ListLine(listed);
-  if (amounts == ListedAmounts(food_, listed, FigureKind::kOwn)) {
+  if (food.amounts == ListedAmounts(food_, listed, FigureKind::kOwn)) {
     lines_with_own_figures_.push_back(line);
   }
   form_.AddItem(kList, line);
-  if (!counts) {
+  if (counts) {
+    ChangeTotals(ParseNumber(listed.weight), food.amounts);
+  } else {
     message_boxes_.Show({.text = kTooLight});
-    return;
   }
-  ChangeTotals(ParseNumber(listed.weight), amounts);
+  return true;
 }
 
 void FoodListPanel::Remove() {
@@ -82,16 +101,32 @@ void FoodListPanel::Remove() {
   if (!line) return;
   if (line->size() > kLineLimit) line->resize(kLineLimit);
   const ListedFood listed = ParseListLine(*line);
-  const auto own = std::ranges::find(lines_with_own_figures_, *line);
-  const bool is_own = own != lines_with_own_figures_.end();
-  const DayTotals amounts =
-      ListedAmounts(food_, listed, is_own ? FigureKind::kOwn : FigureKind::kScaled);
+  const DayTotals amounts = AmountsOf(*line, listed);
   // A food that was refused for its weight is in the day's totals alone.
   const bool counts = CountsInTotals(listed.weight);
   if (!day_.TakeOff(amounts, ExchangesOf(amounts, counts))) return ReportFailedWrite();
   form_.RemoveSelectedItem(kList);
-  if (is_own) lines_with_own_figures_.erase(own);
+  Forget(*line);
   if (counts) ChangeTotals(-ParseNumber(listed.weight), -amounts);
+}
+
+DayTotals FoodListPanel::AmountsOf(const std::string& line, const ListedFood& listed) const {
+  const auto other = std::ranges::find(lines_of_other_products_, line, &AddedLine::line);
+  if (other != lines_of_other_products_.end()) return other->amounts;
+  const bool is_own =
+      std::ranges::find(lines_with_own_figures_, line) != lines_with_own_figures_.end();
+  return ListedAmounts(food_, listed, is_own ? FigureKind::kOwn : FigureKind::kScaled);
+}
+
+// One of them, as AmountsOf looks them through: the same line may stand in the list twice.
+void FoodListPanel::Forget(const std::string& line) {
+  const auto other = std::ranges::find(lines_of_other_products_, line, &AddedLine::line);
+  if (other != lines_of_other_products_.end()) {
+    lines_of_other_products_.erase(other);
+    return;
+  }
+  const auto own = std::ranges::find(lines_with_own_figures_, line);
+  if (own != lines_with_own_figures_.end()) lines_with_own_figures_.erase(own);
 }
 
 void FoodListPanel::ClearList() {
@@ -112,6 +147,7 @@ void FoodListPanel::ClearDay() {
 void FoodListPanel::Empty(std::string_view nothing) {
   form_.ClearItems(kList);
   lines_with_own_figures_.clear();
+  lines_of_other_products_.clear();
   left_out_ = {};
   for (const int id : kFields) form_.SetText(id, nothing);
   exchanges_.CountCarbohydrate(0);

@@ -19,6 +19,13 @@
 
 namespace velnor {
 
+// A food with what is in its weight.
+struct WeighedFood {
+  std::string name;
+  std::string weight;  // g, as it was typed
+  DayTotals amounts;   // as the counter shows them
+};
+
 class FoodListPanel {
  public:
   FoodListPanel(const FoodTable& food, DayBalance& day, Exchanges& exchanges, Form& form,
@@ -28,6 +35,10 @@ class FoodListPanel {
   // refused with a message, but only after the line and the day's totals were written. A balance
   // that cannot be written is reported; what was not written is not on the list either.
   void Add(const std::string& product);
+  // The same with a product that was chosen by its row and not by its name. Its name may stand for
+  // another one, or for none, so what its line takes off again is what was added with it. False
+  // when it could not be written.
+  [[nodiscard]] bool AddChosen(const WeighedFood& food);
   // Takes the selected food off the list and off the day. Without a selection nothing happens.
   void Remove();
   // Takes the whole list off the day and empties it.
@@ -45,6 +56,16 @@ class FoodListPanel {
   std::vector<std::string> Lines() const;
 
  private:
+  // A line of the list with what was added with it.
+  struct AddedLine {
+    std::string line;
+    DayTotals amounts;
+  };
+
+  // What both have in common. False when the day keeps what it held.
+  bool Put(const WeighedFood& food);
+  DayTotals AmountsOf(const std::string& line, const ListedFood& listed) const;
+  void Forget(const std::string& line);
   // Adds to the totals; what is taken off is negative.
   void ChangeTotals(double weight, const DayTotals& amounts);
   void ShowTotals(const ListTotals& totals);
@@ -58,6 +79,8 @@ class FoodListPanel {
   // The lines that were added with their products' own figures. They may hold traces, which the
   // same weight typed leaves out: what is taken off must be what was added.
   std::vector<std::string> lines_with_own_figures_;
+  // The lines of products that are not those that their names stand for.
+  std::vector<AddedLine> lines_of_other_products_;
   DayTotals left_out_;  // of the totals that are shown, by rounding
 };
 

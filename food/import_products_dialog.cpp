@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/text_file.h"
+#include "base/transaction.h"
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
 
@@ -52,9 +53,14 @@ std::optional<std::string> ReadTable(const std::string& path) {
 
 }  // namespace
 
-ImportProductsDialog::ImportProductsDialog(FoodTable& food, std::string path, MainWindow& window,
-                                           MessageBoxes& message_boxes)
-    : food_(food), path_(std::move(path)), window_(window), message_boxes_(message_boxes) {}
+ImportProductsDialog::ImportProductsDialog(FoodTable& food, const SessionState& session,
+                                           MainWindow& window, MessageBoxes& message_boxes,
+                                           std::function<void()> on_changed)
+    : food_(food),
+      session_(session),
+      window_(window),
+      message_boxes_(message_boxes),
+      on_changed_(std::move(on_changed)) {}
 
 void ImportProductsDialog::OnOpen(Form& form) {
   form.FillItems(kMainCategory, ListMainCategories(food_));
@@ -93,7 +99,7 @@ void ImportProductsDialog::Import(Form& form) {
     Say(kNotOpened);
     return;
   }
-  food_.user_products.Load(path_);  // what another program has added since counts too
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));  // what another program has added since counts too
   const ImportPlan plan = PlanImport(*bytes, food_,
                                      {form.SelectedText(kMainCategory).value_or(""),
                                       form.SelectedText(kSubcategory).value_or("")});
@@ -123,9 +129,15 @@ void ImportProductsDialog::CarryOut(const ImportPlan& plan) {
   for (const ImportedProduct& product : plan.products) {
     if (records.size() < plan.fitting) records.push_back(product.AsRecord());
   }
-  const bool written = records.empty() || AddUserProducts(path_, records);
-  food_.user_products.Load(path_);
+  const bool written = records.empty() || Write(records);
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
+  on_changed_();
   Say(written ? ImportReport(plan, records.size()) : std::string(kNotWritten));
+}
+
+bool ImportProductsDialog::Write(std::span<const ProductRecord> records) const {
+  Transaction deed(session_.base_folder);
+  return AddUserProducts(deed, session_.BaseFile(kUserProductsFile), records) && deed.Commit();
 }
 
 void ImportProductsDialog::Say(std::string_view text) {

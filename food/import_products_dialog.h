@@ -3,12 +3,15 @@
 #ifndef VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
 #define VELNOR_FOOD_IMPORT_PRODUCTS_DIALOG_H_
 
+#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "base/dialog.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
+#include "base/session.h"
 #include "food/food_table.h"
 #include "food/product_import.h"
 
@@ -18,9 +21,10 @@ inline constexpr int kImportProductsResource = 10023;
 
 class ImportProductsDialog final : public Dialog {
  public:
-  // Adds to the file `path` and reloads the user's products of `food` from it.
-  ImportProductsDialog(FoodTable& food, std::string path, MainWindow& window,
-                       MessageBoxes& message_boxes);
+  // Adds to the file of own products and reloads those of `food` from it; calls `on_changed` when
+  // they may be others than before.
+  ImportProductsDialog(FoodTable& food, const SessionState& session, MainWindow& window,
+                       MessageBoxes& message_boxes, std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -32,12 +36,14 @@ class ImportProductsDialog final : public Dialog {
   // Whether the plan is carried out, as far as the slots go; asks where that is not all of it.
   bool Confirm(const ImportPlan& plan);
   void CarryOut(const ImportPlan& plan);
+  bool Write(std::span<const ProductRecord> records) const;
   void Say(std::string_view text);
 
   FoodTable& food_;
-  std::string path_;
+  const SessionState& session_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
+  std::function<void()> on_changed_;
 };
 
 }  // namespace velnor

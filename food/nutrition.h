@@ -60,6 +60,8 @@ inline constexpr std::string_view kBelowTrace = "<0.1";
 
 // Characters of a weight that the nutrition counter weighs with.
 inline constexpr std::size_t kCounterWeightLimit = 7;
+// Characters of a chosen product's name that it keeps.
+inline constexpr std::size_t kCounterNameLimit = 99;
 // The same of the products overview.
 inline constexpr std::size_t kOverviewWeightLimit = 4;
 // Characters of a figure of the counter, its weight included, that goes on the food list.

@@ -1,6 +1,6 @@
 #include "food/recipe_record_dialog.h"
 
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "food/recipe_record.h"
 #include "users/user_files.h"
 
@@ -34,10 +34,11 @@ void RecipeRecordDialog::OnCommand(Form& form, int id, int notification) {
 void RecipeRecordDialog::Save(const Form& form) const {
   const std::optional<std::string> path = session_.UserFile(kRecipeReportFile);
   if (!path) return;
-  PassOver(
-      AppendToFile(*path, RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
-                                            list_.Totals(kTotalLimit), composition_,
-                                            form.ReadText(kRecipe, kRecipeLimit)})));
+  Transaction deed(session_.base_folder);
+  deed.Append(*path, RecipeRecordText({session_.date_text, form.ReadText(kName, kNameLimit),
+                                       list_.Totals(kTotalLimit), composition_,
+                                       form.ReadText(kRecipe, kRecipeLimit)}));
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

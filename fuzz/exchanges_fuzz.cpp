@@ -17,13 +17,20 @@ constexpr int kOpenBalance = 233;
 constexpr int kClearList = 146;
 
 // Eight characters are read of a file, which hold all figures that a day of a person's can reach.
-bool IsOfThisWorld(double exchange) { return exchange < 1e6; }
+bool IsOfThisWorld(double exchange) { return std::abs(exchange) < 1e6; }
+
+void RequireExchange(double got, double before, double expected) {
+  if (!IsOfThisWorld(before)) return;
+  Require(std::abs(got - expected) <= 1e-3 + 1e-5 * std::abs(expected),
+          "the exchanges are what was there and what was eaten");
+}
 
 void RequireSum(double sum, double before, double added) {
-  if (!IsOfThisWorld(before)) return;
-  const double expected = std::max(0.0, before + added);
-  Require(std::abs(sum - expected) <= 1e-3 + 1e-5 * expected,
-          "the exchanges are what was there and what was eaten");
+  RequireExchange(sum, before, before + added);
+}
+
+void RequireRest(double rest, double before, double taken) {
+  RequireExchange(rest, before, std::max(0.0, before - taken));
 }
 
 void Eat(ProgramRun& run) {
@@ -37,8 +44,8 @@ void Eat(ProgramRun& run) {
   run.Open(kOpenBalance);
   TakeOffFirst(run);
   const DayExchanges rest = day.ReadExchanges();
-  RequireSum(rest.carbohydrate, after.carbohydrate, -1.35);
-  RequireSum(rest.protein_fat, after.protein_fat, -0.16);
+  RequireRest(rest.carbohydrate, after.carbohydrate, 1.35);
+  RequireRest(rest.protein_fat, after.protein_fat, 0.16);
   RequireSoundDay(run);
 }
 

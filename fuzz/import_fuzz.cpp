@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<ProductRecord> records;
   for (std::size_t i = 0; i < plan.fitting; ++i) records.push_back(plan.products[i].AsRecord());
   if (records.empty()) return 0;
-  Require(AddUserProducts(path, records), "the products are written");
+  Require(Committed(folder.path(), AddUserProducts, path, records), "the products are written");
   food.user_products.Load(path);
   const auto products = food.user_products.products();
   Require(products.size() == records.size(), "a product is a line");

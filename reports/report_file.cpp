@@ -1,12 +1,12 @@
 #include "reports/report_file.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <optional>
 
 #include "base/file_calls.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 
 namespace velnor {
 namespace {
@@ -34,32 +34,34 @@ std::string LoadReport(const std::string& path) {
   return bytes;
 }
 
-bool ClearReport(const std::string& path) {
+bool ClearReport(const std::string& folder, const std::string& path) {
+  Transaction deed(folder);
   // One byte tells a file from what only looks like one.
   const std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), 1);
   if (!kept || !ReadFileToRewrite(path, 1)) return false;
-  // What cannot be taken back comes last: an empty file of kept bytes that stays says nothing.
-  const FileBytes files[] = {{path, ""}, {RestPath(path), ""}};
-  if (kept->empty() ? !ReplaceFile(path, "") : !ReplaceFiles(files)) return false;
-  std::remove(RestPath(path).c_str());
-  return true;
+  deed.Replace(path, "");
+  deed.Remove(RestPath(path));
+  return deed.Commit();
 }
 
-bool SaveReport(const std::string& path, std::string_view shown, std::string_view text) {
-  if (!FileExists(path) || IsWriteProtected(path)) return false;
+bool SaveReport(const std::string& folder, const std::string& path, std::string_view shown,
+                std::string_view text) {
+  Transaction deed(folder);
+  if (!FileExists(path)) return false;
   const std::optional<std::string> old = ReadFileToRewrite(path, kWholeFile);
   if (!old) return false;
   // A record may have been appended since it was shown. A file that has changed altogether was
   // never shown as it is now.
   const std::size_t seen = old->starts_with(shown) ? shown.size() : 0;
   const std::string_view rest = std::string_view{*old}.substr(seen);
-  if (rest.empty()) return ReplaceFile(path, text);
+  deed.Replace(path, text);
+  if (rest.empty()) return deed.Commit();
   // Added to what earlier saves have kept; what stands there is never lost.
   std::optional<std::string> kept = ReadFileToRewrite(RestPath(path), kWholeFile);
   if (!kept) return false;
   if (!kept->empty() && !kept->ends_with('\n')) *kept += "\r\n";
-  const FileBytes files[] = {{RestPath(path), kept->append(rest)}, {path, std::string(text)}};
-  return ReplaceFiles(files);
+  deed.Replace(RestPath(path), kept->append(rest));
+  return deed.Commit();
 }
 
 bool HasRest(const std::string& path) { return !ReadFile(RestPath(path), 1).empty(); }

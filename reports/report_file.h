@@ -32,16 +32,18 @@ inline constexpr std::size_t kReportLimit = 29'999;
 // that is missing or cannot be read shows nothing.
 std::string LoadReport(const std::string& path);
 
+// `folder`, here and below: the start-up folder, with a separator at its end.
+//
 // Makes the file empty, and makes an empty one when it is missing. What was kept at RestPath goes
-// with it. False when both stay as they were, which is what files do that cannot be read.
-[[nodiscard]] bool ClearReport(const std::string& path);
+// with it. Returns false if both stay as they were, as files do that cannot be read.
+[[nodiscard]] bool ClearReport(const std::string& folder, const std::string& path);
 
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person
 // began to work on the text; bytes of the file that are not in it were never seen by anybody, and
 // are added to the file at RestPath first. A missing file is not made. False when the file stays as
 // it was.
-[[nodiscard]] bool SaveReport(const std::string& path, std::string_view shown,
-                              std::string_view text);
+[[nodiscard]] bool SaveReport(const std::string& folder, const std::string& path,
+                              std::string_view shown, std::string_view text);
 
 // Whether anything is kept at RestPath.
 bool HasRest(const std::string& path);

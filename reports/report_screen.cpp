@@ -59,7 +59,7 @@ void ReportScreen::ShowFile() {
 void ReportScreen::Clear() {
   const std::optional<std::string> path = Path();
   if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  if (ClearReport(*path)) unsaved_path_.reset();
+  if (ClearReport(session_.base_folder, *path)) unsaved_path_.reset();
   window_.Invalidate();
 }
 
@@ -73,7 +73,7 @@ void ReportScreen::Save() {
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const Shown shown = shown_;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  if (SaveReport(*path, shown.bytes, text)) {
+  if (SaveReport(session_.base_folder, *path, shown.bytes, text)) {
     unsaved_path_.reset();
   } else {
     unsaved_path_ = path;

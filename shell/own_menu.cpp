@@ -16,7 +16,7 @@ constexpr OwnMenuItem kItems[] = {
 std::span<const OwnMenuItem> OwnMenuItems() { return kItems; }
 
 bool CanBeChosen(const OwnMenuItem& item, const SessionState& session) {
-  return !item.needs_user || !session.user_name.empty();
+  return !item.needs_user || session.user.has_value();
 }
 
 bool RunOwnMenuItem(Program& program, int id, std::span<const OwnMenuItem> items) {

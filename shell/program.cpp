@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "activity/burned_record_dialog.h"
+#include "base/text_file.h"
+#include "base/transaction.h"
 #include "body/weight_record_dialog.h"
 #include "body/whr_record_dialog.h"
 #include "food/add_product_dialog.h"
@@ -93,11 +95,13 @@ Program::Program(std::string base_folder, std::string date_text, Form& form, Mai
       energy_(day_, burned_total_, form, window, message_boxes) {}
 
 void Program::Start() {
+  OpenDataFolder(session_.base_folder);
   ApplyMenuState(MenuState::kLoggedOut, window_);
   food_.user_products.Load(session_.BaseFile(kUserProductsFile));
 }
 
 void Program::OnCommand(int id, int notification) {
+  FinishWhatWasBegun(session_.base_folder);
   if (RunCommand(*this, id)) return;
   for (const ControlEvent& event : kControlEvents) {
     if (event.id == id && event.notification == notification) event.run(*this);
@@ -109,6 +113,7 @@ bool Program::OnMouseWheel(std::int32_t movement) { return reports_.OnMouseWheel
 void Program::HideControls() { form_.HideAll(); }
 
 void Program::Paint(Canvas& canvas) {
+  FinishWhatWasBegun(session_.base_folder);
   const auto screen = std::ranges::find(Screens(), session_.screen, &ScreenRow::id);
   if (screen == Screens().end()) return;
   canvas.CopyBackground(screen->background);
@@ -164,21 +169,21 @@ void Program::OpenProfile() {
 }
 
 void Program::OpenAddProduct() {
-  window_.OpenDialog(kAddProductResource, std::make_unique<AddProductDialog>(
-                                              food_, session_.BaseFile(kUserProductsFile),
-                                              message_boxes_, [this] { OnProductsChanged(); }));
+  window_.OpenDialog(kAddProductResource,
+                     std::make_unique<AddProductDialog>(food_, session_, message_boxes_,
+                                                        [this] { OnProductsChanged(); }));
 }
 
 void Program::OpenImportProducts() {
-  window_.OpenDialog(kImportProductsResource,
-                     std::make_unique<ImportProductsDialog>(
-                         food_, session_.BaseFile(kUserProductsFile), window_, message_boxes_));
+  window_.OpenDialog(kImportProductsResource, std::make_unique<ImportProductsDialog>(
+                                                  food_, session_, window_, message_boxes_,
+                                                  [this] { OnProductsChanged(); }));
 }
 
 void Program::OpenRemoveProduct() {
-  window_.OpenDialog(kRemoveProductResource, std::make_unique<RemoveProductDialog>(
-                                                 food_, session_.BaseFile(kUserProductsFile),
-                                                 message_boxes_, [this] { OnProductsChanged(); }));
+  window_.OpenDialog(kRemoveProductResource,
+                     std::make_unique<RemoveProductDialog>(food_, session_, message_boxes_,
+                                                           [this] { OnProductsChanged(); }));
 }
 
 void Program::OnProductsChanged() {

@@ -46,13 +46,13 @@ bool IsComplete(const UserProfile& profile) {
          profile.sex.size() >= kShortestWord && profile.life_style.size() >= kShortestWord;
 }
 
-bool WriteProfileLines(const std::string& path, const ProfileLines& lines) {
+void WriteProfileLines(Transaction& deed, const std::string& path, const ProfileLines& lines) {
   std::string text;
   for (const std::string& line : lines) {
     if (!text.empty()) text += '\n';
     text += line.empty() ? "0" : line;
   }
-  return ReplaceFile(path, WithCrLf(text));
+  deed.Replace(path, WithCrLf(text));
 }
 
 }  // namespace velnor

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/transaction.h"
+
 namespace velnor {
 
 // Texts as they were typed or chosen, at most kLimit characters each. Readers test sex and other by
@@ -45,9 +47,8 @@ UserProfile ProfileOf(const ProfileLines& lines);
 // Whether age and height are known and sex and life style have three characters or more.
 bool IsComplete(const UserProfile& profile);
 
-// Writes the lines, "0" for each empty one, without a line end behind the last. False when the file
-// keeps what it held.
-[[nodiscard]] bool WriteProfileLines(const std::string& path, const ProfileLines& lines);
+// Writes the lines, "0" for each empty one, without a line end behind the last.
+void WriteProfileLines(Transaction& deed, const std::string& path, const ProfileLines& lines);
 
 }  // namespace velnor
 

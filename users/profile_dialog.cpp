@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "base/file_calls.h"
-#include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -49,7 +49,10 @@ ProfileDialog::ProfileDialog(SessionState& session, UserProfile& profile, MainWi
     : session_(session), profile_(profile), window_(window), message_boxes_(message_boxes) {}
 
 void ProfileDialog::OnOpen(Form& form) {
-  for (const int id : {kAge, kHeight}) form.LimitText(id, kTypedLimit);
+  for (const int id : {kAge, kHeight}) {
+    form.LimitText(id, kTypedLimit);
+    form.TakeNumbers(id);
+  }
   form.FillItems(kSex, kSexes);
   form.FillItems(kLifeStyle, kLifeStyles);
   form.FillItems(kOther, kOthers);
@@ -101,9 +104,10 @@ void ProfileDialog::Save(Form& form) {
     if (is_closed_) return;
     other = "0";
   }
-  const std::string path = session_.user->File(kProfileFile);
-  if (!HasFolder(path)) MakeFolder(session_.user->path());
-  PassOver(WriteProfileLines(path, lines));
+  Transaction deed(session_.base_folder);
+  deed.MakeFolder(session_.user->path());
+  WriteProfileLines(deed, session_.user->File(kProfileFile), lines);
+  deed.CommitUnreported();
   for (std::string& line : lines) {
     if (line.empty()) line = "0";
     line.resize(std::min(line.size(), UserProfile::kLimit));

@@ -5,6 +5,7 @@
 #include "base/code_page.h"
 #include "base/file_calls.h"
 #include "base/text_file.h"
+#include "base/transaction.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -19,12 +20,6 @@ std::optional<std::string> TypedPath(const SessionState& session, const std::str
   if (user.empty()) return session.BaseFile(file_name);
   const std::optional<UserFolder> folder = UserFolder::In(session.base_folder, user);
   return folder ? std::optional(folder->File(file_name)) : std::nullopt;
-}
-
-// A file and what an interrupted write of it has left.
-void DeleteWithTemporary(const std::string& path) {
-  RemoveFile(path);
-  RemoveFile(TemporaryPath(path));
 }
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
@@ -95,22 +90,24 @@ std::optional<std::string> FindNamesake(const SessionState& session,
 void CreateUserFiles(const SessionState& session, const std::string& user) {
   const std::optional<UserFolder> folder = UserFolder::In(session.base_folder, user);
   if (!folder) return;
-  MakeFolder(folder->path());
+  Transaction deed(session.base_folder);
+  deed.MakeFolder(folder->path());
   for (const UserFile& file : UserFiles()) {
-    if (file.made_with_user) PassOver(ReplaceFile(folder->File(file.name), ""));
+    if (file.made_with_user) deed.Replace(folder->File(file.name), "");
   }
+  deed.CommitUnreported();
 }
 
 void DeleteUserFiles(const SessionState& session, const std::string& user) {
+  Transaction deed(session.base_folder);
   for (const UserFile& file : UserFiles()) {
     const std::optional<std::string> path = TypedPath(session, user, file.name);
     if (!path) return;
-    if (file.goes_with_user) RemoveFile(*path);
-    // What an interrupted write has left is nobody's, of the files that stay too.
-    RemoveFile(TemporaryPath(*path));
-    if (file.is_report) DeleteWithTemporary(RestPath(*path));
+    if (file.goes_with_user) deed.Remove(*path);
+    if (file.is_report) deed.Remove(RestPath(*path));
   }
-  if (!user.empty()) RemoveFolder(session.base_folder + user);
+  if (!user.empty()) deed.RemoveFolder(session.base_folder + user);
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

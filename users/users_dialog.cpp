@@ -1,8 +1,13 @@
 #include "users/users_dialog.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
-#include "base/text_file.h"
+#include "base/file_calls.h"
+#include "base/transaction.h"
+#include "users/profile.h"
+#include "users/user_files.h"
 #include "users/user_registry.h"
 
 namespace velnor {
@@ -33,6 +38,16 @@ UserRegistry Listed(const Form& form) {
   return registry;
 }
 
+// The names without as many of each as there are in `taken`.
+std::vector<std::string> Without(std::vector<std::string> names,
+                                 const std::vector<std::string>& taken) {
+  for (const std::string& name : taken) {
+    const auto found = std::ranges::find(names, name);
+    if (found != names.end()) names.erase(found);
+  }
+  return names;
+}
+
 // Users added behind a box move the entries below them. -1: the name is not listed any more.
 int IndexOf(const Form& form, std::string_view name) {
   int index = form.ItemCount(kUsers) - 1;
@@ -50,12 +65,10 @@ UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes
       on_removed_(std::move(on_removed)) {}
 
 void UsersDialog::OnOpen(Form& form) {
-  std::optional<UserRegistry> registry = ReadUserRegistry(session_.BaseFile(kRegistryFile));
+  opened_ = ReadUserRegistry(session_.BaseFile(kRegistryFile));
   form.LimitText(kName, kTypedLimit);
   form.Focus(kName);
-  if (!registry) return;
-  form.FillItems(kUsers, Views(registry->names));
-  rest_of_registry_ = std::move(registry->rest);
+  if (opened_) form.FillItems(kUsers, Views(opened_->names));
 }
 
 void UsersDialog::OnCommand(Form& form, int id, int notification) {
@@ -148,15 +161,30 @@ void UsersDialog::Remove(Form& form) {
 }
 
 void UsersDialog::Confirm(Form& form) {
-  UserRegistry registry = Listed(form);
-  // A list that could not be read is not overwritten with the little that is known of it.
-  if (rest_of_registry_) registry.rest = *rest_of_registry_;
-  if (!rest_of_registry_ ||
-      !ReplaceFile(session_.BaseFile(kRegistryFile), RegistryBytes(registry))) {
+  if (Write(form)) {
+    form.Close();
+  } else {
     Complain(kNotWritten);
-    return;
   }
-  form.Close();
+}
+
+// What another program has done to the list since the dialog opened stays done. A list that could
+// not be read is not overwritten with the little that is known of it.
+bool UsersDialog::Write(const Form& form) const {
+  Transaction deed(session_.base_folder);
+  const std::string path = session_.BaseFile(kRegistryFile);
+  std::optional<UserRegistry> registry = ReadUserRegistry(path);
+  if (!opened_ || !registry) return false;
+  std::vector<std::string> names = Listed(form).names;
+  for (const std::string& name : Without(registry->names, opened_->names)) names.push_back(name);
+  for (const std::string& name : Without(opened_->names, registry->names)) {
+    // Who has a profile still was not removed: somebody has spoilt the list.
+    const std::optional<UserFolder> folder = UserFolder::In(session_.base_folder, name);
+    if (!folder || !IsThere(folder->File(kProfileFile))) names = Without(names, {name});
+  }
+  registry->names = std::move(names);
+  deed.Replace(path, RegistryBytes(*registry));
+  return deed.Commit();
 }
 
 void UsersDialog::Complain(std::string_view text) {

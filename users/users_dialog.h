@@ -11,6 +11,7 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "users/user_registry.h"
 
 namespace velnor {
 
@@ -30,6 +31,7 @@ class UsersDialog final : public Dialog {
   void Add(Form& form);
   void Remove(Form& form);
   void Confirm(Form& form);
+  bool Write(const Form& form) const;
   // Whether the name can be a user's; a box says why not.
   bool Accept(const Form& form, const std::string& name);
   void Complain(std::string_view text);
@@ -39,8 +41,8 @@ class UsersDialog final : public Dialog {
   MessageBoxes& message_boxes_;
   std::function<void()> on_removed_;
   bool is_in_name_ = false;  // the focus
-  // What the file holds behind the names that fit; nothing when it could not be read.
-  std::optional<std::string> rest_of_registry_;
+  // The list as the file held it when the dialog opened; nothing when it could not be read.
+  std::optional<UserRegistry> opened_;
 };
 
 }  // namespace velnor

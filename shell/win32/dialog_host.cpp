@@ -1,6 +1,7 @@
 #include "shell/win32/dialog_host.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "shell/win32/caption_icon.h"
@@ -42,6 +43,15 @@ class Host final : public WindowForm {
     DeleteWhenDone();
   }
 
+  bool TakesKey(int id, Key key) {
+    ++running_handlers_;
+    const bool taken =
+        BehindBarrier(window(), false, [&] { return dialog_->OnKey(*this, id, key); });
+    --running_handlers_;
+    DeleteWhenDone();
+    return taken;
+  }
+
   void WindowIsGone() {
     window_is_gone_ = true;
     DeleteWhenDone();
@@ -70,6 +80,16 @@ struct Opening {
     return new Host(window, std::move(modeless_dialog), std::move(on_close));
   }
 };
+
+struct KeyCode {
+  WPARAM code;
+  Key key;
+};
+constexpr KeyCode kKeyCodes[] = {{VK_RETURN, Key::kEnter},
+                                 {VK_UP, Key::kUp},
+                                 {VK_DOWN, Key::kDown},
+                                 {VK_PRIOR, Key::kPageUp},
+                                 {VK_NEXT, Key::kPageDown}};
 
 bool HasClass(HWND control, const char* class_name) {
   char name[16] = {};
@@ -162,6 +182,14 @@ HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
   }
   ShowWindow(window, SW_SHOW);
   return window;
+}
+
+bool OfferKey(HWND window, const MSG& message) {
+  if (message.message != WM_KEYDOWN || GetParent(message.hwnd) != window) return false;
+  const auto* const row = std::ranges::find(kKeyCodes, message.wParam, &KeyCode::code);
+  auto* const host = reinterpret_cast<Host*>(GetWindowLongPtrA(window, DWLP_USER));
+  if (row == std::end(kKeyCodes) || host == nullptr) return false;
+  return host->TakesKey(GetDlgCtrlID(message.hwnd), row->key);
 }
 
 }  // namespace velnor

@@ -119,7 +119,11 @@ GdiCanvas::~GdiCanvas() {
 
 void GdiCanvas::CopyBackground(std::string_view name) {
   const auto [picture, width, height] = resources_.PrepareBackground(name);
-  if (picture != nullptr) BitBlt(context_, 0, 0, width, height, picture, 0, 0, SRCCOPY);
+  if (picture == nullptr) {
+    is_complete_ = false;
+  } else {
+    BitBlt(context_, 0, 0, width, height, picture, 0, 0, SRCCOPY);
+  }
   RECT all = {};
   GetClipBox(context_, &all);
   const RECT right_of_it = {width, 0, all.right, height};

@@ -87,6 +87,9 @@ class GdiCanvas final : public Canvas {
   GdiCanvas& operator=(const GdiCanvas&) = delete;
   ~GdiCanvas() override;
 
+  // Whether everything has been drawn so far; not a background for which there was no memory.
+  bool is_complete() const { return is_complete_; }
+
   void CopyBackground(std::string_view name) override;
   void SetFont(const Font& font) override;
   void SetTextColour(Colour colour) override;
@@ -100,6 +103,7 @@ class GdiCanvas final : public Canvas {
   int saved_state_;
   GdiResources& resources_;
   HPEN pen_ = nullptr;
+  bool is_complete_ = true;
 };
 
 }  // namespace velnor

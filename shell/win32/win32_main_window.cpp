@@ -77,6 +77,7 @@ int Win32MainWindow::RunMessageLoop() {
 // What does not go to the control with the focus, and whether it was dealt with here.
 bool Win32MainWindow::TakeFirst(MSG& message) {
   if (screen_keys_->OnMessage(message)) return true;
+  if (modeless_dialog_ != nullptr && OfferKey(modeless_dialog_, message)) return true;
   if (modeless_dialog_ != nullptr && IsDialogMessageA(modeless_dialog_, &message) != 0) return true;
   // An edit would scroll as many lines at a turn of the wheel as it likes.
   const bool wheel = message.message == WM_MOUSEWHEEL && IsChild(window_, message.hwnd) != 0;
@@ -105,6 +106,7 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SIZE:
       client_width_ = LOWORD(lparam);
       client_height_ = HIWORD(lparam);
+      drawn_.reset();
       return 0;
     case WM_ERASEBKGND:  // the screens cover the client area with their picture
       return 0;
@@ -178,23 +180,35 @@ void Win32MainWindow::OnPaint() {
   // Hiding the control that has the focus takes the focus away; a screen that shows it again gets
   // it back.
   const HWND focused = GetFocus();
-  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   program_->HideControls();
-  const HDC picture = back_buffer_.Begin(client_width_, client_height_);
-  if (picture != nullptr) {
-    GdiCanvas canvas(picture, surface_, resources_);
-    program_->Paint(canvas);
+  Painting painting;
+  program_->Paint(painting);
+  if (DrawInMemory(std::move(painting))) {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
   }
   form_->HideTheRest();
   PAINTSTRUCT paint;
   const HDC context = BeginPaint(window_, &paint);
   form_->ClipTo(context);
+  const HDC picture = back_buffer_.Begin(client_width_, client_height_);
   BitBlt(context, 0, 0, client_width_, client_height_, picture, 0, 0, SRCCOPY);
   EndPaint(window_, &paint);
   form_->ShowChosen();
   FocusIfShown(focused);
   screen_keys_->ForgetFrame();
   program_->FinishPaint();
+}
+
+// Returns false if the picture in memory shows this painting already.
+bool Win32MainWindow::DrawInMemory(Painting painting) {
+  if (drawn_ == painting) return false;
+  drawn_.reset();
+  const HDC picture = back_buffer_.Begin(client_width_, client_height_);
+  if (picture == nullptr) return true;
+  GdiCanvas canvas(picture, surface_, resources_);
+  painting.DrawOn(canvas);
+  if (canvas.is_complete()) drawn_ = std::move(painting);
+  return true;
 }
 
 // The platform gives the focus to the window itself when it comes to the front again; it belongs to

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/main_window.h"
+#include "shell/painting.h"
 #include "shell/program.h"
 #include "shell/win32/gdi_canvas.h"
 #include "shell/win32/own_menus.h"
@@ -53,6 +54,7 @@ class Win32MainWindow final : public MainWindow {
   void OnPaint();
   void OnAccessibility();
   bool TakeFirst(MSG& message);
+  bool DrawInMemory(Painting painting);
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;
 
@@ -67,6 +69,7 @@ class Win32MainWindow final : public MainWindow {
   std::vector<HWND> session_dialogs_;  // the open ones
   GdiResources resources_;
   MemoryPicture back_buffer_;
+  std::optional<Painting> drawn_;  // what the picture in memory shows; nothing: what, is not known
   std::optional<MainForm> form_;
   std::optional<Win32MessageBoxes> message_boxes_;
   std::optional<Program> program_;

@@ -88,10 +88,9 @@ bool IsFrame(HWND control) {
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
-bool IsSortedListBox(HWND list) {
-  return &MessagesOf(list) == &kListBoxMessages &&
-         (GetWindowLongA(list, GWL_STYLE) & LBS_SORT) != 0;
-}
+bool IsListBox(HWND list) { return &MessagesOf(list) == &kListBoxMessages; }
+
+bool IsSorted(HWND list_box) { return (GetWindowLongA(list_box, GWL_STYLE) & LBS_SORT) != 0; }
 
 // Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
 // its own order and has not to look for the place of each.
@@ -102,7 +101,7 @@ void Append(HWND list, std::span<const std::string_view> texts) {
   for (const std::string_view text : texts) bytes += text.size() + 1;
   SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
   std::optional<std::vector<std::string>> ordered;
-  if (IsSortedListBox(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+  if (IsListBox(list) && IsSorted(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
     ordered = OrderOfList(list, texts);
   }
   if (ordered) {
@@ -117,11 +116,12 @@ void Append(HWND list, std::span<const std::string_view> texts) {
   if ((GetWindowLongA(list, GWL_STYLE) & WS_HSCROLL) != 0) WidenTo(list, texts);
 }
 
-// While it lives, a list is not drawn; then it is, once. A hidden one is left alone: nothing of it
-// is drawn anyway, and allowing it to be drawn again would show it.
+// While it lives, a list box is not drawn; then it is, once. A hidden one is left alone: nothing of
+// it is drawn anyway, and allowing it to be drawn again would show it. So is the list of a combo
+// box, which drops down later.
 class DrawnAtTheEnd {
  public:
-  explicit DrawnAtTheEnd(HWND list) : list_(IsShown(list) ? list : nullptr) {
+  explicit DrawnAtTheEnd(HWND list) : list_(IsListBox(list) && IsShown(list) ? list : nullptr) {
     if (list_ != nullptr) SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
   }
   DrawnAtTheEnd(const DrawnAtTheEnd&) = delete;
@@ -200,11 +200,16 @@ void WindowForm::SelectItem(int id, int index) {
   SendMessageA(control, MessagesOf(control).select, static_cast<WPARAM>(index), 0);
 }
 
-std::optional<std::string> WindowForm::SelectedText(int id) const {
+std::optional<int> WindowForm::SelectedItem(int id) const {
   const HWND control = Control(id);
   const LRESULT selection = SendMessageA(control, MessagesOf(control).selection, 0, 0);
   if (control == nullptr || selection < 0) return std::nullopt;
-  return ItemText(id, static_cast<int>(selection));
+  return static_cast<int>(selection);
+}
+
+std::optional<std::string> WindowForm::SelectedText(int id) const {
+  const std::optional<int> selection = SelectedItem(id);
+  return selection ? std::optional(ItemText(id, *selection)) : std::nullopt;
 }
 
 void WindowForm::RemoveSelectedItem(int id) {
@@ -217,6 +222,8 @@ void WindowForm::RemoveItem(int id, int index) {
 }
 
 void WindowForm::Focus(int id) { SetFocus(Control(id)); }
+
+void WindowForm::SelectAllText(int id) { SendMessageA(Control(id), EM_SETSEL, 0, -1); }
 
 void WindowForm::SetDefaultButton(int id) {
   SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);

@@ -30,10 +30,12 @@ class WindowForm : public Form {
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
+  std::optional<int> SelectedItem(int id) const override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SelectAllText(int id) override;
   void SetDefaultButton(int id) override;
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;

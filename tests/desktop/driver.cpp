@@ -72,6 +72,14 @@ HWND FindTopWindow(DWORD process_id, const char* class_name, HWND known = nullpt
   return nullptr;
 }
 
+std::wstring Wide(const std::string& narrow) {
+  const int size = static_cast<int>(narrow.size());
+  std::wstring wide(narrow.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_ACP, 0, narrow.data(), size, wide.data(), size)));
+  return wide;
+}
+
 std::string ToNarrow(const std::wstring& wide) {
   const int size = static_cast<int>(wide.size());
   std::string narrow(wide.size() * 2, '\0');
@@ -281,13 +289,15 @@ void Window::SavePicture(const std::string& path) const {
 
 App::App(const WorkFolder& folder) : App(ProgramPath(), folder) {}
 
-App::App(const std::string& program, const Folder& folder) {
-  std::string command_line = '"' + program + '"';
-  STARTUPINFOA start = {};
+App::App(const std::string& program, const Folder& folder) : App(program, Wide(folder.path())) {}
+
+App::App(const std::string& program, const std::wstring& folder) {
+  std::wstring command_line = L'"' + Wide(program) + L'"';
+  STARTUPINFOW start = {};
   start.cb = sizeof start;
-  if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     folder.path().c_str(), &start, &process_) == 0) {
-    throw std::runtime_error("cannot start " + command_line);
+  if (CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     folder.c_str(), &start, &process_) == 0) {
+    throw std::runtime_error("cannot start " + program);
   }
   HWND window = nullptr;
   WaitUntil([&] {

@@ -88,6 +88,8 @@ class App {
   explicit App(const WorkFolder& folder);
   // The same with another copy of the program, by its path.
   App(const std::string& program, const Folder& folder);
+  // The same in a folder that may have any name.
+  App(const std::string& program, const std::wstring& folder);
   App(const App&) = delete;
   App& operator=(const App&) = delete;
   ~App();

@@ -116,6 +116,11 @@ TEST_F(Kill, AtAnyMomentLeavesWholeFiles) {
     }
     if (HasFailure()) FAIL() << "after kill " << i;
   }
+  {
+    const App app(folder_);  // clears them away
+  }
+  for (const std::string& name : folder_.Names("Ann")) EXPECT_FALSE(name.ends_with(".new")) << name;
+  EXPECT_EQ(folder_.Read("velnor.zapis"), std::nullopt);
   std::printf("%d kills; a half-written file lay beside a whole one %d times\n", kills,
               found_leftovers);
   // The next one starts, and writes what it should.

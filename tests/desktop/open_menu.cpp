@@ -24,6 +24,13 @@ HMENU MenuOf(HWND window) {
   return reinterpret_cast<HMENU>(SendMessageA(window, kGetMenuHandle, 0, 0));
 }
 
+bool IsInMenuMode(const App& app) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  const DWORD thread = GetWindowThreadProcessId(app.main().handle(), nullptr);
+  return GetGUIThreadInfo(thread, &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
+}
+
 }  // namespace
 
 OpenMenu::OpenMenu(const App& app) : app_(app), window_(nullptr) {
@@ -63,9 +70,13 @@ bool OpenMenu::Choose(int id) const {
   return WaitUntil([this] { return !MenuIsOpen(app_); });
 }
 
+// Of a menu that hangs on the title bar or the menu bar, the first press leaves the bar active.
 void OpenMenu::Close() const {
-  PressKey(VK_ESCAPE);
-  WaitUntil([this] { return !MenuIsOpen(app_); });
+  WaitUntil([this] {
+    if (!IsInMenuMode(app_)) return true;
+    PressKey(VK_ESCAPE);
+    return false;
+  });
 }
 
 bool MenuIsOpen(const App& app) { return FindMenuWindow(app) != nullptr; }

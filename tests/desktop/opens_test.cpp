@@ -151,8 +151,8 @@ TEST_F(Opens, ADayOpensNothingElse) {
     for (const Deed& deed : WorkingDay()) deed.act(app);
   }
   const std::vector<Call> inside = ExpectNothingOutside(process);
-  for (const char* const name : {"\\users.asc", "\\users.asc.new", "\\ann", "\\ann\\bilans.asc",
-                                 "\\ann\\waga.asc.new", "\\data.txt"}) {
+  for (const char* const name : {"\\users.asc", "\\ann", "\\ann\\bilans.asc", "\\ann\\waga.asc",
+                                 "\\data.txt", "\\velnor.zapis", "\\velnor.blokada"}) {
     EXPECT_TRUE(HasChanged(inside, name)) << name << ": is the trace what it was?";
   }
 }
@@ -257,7 +257,7 @@ TEST_F(HostileOpens, NoNameLeadsOutside) {
   EXPECT_EQ(LookBesideTheFolder(), beside);
   const std::vector<Call> inside = ExpectNothingOutside(process);
   EXPECT_TRUE(HasChanged(inside, "\\ann\\waga.asc"));
-  EXPECT_TRUE(HasChanged(inside, std::string(99, 'n') + "\\bilans.asc.new"));
+  EXPECT_TRUE(HasChanged(inside, std::string(99, 'n') + "\\bilans.asc"));
 }
 
 }  // namespace

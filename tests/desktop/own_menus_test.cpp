@@ -55,20 +55,18 @@ class OwnMenus : public testing::Test {
     WaitUntilGone(login.handle());
     app.Settle();
   }
-  // Of the title-bar menu what stands behind the platform's last item, "Close", and a separator.
+  // What stands in the title-bar menu behind the last separator.
   static std::vector<std::string> TitleBarLines(const App& app) {
     const OpenMenu menu = OpenMenu::OfTitleBar(app);
-    EXPECT_TRUE(menu.is_open());
+    if (!menu.is_open()) return {"no menu"};
     const std::vector<App::MenuItem> items = menu.Items();
     menu.Close();
-    std::size_t first = 0;
-    while (first < items.size() && items[first].id != SC_CLOSE) ++first;
-    if (first + 1 >= items.size()) return {};
-    EXPECT_EQ(items[first + 1].id, 0) << "a separator";
-    return Lines(items, first + 2);
+    std::size_t first = items.size();
+    while (first > 0 && items[first - 1].id != 0) --first;
+    return Lines(items, first);
   }
   static std::vector<std::string> ContextLines(const OpenMenu& menu) {
-    EXPECT_TRUE(menu.is_open());
+    if (!menu.is_open()) return {"no menu"};
     const std::vector<std::string> lines = Lines(menu.Items());
     menu.Close();
     return lines;

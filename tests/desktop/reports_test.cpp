@@ -197,9 +197,10 @@ TEST_F(Reports, AMissingReportIsClearedButNotSaved) {
   main().SetText(kText, "new");
   PressAndConfirm(kSave);
   EXPECT_EQ(File("Ann\\mirvo.ASC"), "(none)");
-  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(Shown(), "new");
   PressAndConfirm(kClear);
   EXPECT_EQ(File("Ann\\mirvo.ASC"), "");
+  EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(Reports, AWriteProtectedReportStaysAsItIs) {
@@ -212,6 +213,8 @@ TEST_F(Reports, AWriteProtectedReportStaysAsItIs) {
   PressAndConfirm(kSave);
   PressAndConfirm(kClear);
   EXPECT_EQ(File("Ann\\mirvo.ASC"), Lines(10));
+  EXPECT_EQ(Shown(), "new") << "what could not be saved stays";
+  Open(kOpenCalorie);
   EXPECT_EQ(Shown(), Lines(10));
   EXPECT_EQ(folder_.Names("Ann"),
             (std::vector<std::string>{"bilans.ASC", "info.ASC", "mirvo.ASC"}));

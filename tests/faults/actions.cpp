@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "base/change.h"
+#include "base/note.h"
+
 namespace velnor {
 namespace {
 
@@ -230,6 +233,33 @@ void ForgetTheBurned(Scene& scene) { scene.RemoveFile("Ann/erg.txt"); }
 
 void OpenActivities(Scene& scene) { scene.Open(238); }
 
+// Another program was ended in the middle of a deed: of its changes some have been made, one half,
+// and some not.
+void CutADeedOff(Scene& scene) {
+  LogAnnIn(scene);
+  const std::string balance = "16.11.2026\r\n570.\r\n21.75\r\n11.\r\n93.5";
+  const std::string record = "16.11.2026  70.5\r\n";
+  const std::string report = "date: 16.11.2026\r\n";
+  const std::vector<Change> changes = {
+      {.kind = ChangeKind::kMakeFolder, .path = "Eve"},
+      {.kind = ChangeKind::kAppend, .path = "Ann/waga.ASC", .size = report.size(), .text = record},
+      {.kind = ChangeKind::kReplace,
+       .path = "Ann/bilans.ASC",
+       .beside = "Ann/bilans.ASC.velnor-1.new",
+       .size = balance.size(),
+       .checksum = Checksum(balance)},
+      {.kind = ChangeKind::kReplace, .path = "Ann/z1.ASC", .beside = "Ann/z1.ASC.velnor-1.new"},
+      {.kind = ChangeKind::kRemove, .path = "Ann/zapot.ASC"}};
+  scene.WriteFile("Ann/waga.ASC", report + record.substr(0, 5));
+  scene.WriteFile("Ann/bilans.ASC.velnor-1.new", balance);
+  scene.WriteFile("Ann/z1.ASC", "9.35");
+  scene.WriteFile(std::string(kNoteFile), NoteBytes(changes));
+}
+
+void OpenTheFolder(Scene& scene) { scene.Restart(); }
+
+void LookAtTheScreen(Scene& scene) { scene.Repaint(); }
+
 }  // namespace
 
 std::span<const Action> Actions() {
@@ -238,8 +268,6 @@ std::span<const Action> Actions() {
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};
-  static const std::vector<Between> kDayStarts = {
-      {"Ann/bilans.ASC", "16.11.2026"}, {"Ann/z1.ASC", ""}, {"Ann/z2.ASC", ""}};
   // clang-format off
   static const Action kActions[] = {
       {.name = "add a user", .act = AddUser, .says_on_failure = {kNotListed}},
@@ -252,17 +280,17 @@ std::span<const Action> Actions() {
       {.name = "change the profile", .enter = LogAnnIn, .act = ChangeHeight},
       {.name = "set limits", .enter = OpenRequirement, .act = SetLimits},
       {.name = "clear the limits", .enter = OpenRequirement, .act = ClearLimits},
-      {.name = "add a food", .enter = OpenCounter, .act = AddFood, .together = kDay,
+      {.name = "add a food", .enter = OpenCounter, .act = AddFood,
        .says_on_failure = {kNotSaved}},
       {.name = "add the first food of all", .arrange = ForgetTheDay, .enter = OpenCounter,
-       .act = AddFood, .between = kDayStarts, .says_on_failure = {kNotSaved}},
-      {.name = "remove a food", .enter = EatTwice, .act = RemoveFood, .together = kDay,
+       .act = AddFood, .says_on_failure = {kNotSaved}},
+      {.name = "remove a food", .enter = EatTwice, .act = RemoveFood,
        .says_on_failure = {kNotSaved}},
-      {.name = "clear the list", .enter = EatTwice, .act = ClearList, .together = kDay,
+      {.name = "clear the list", .enter = EatTwice, .act = ClearList,
        .says_on_failure = {kNotSaved}},
       {.name = "open the balance for the first time", .arrange = ForgetTheDay, .enter = LogAnnIn,
        .act = OpenBalance},
-      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay, .together = kDay,
+      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay,
        .says_on_failure = {kNotSaved}},
       {.name = "open a chart for the first time", .arrange = ForgetTheWeights, .enter = LogAnnIn,
        .act = OpenWeightChart},
@@ -286,9 +314,11 @@ std::span<const Action> Actions() {
       {.name = "add burned calories", .enter = CountBurned, .act = AddBurned},
       {.name = "clear the burned calories", .enter = CountBurned, .act = ClearBurned},
       {.name = "save the burned calories", .enter = CountBurned, .act = SaveBurned},
+      {.name = "start over a deed cut off", .enter = CutADeedOff, .act = OpenTheFolder},
+      {.name = "paint over a deed cut off", .enter = CutADeedOff, .act = LookAtTheScreen},
       {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
       {.name = "clear a report and what was kept", .arrange = LengthenReport, .enter = OpenReport,
-       .act = ClearReport, .between = {{"Ann/waga.ASC.rest.txt", ""}}},
+       .act = ClearReport},
   };
   // clang-format on
   return kActions;

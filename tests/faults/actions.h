@@ -13,8 +13,8 @@
 
 namespace velnor {
 
-// What a file may hold while the action is at work and neither before it nor after it.
-struct Between {
+// What a file may hold.
+struct Held {
   std::string_view file;
   std::string_view bytes;
 };
@@ -36,12 +36,8 @@ struct Action {
   void (*enter)(Scene& scene) = DoNothing;
   // The action itself. Must be possible a second time, whatever the first one came to.
   void (*act)(Scene& scene);
-  std::vector<Between> between = {};
   // What a file may hold besides when the action is done again after it was interrupted.
-  std::vector<Between> again = {};
-  // Files that are changed together: after an error that does not last, all of them or none. After
-  // one that lasts, clearing the day heals them.
-  std::vector<std::string_view> together = {};
+  std::vector<Held> again = {};
   std::vector<Saying> says_on_success = {};
   std::vector<Saying> says_on_failure = {};
 };

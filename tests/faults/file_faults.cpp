@@ -2,11 +2,16 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
 #include <string_view>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -20,8 +25,17 @@ std::size_t __real_fwrite(const void* bytes, std::size_t size, std::size_t count
 int __real_ferror(std::FILE* file);
 int __real_fflush(std::FILE* file);
 int __real_fclose(std::FILE* file);
+int __real_fseeko(std::FILE* file, off_t place, int from);
+off_t __real_ftello(std::FILE* file);
+int __real_ftruncate(int descriptor, off_t size);
+DIR* __real_opendir(const char* path);
+dirent* __real_readdir(DIR* folder);
+int __real_closedir(DIR* folder);
+int __real_open(const char* path, int flags, ...);
+int __real_flock(int descriptor, int operation);
+int __real_close(int descriptor);
 int __real_rename(const char* from, const char* to);
-int __real_remove(const char* path);
+int __real_unlink(const char* path);
 int __real_mkdir(const char* path, mode_t mode);
 int __real_rmdir(const char* path);
 int __real_stat(const char* path, struct stat* status);
@@ -33,87 +47,6 @@ namespace {
 
 using enum FileCall;
 using enum Fault;
-
-struct FaultRow {
-  Fault fault;
-  const char* name;
-  int error;  // 0: the process ends
-};
-
-constexpr FaultRow kFaults[] = {
-    {kNoSpace, "no space", ENOSPC},
-    {kInputOutput, "an input or output error", EIO},
-    {kNoAccess, "no access", EACCES},
-    {kHalf, "no space or a bad sector after half of the bytes", EIO},
-    {kFullFromHere, "a full disk from here on", ENOSPC},
-    {kGoneFromHere, "a lost disk from here on", EIO},
-    {kCrashBefore, "a crash before the call", 0},
-    {kCrashHalf, "a crash after half of the bytes", 0},
-    {kCrashAfter, "a crash after the call", 0},
-    {kPowerCut, "a power cut after the call", 0},
-};
-
-struct CallRow {
-  FileCall call;
-  const char* name;
-  bool needs_space;
-  std::vector<Fault> faults;
-};
-
-const CallRow& RowOf(FileCall call) {
-  static const CallRow kRows[] = {
-      {kOpenToRead, "open to read", false, {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore}},
-      {kRead, "read", false, {kInputOutput, kHalf, kGoneFromHere, kCrashBefore}},
-      {kCloseRead, "close what was read", false, {kInputOutput, kGoneFromHere, kCrashBefore}},
-      {kOpenToWrite,
-       "open to write",
-       true,
-       {kNoSpace, kInputOutput, kNoAccess, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kWrite,
-       "write",
-       true,
-       {kNoSpace, kInputOutput, kHalf, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashHalf,
-        kCrashAfter, kPowerCut}},
-      {kFlush,
-       "flush",
-       true,
-       {kNoSpace, kInputOutput, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kSync,
-       "sync",
-       true,
-       {kNoSpace, kInputOutput, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kCloseWritten,
-       "close what was written",
-       true,
-       {kNoSpace, kInputOutput, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kReplace,
-       "rename",
-       true,
-       {kNoSpace, kInputOutput, kNoAccess, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kRemove,
-       "remove",
-       false,
-       {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore, kCrashAfter, kPowerCut}},
-      {kMakeFolder,
-       "make a folder",
-       true,
-       {kNoSpace, kInputOutput, kNoAccess, kFullFromHere, kGoneFromHere, kCrashBefore, kCrashAfter,
-        kPowerCut}},
-      {kRemoveFolder,
-       "remove a folder",
-       false,
-       {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore, kCrashAfter, kPowerCut}},
-      {kLookAt, "look at", false, {kInputOutput, kNoAccess, kGoneFromHere, kCrashBefore}},
-  };
-  return *std::ranges::find(kRows, call, &CallRow::call);
-}
-
-const FaultRow& RowOf(Fault fault) { return *std::ranges::find(kFaults, fault, &FaultRow::fault); }
 
 struct OpenFile {
   std::string path;
@@ -129,7 +62,11 @@ struct State {
   std::size_t at = 0;
   std::optional<Fault> fault;
   std::map<std::FILE*, OpenFile> files;
-  std::set<std::string> not_on_disk;  // paths whose bytes no flush has brought there
+  std::set<DIR*> folders;
+  std::set<int> locks;
+  std::function<void()> on_unlock;
+  // How much of a file is on the disk, where no flush has brought the rest there.
+  std::map<std::string, off_t> on_disk;
 };
 
 State& Watched() {
@@ -169,14 +106,14 @@ class Course {
   bool IsCrashAfterHalf() const { return fault_ == kCrashHalf; }
   // Whether the call returns its error; errno says which.
   bool Fails() const {
-    if (!fault_ || RowOf(*fault_).error == 0) return false;
-    errno = RowOf(*fault_).error;
+    if (!fault_ || ErrorOf(*fault_) == 0) return false;
+    errno = ErrorOf(*fault_);
     return true;
   }
   // Called when the call has been made.
   void End() const {
     if (fault_ == kPowerCut) {
-      for (const std::string& path : Watched().not_on_disk) truncate(path.c_str(), 0);
+      for (const auto& [path, size] : Watched().on_disk) truncate(path.c_str(), size);
       EndProcess();
     }
     if (fault_ == kCrashAfter) EndProcess();
@@ -184,7 +121,7 @@ class Course {
 
  private:
   static bool GoesOn(Fault fault, FileCall call) {
-    return fault == kGoneFromHere || (fault == kFullFromHere && RowOf(call).needs_space);
+    return fault == kGoneFromHere || (fault == kFullFromHere && NeedsSpace(call));
   }
 
   std::optional<Fault> fault_;
@@ -192,19 +129,14 @@ class Course {
 
 }  // namespace
 
-const char* NameOf(FileCall call) { return RowOf(call).name; }
-
-const char* NameOf(Fault fault) { return RowOf(fault).name; }
-
-bool IsCrash(Fault fault) { return RowOf(fault).error == 0; }
-
-bool Lasts(Fault fault) { return fault == kFullFromHere || fault == kGoneFromHere; }
-
-std::vector<Fault> FaultsOf(FileCall call) { return RowOf(call).faults; }
-
 FileWatch::FileWatch(const std::string& folder) {
   Watched() = {};
   Watched().folder = folder;
+}
+
+FileWatch::FileWatch(const std::string& folder, std::function<void()> on_unlock)
+    : FileWatch(folder) {
+  Watched().on_unlock = std::move(on_unlock);
 }
 
 FileWatch::FileWatch(const std::string& folder, std::size_t at, Fault fault) : FileWatch(folder) {
@@ -224,7 +156,7 @@ namespace {
 
 std::FILE* Open(const char* path, const char* mode) {
   if (!IsWatched(path)) return __real_fopen(path, mode);
-  const bool reads = mode[0] == 'r';
+  const bool reads = std::string_view(mode) == "rb";
   const Course course(reads ? kOpenToRead : kOpenToWrite);
   if (course.Fails()) return nullptr;
   std::FILE* const file = __real_fopen(path, mode);
@@ -244,11 +176,17 @@ std::size_t Read(void* bytes, std::size_t size, std::size_t count, std::FILE* fi
   return __real_fread(bytes, size, count, file) / 2;
 }
 
+// What the C library keeps back is not there yet.
+off_t SizeOnDisk(int descriptor) {
+  struct stat status = {};
+  return fstat(descriptor, &status) == 0 ? status.st_size : 0;
+}
+
 std::size_t Write(const void* bytes, std::size_t size, std::size_t count, std::FILE* file) {
   OpenFile* const open = FindOpen(file);
   if (open == nullptr) return __real_fwrite(bytes, size, count, file);
   const Course course(kWrite);
-  Watched().not_on_disk.insert(open->path);
+  Watched().on_disk.try_emplace(open->path, SizeOnDisk(open->descriptor));
   const bool fails = course.Fails();
   if (fails && !course.IsHalf()) return 0;
   if (fails || course.IsCrashAfterHalf()) {
@@ -298,9 +236,73 @@ int Sync(int descriptor) {
   if (open == state.files.end()) return 0;
   const Course course(kSync);
   if (course.Fails()) return -1;
-  state.not_on_disk.erase(open->second.path);
+  state.on_disk.erase(open->second.path);
   course.End();
   return 0;
+}
+
+// Where a file is read and written, and how long it is.
+off_t Seek(std::FILE* file, off_t (*seek)(std::FILE* file, off_t place, int from), off_t place,
+           int from) {
+  if (FindOpen(file) == nullptr) return seek(file, place, from);
+  const Course course(kSeek);
+  if (course.Fails()) return -1;
+  return seek(file, place, from);
+}
+
+int Cut(int descriptor, off_t size) {
+  const State& state = Watched();
+  const auto is_it = [=](const auto& file) { return file.second.descriptor == descriptor; };
+  if (std::ranges::none_of(state.files, is_it)) return __real_ftruncate(descriptor, size);
+  const Course course(kCut);
+  if (course.Fails()) return -1;
+  const int result = __real_ftruncate(descriptor, size);
+  course.End();
+  return result;
+}
+
+DIR* OpenFolder(const char* path) {
+  if (!IsWatched(path)) return __real_opendir(path);
+  const Course course(kListFolder);
+  if (course.Fails()) return nullptr;
+  DIR* const folder = __real_opendir(path);
+  if (folder != nullptr) Watched().folders.insert(folder);
+  return folder;
+}
+
+dirent* ReadFolder(DIR* folder) {
+  if (!Watched().folders.contains(folder)) return __real_readdir(folder);
+  const Course course(kListFolder);
+  return course.Fails() ? nullptr : __real_readdir(folder);
+}
+
+int CloseFolder(DIR* folder) {
+  Watched().folders.erase(folder);
+  return __real_closedir(folder);
+}
+
+// The program opens a descriptor to lock a folder, and for nothing else.
+int OpenToLock(const char* path, int flags, mode_t mode) {
+  if (!IsWatched(path)) return __real_open(path, flags, mode);
+  const Course course(kOpenToLock);
+  if (course.Fails()) return -1;
+  const int descriptor = __real_open(path, flags, mode);
+  if (descriptor >= 0) Watched().locks.insert(descriptor);
+  return descriptor;
+}
+
+int Lock(int descriptor, int operation) {
+  if (!Watched().locks.contains(descriptor)) return __real_flock(descriptor, operation);
+  const Course course(kLock);
+  return course.Fails() ? -1 : __real_flock(descriptor, operation);
+}
+
+int Unlock(int descriptor) {
+  if (Watched().locks.erase(descriptor) == 0) return __real_close(descriptor);
+  const Course course(kUnlock);
+  const int result = __real_close(descriptor);  // closes it even when it fails
+  if (Watched().on_unlock) Watched().on_unlock();
+  return course.Fails() ? -1 : result;
 }
 
 int Replace(const char* from, const char* to) {
@@ -309,9 +311,13 @@ int Replace(const char* from, const char* to) {
   if (course.Fails()) return -1;
   const int result = __real_rename(from, to);
   if (result == 0) {
-    auto& not_on_disk = Watched().not_on_disk;
-    not_on_disk.erase(to);
-    if (not_on_disk.erase(from) > 0) not_on_disk.insert(to);
+    auto& on_disk = Watched().on_disk;
+    on_disk.erase(to);
+    auto renamed = on_disk.extract(from);
+    if (!renamed.empty()) {
+      renamed.key() = to;
+      on_disk.insert(std::move(renamed));
+    }
   }
   course.End();
   return result;
@@ -345,9 +351,33 @@ int __wrap_fflush(std::FILE* file) { return velnor::Flush(file); }
 int __wrap_fclose(std::FILE* file) { return velnor::Close(file); }
 int __wrap_fsync(int descriptor) { return velnor::Sync(descriptor); }
 int __wrap_rename(const char* from, const char* to) { return velnor::Replace(from, to); }
-int __wrap_remove(const char* path) {
-  return velnor::OnPath(velnor::FileCall::kRemove, path, [=] { return __real_remove(path); });
+int __wrap_unlink(const char* path) {
+  return velnor::OnPath(velnor::FileCall::kRemove, path, [=] { return __real_unlink(path); });
 }
+int __wrap_fseeko(std::FILE* file, off_t place, int from) {
+  const auto seek = [](std::FILE* f, off_t p, int w) -> off_t { return __real_fseeko(f, p, w); };
+  return static_cast<int>(velnor::Seek(file, seek, place, from));
+}
+off_t __wrap_ftello(std::FILE* file) {
+  const auto tell = [](std::FILE* f, off_t, int) { return __real_ftello(f); };
+  return velnor::Seek(file, tell, 0, 0);
+}
+int __wrap_ftruncate(int descriptor, off_t size) { return velnor::Cut(descriptor, size); }
+DIR* __wrap_opendir(const char* path) { return velnor::OpenFolder(path); }
+dirent* __wrap_readdir(DIR* folder) { return velnor::ReadFolder(folder); }
+int __wrap_closedir(DIR* folder) { return velnor::CloseFolder(folder); }
+int __wrap_open(const char* path, int flags, ...) {
+  mode_t mode = 0;
+  if ((flags & O_CREAT) != 0) {
+    va_list arguments;
+    va_start(arguments, flags);
+    mode = va_arg(arguments, mode_t);
+    va_end(arguments);
+  }
+  return velnor::OpenToLock(path, flags, mode);
+}
+int __wrap_flock(int descriptor, int operation) { return velnor::Lock(descriptor, operation); }
+int __wrap_close(int descriptor) { return velnor::Unlock(descriptor); }
 int __wrap_mkdir(const char* path, mode_t mode) {
   return velnor::OnPath(velnor::FileCall::kMakeFolder, path,
                         [=] { return __real_mkdir(path, mode); });

@@ -6,6 +6,7 @@
 #define VELNOR_TESTS_FAULTS_FILE_FAULTS_H_
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,13 @@ enum class FileCall {
   kRemove,
   kMakeFolder,
   kRemoveFolder,
+  kListFolder,
+  kSeek,
+  kOpenToLock,
+  kLock,
+  kUnlock,
   kLookAt,
+  kCut,  // only after another call has failed
 };
 
 const char* NameOf(FileCall call);
@@ -49,6 +56,10 @@ enum class Fault {
 
 const char* NameOf(Fault fault);
 bool IsCrash(Fault fault);
+// What errno is after it; 0 when the process ends.
+int ErrorOf(Fault fault);
+// Whether a full disk refuses the call.
+bool NeedsSpace(FileCall call);
 // Whether clearing up after the error fails too, so that a temporary file may stay.
 bool Lasts(Fault fault);
 
@@ -65,6 +76,8 @@ class FileWatch {
  public:
   // `folder` ends with a separator.
   explicit FileWatch(const std::string& folder);
+  // The same; `on_unlock` is called whenever a lock has been given back.
+  FileWatch(const std::string& folder, std::function<void()> on_unlock);
   // The same, with `fault` at the call `at`, counted from 0.
   FileWatch(const std::string& folder, std::size_t at, Fault fault);
   FileWatch(const FileWatch&) = delete;

@@ -100,7 +100,7 @@ Snapshot Scene::Look() const {
   Snapshot snapshot;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_.path())) {
     const std::string name = entry.path().string().substr(folder_.path().size());
-    auto& kind = name.ends_with(TemporaryPath("")) ? snapshot.temporaries : snapshot.files;
+    auto& kind = name.ends_with(".new") ? snapshot.temporaries : snapshot.files;
     kind[name] = entry.is_directory() ? "folder" : folder_.Read(name);
   }
   return snapshot;

@@ -54,11 +54,13 @@ class ImportProductsTest : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  SessionState session_{.base_folder = folder_.path()};
   FoodTable food_;
   FakeMainWindow window_;
   FakeMessageBoxes boxes_;
   FakeForm form_;
-  ImportProductsDialog dialog_{food_, folder_.path() + "data.txt", window_, boxes_};
+  int changes_ = 0;
+  ImportProductsDialog dialog_{food_, session_, window_, boxes_, [this] { ++changes_; }};
 };
 
 TEST_F(ImportProductsTest, OpensWithTheCategoryForWhatBelongsToNoOther) {

@@ -224,11 +224,11 @@ TEST_F(ReportScreenTest, SavingAMissingReportWritesNothing) {
 
 TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
   LogIn();
-  const std::string path = Write("mirvo.ASC", "old\r\n");
+  Write("mirvo.ASC", "old\r\n");
   Open(kOpenCalorie);
   form_.SetText(119, "new\r\n");
   boxes_.while_open = [&] {
-    ASSERT_TRUE(AppendToFile(path, "appended\n"));
+    Write("mirvo.ASC", "old\r\nappended\r\n");
     Repaint();
   };
   form_.Press(kSave);
@@ -371,7 +371,7 @@ TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
 TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
   TypeWhatCannotBeSaved();
   LetItBeWritten();
-  AppendToFile(path_, "a record\n");
+  Write("mirvo.ASC", Read("mirvo.ASC") + "a record\r\n");
   Repaint();
   EXPECT_EQ(Shown(), "typed");
   form_.Press(kSave);

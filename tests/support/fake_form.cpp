@@ -152,10 +152,15 @@ void FakeForm::SelectItem(int id, int index) {
   if (control != nullptr) control->selection = index < ItemCount(id) ? index : -1;
 }
 
-std::optional<std::string> FakeForm::SelectedText(int id) const {
+std::optional<int> FakeForm::SelectedItem(int id) const {
   const Control* const control = Find(id);
   if (control == nullptr || control->selection < 0) return std::nullopt;
-  return control->items[static_cast<std::size_t>(control->selection)];
+  return control->selection;
+}
+
+std::optional<std::string> FakeForm::SelectedText(int id) const {
+  const std::optional<int> selection = SelectedItem(id);
+  return selection ? std::optional(ItemText(id, *selection)) : std::nullopt;
 }
 
 void FakeForm::RemoveSelectedItem(int id) {
@@ -175,6 +180,8 @@ void FakeForm::Focus(int id) {
   log_.push_back("focus " + std::to_string(id));
   MoveFocusTo(id);
 }
+
+void FakeForm::SelectAllText(int id) { log_.push_back("select all of " + std::to_string(id)); }
 
 void FakeForm::Scroll(int id, ScrollStep step) {
   Control* const control = Find(id);

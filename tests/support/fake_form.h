@@ -50,7 +50,7 @@ class FakeForm final : public Form {
   static constexpr int kVisibleLines = 30;
   // The fields in which a typed comma is a point.
   const std::set<int>& NumberFields() const { return number_fields_; }
-  // Moves of the focus and closings, in order.
+  // Moves of the focus, selections of whole texts and closings, in order.
   const std::vector<std::string>& Log() const { return log_; }
 
   std::string ReadText(int id, std::size_t limit) const override;
@@ -63,10 +63,12 @@ class FakeForm final : public Form {
   void ClearItems(int id) override;
   std::string ItemText(int id, int index) const override;
   void SelectItem(int id, int index) override;
+  std::optional<int> SelectedItem(int id) const override;
   std::optional<std::string> SelectedText(int id) const override;
   void RemoveSelectedItem(int id) override;
   void RemoveItem(int id, int index) override;
   void Focus(int id) override;
+  void SelectAllText(int id) override;
   void SetDefaultButton(int id) override { default_button_ = id; }
   void Scroll(int id, ScrollStep step) override;
   void Show(int key) override;

@@ -25,7 +25,8 @@ void FakeMainWindow::UseForm(FakeForm& form) {
     if (open == nullptr) return;
     open->OnCommand(form, id, notification);
     const bool is_closed = std::ranges::find(form.Log(), "close") != form.Log().end();
-    if (is_closed) std::erase_if(session_dialogs, [&](const auto& of) { return of.dialog == open; });
+    if (is_closed)
+      std::erase_if(session_dialogs, [&](const auto& of) { return of.dialog == open; });
   });
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/committed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -12,7 +13,7 @@ namespace {
 class ChartFileTest : public testing::Test {
  protected:
   bool Update(const std::string& date, const std::vector<std::string>& fields) const {
-    return UpdateChartFile(path_, date, fields);
+    return Committed(folder_.path(), UpdateChartFile, path_, date, fields);
   }
   std::string Read() const { return folder_.Read("wykoda.txt"); }
   void Write(std::string_view bytes) const { folder_.Write("wykoda.txt", bytes); }
@@ -173,8 +174,11 @@ TEST_F(ChartFileTest, FullLinesAreReadWhole) {
 }
 
 TEST_F(ChartFileTest, NothingIsWrittenWhereNothingCanBe) {
-  EXPECT_FALSE(UpdateChartFile(folder_.path() + "missing/wykoda.txt", "16.11.2026", {}));
-  EXPECT_FALSE(UpdateChartFile(folder_.path(), "16.11.2026", {})) << "a folder was written";
+  EXPECT_FALSE(Committed(folder_.path(), UpdateChartFile, folder_.path() + "missing/wykoda.txt",
+                         "16.11.2026", std::vector<std::string>{}));
+  EXPECT_FALSE(Committed(folder_.path(), UpdateChartFile, folder_.path(), "16.11.2026",
+                         std::vector<std::string>{}))
+      << "a folder was written";
 }
 
 }  // namespace

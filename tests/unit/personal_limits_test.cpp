@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/committed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -36,29 +37,30 @@ class PersonalLimitsTest : public testing::Test {
 };
 
 TEST_F(PersonalLimitsTest, WritesAMarkAndTheEightTexts) {
-  EXPECT_TRUE(WritePersonalLimits(Path(), {kGood}));
+  EXPECT_TRUE(Committed(folder_.path(), WritePersonalLimits, Path(), PersonalLimits{kGood}));
   EXPECT_EQ(Bytes(), "1\r\n2000\r\n2500\r\n60\r\n70\r\n50\r\n80\r\n300\r\n400\r\n");
-  EXPECT_TRUE(WritePersonalLimits(Path(), {{"1.5x", "", " 2", "1e3", "-1", ".", "0", "\xB9"}}));
+  EXPECT_TRUE(Committed(folder_.path(), WritePersonalLimits, Path(),
+                        PersonalLimits{{"1.5x", "", " 2", "1e3", "-1", ".", "0", "\xB9"}}));
   EXPECT_EQ(Bytes(), "1\r\n1.5x\r\n\r\n 2\r\n1e3\r\n-1\r\n.\r\n0\r\n\xB9\r\n");
 }
 
 TEST_F(PersonalLimitsTest, WritesThatThereAreNone) {
-  ASSERT_TRUE(WritePersonalLimits(Path(), {kGood}));
-  EXPECT_TRUE(WriteNoLimits(Path()));
+  ASSERT_TRUE(Committed(folder_.path(), WritePersonalLimits, Path(), PersonalLimits{kGood}));
+  EXPECT_TRUE(Committed(folder_.path(), WriteNoLimits, Path()));
   EXPECT_EQ(Bytes(), "0\r\n");
   EXPECT_EQ(ReadPersonalLimits(Path()).texts, kNone);
 }
 
 TEST_F(PersonalLimitsTest, WhatCannotBeWrittenIsReported) {
   const std::string path = folder_.path() + "missing/zapot.ASC";
-  EXPECT_FALSE(WritePersonalLimits(path, {kGood}));
-  EXPECT_FALSE(WriteNoLimits(path));
+  EXPECT_FALSE(Committed(folder_.path(), WritePersonalLimits, path, PersonalLimits{kGood}));
+  EXPECT_FALSE(Committed(folder_.path(), WriteNoLimits, path));
   EXPECT_EQ(folder_.Names(), std::vector<std::string>{});
 }
 
 TEST_F(PersonalLimitsTest, ReadsBackWhatWasWritten) {
   const LimitTexts texts = {"99999", "1.5x", "", " 2", "a b", "-1", "0", "9"};
-  ASSERT_TRUE(WritePersonalLimits(Path(), {texts}));
+  ASSERT_TRUE(Committed(folder_.path(), WritePersonalLimits, Path(), PersonalLimits{texts}));
   EXPECT_EQ(ReadPersonalLimits(Path()).texts, texts);
 }
 

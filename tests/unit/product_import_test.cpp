@@ -9,6 +9,7 @@
 
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
+#include "tests/support/committed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -214,7 +215,7 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
                                    ",12345.75,12345.75,12345.75,12345.75,12345.75," +
                                    std::string(row.main_category) + ',' + std::string(subcategory));
       ASSERT_EQ(plan.products.size(), 1U) << row.main_category << ' ' << subcategory;
-      ASSERT_TRUE(AddUserProduct(path, plan.products[0].AsRecord()));
+      ASSERT_TRUE(Committed(folder_.path(), AddUserProduct, path, plan.products[0].AsRecord()));
       food_.user_products.Load(path);
       ASSERT_EQ(food_.user_products.products().size(), 1U);
       EXPECT_EQ(food_.user_products.products()[0].carbohydrate, "12345.75");
@@ -223,7 +224,7 @@ TEST_F(ProductImportTest, AnImportedProductIsListedUnderItsCategoryAndRemoved) {
         EXPECT_EQ(std::ranges::count(listed, name), 1) << row.main_category << ' ' << subcategory;
         EXPECT_EQ(FindProduct(food_, matching, name), food_.user_products.products().data());
       }
-      ASSERT_TRUE(RemoveUserProduct(path, name));
+      ASSERT_TRUE(Committed(folder_.path(), RemoveUserProduct, path, name));
       food_.user_products.Load(path);
       EXPECT_TRUE(food_.user_products.products().empty());
     }

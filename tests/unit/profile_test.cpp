@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/committed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -26,25 +27,28 @@ class ProfileTest : public testing::Test {
 };
 
 TEST_F(ProfileTest, WritesFiveLinesWithoutAnEndBehindTheLast) {
-  EXPECT_TRUE(WriteProfileLines(Path(), kAnn));
+  EXPECT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(), kAnn));
   EXPECT_EQ(Bytes(), "35\r\n170\r\nwomen\r\nvery high\r\nsuckling mother");
 }
 
 TEST_F(ProfileTest, WritesAZeroForWhatIsEmpty) {
-  EXPECT_TRUE(WriteProfileLines(Path(), {}));
+  EXPECT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(), ProfileLines{}));
   EXPECT_EQ(Bytes(), "0\r\n0\r\n0\r\n0\r\n0");
-  EXPECT_TRUE(WriteProfileLines(Path(), {"", "1.75x", "men", "", "\xB9"}));
+  EXPECT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(),
+                        ProfileLines{"", "1.75x", "men", "", "\xB9"}));
   EXPECT_EQ(Bytes(), "0\r\n1.75x\r\nmen\r\n0\r\n\xB9");
 }
 
 TEST_F(ProfileTest, WhatCannotBeWrittenIsReported) {
-  EXPECT_FALSE(WriteProfileLines(folder_.path() + "missing/info.ASC", kAnn));
+  EXPECT_FALSE(
+      Committed(folder_.path(), WriteProfileLines, folder_.path() + "missing/info.ASC", kAnn));
   EXPECT_EQ(folder_.Names(), std::vector<std::string>{});
 }
 
 TEST_F(ProfileTest, WritesLinesAsLongAsTheyAre) {
   const std::string line(100, 'x');
-  EXPECT_TRUE(WriteProfileLines(Path(), {line, line, "men", "low", "none"}));
+  EXPECT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(),
+                        ProfileLines{line, line, "men", "low", "none"}));
   EXPECT_EQ(Bytes(), line + "\r\n" + line + "\r\nmen\r\nlow\r\nnone");
 }
 
@@ -86,9 +90,9 @@ TEST_F(ProfileTest, NulsEndALineAndOtherBytesAreKept) {
 }
 
 TEST_F(ProfileTest, ReadsBackWhatWasWritten) {
-  ASSERT_TRUE(WriteProfileLines(Path(), kAnn));
+  ASSERT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(), kAnn));
   EXPECT_EQ(ReadProfileLines(Path()), kAnn);
-  ASSERT_TRUE(WriteProfileLines(Path(), {}));
+  ASSERT_TRUE(Committed(folder_.path(), WriteProfileLines, Path(), ProfileLines{}));
   EXPECT_EQ(ReadProfileLines(Path()), (ProfileLines{"0", "0", "0", "0", "0"}));
 }
 

@@ -30,7 +30,7 @@ class ReportFileTest : public testing::Test {
   // Saves what is shown, changed by nobody.
   bool SaveAsShown() const {
     const std::string shown = LoadReport(path_);
-    return SaveReport(path_, shown, shown);
+    return SaveReport(folder_.path(), path_, shown, shown);
   }
   std::string File() const { return folder_.Read("waga.ASC"); }
   std::string Rest() const { return folder_.Read("waga.ASC.rest.txt"); }
@@ -95,16 +95,16 @@ TEST_F(ReportFileTest, AMissingFileShowsNothing) {
 TEST_F(ReportFileTest, SavingWritesTheTextByteForByte) {
   folder_.Write("waga.ASC", "old\r\n");
   const std::string text = "new\r\nlines\n\rand \xE6\xB3\xBF, no end";
-  EXPECT_TRUE(SaveReport(path_, "old\r\n", text));
+  EXPECT_TRUE(SaveReport(folder_.path(), path_, "old\r\n", text));
   EXPECT_EQ(File(), text);
-  EXPECT_TRUE(SaveReport(path_, text, ""));
+  EXPECT_TRUE(SaveReport(folder_.path(), path_, text, ""));
   EXPECT_EQ(File(), "");
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
 
 TEST_F(ReportFileTest, SavingAMissingFileMakesNone) {
-  EXPECT_FALSE(SaveReport(path_, "", "new"));
-  EXPECT_FALSE(SaveReport(path_, "old", "new"));
+  EXPECT_FALSE(SaveReport(folder_.path(), path_, "", "new"));
+  EXPECT_FALSE(SaveReport(folder_.path(), path_, "old", "new"));
   EXPECT_EQ(folder_.Names(), Texts{});
 }
 
@@ -114,7 +114,7 @@ TEST_F(ReportFileTest, SavingALongReportCutsItAndKeepsTheRest) {
     const std::string bytes = ReportOf(size);
     const std::string path = folder.Write("mirvo.ASC", bytes);
     const std::string shown = LoadReport(path);
-    EXPECT_TRUE(SaveReport(path, shown, shown + "changed"));
+    EXPECT_TRUE(SaveReport(folder.path(), path, shown, shown + "changed"));
     EXPECT_EQ(folder.Read("mirvo.ASC"), bytes.substr(0, 29'999) + "changed");
     const bool all_shown = size <= 29'999;
     EXPECT_EQ(HasRest(path), !all_shown) << size;
@@ -132,8 +132,8 @@ TEST_F(ReportFileTest, SavingKeepsWhatStandsBehindANul) {
 TEST_F(ReportFileTest, SavingKeepsARecordThatWasAppendedMeanwhile) {
   folder_.Write("waga.ASC", "one\r\n");
   const std::string shown = LoadReport(path_);
-  ASSERT_TRUE(AppendToFile(path_, "two\n"));
-  EXPECT_TRUE(SaveReport(path_, shown, "changed\r\n"));
+  folder_.Write("waga.ASC", "one\r\ntwo\r\n");
+  EXPECT_TRUE(SaveReport(folder_.path(), path_, shown, "changed\r\n"));
   EXPECT_EQ(File(), "changed\r\n");
   EXPECT_EQ(Rest(), "two\r\n");
 }
@@ -142,7 +142,7 @@ TEST_F(ReportFileTest, SavingKeepsAFileThatWasNeverShown) {
   folder_.Write("waga.ASC", "one\r\n");
   const std::string shown = LoadReport(path_);
   folder_.Write("waga.ASC", "another report\r\n");
-  EXPECT_TRUE(SaveReport(path_, shown, "changed\r\n"));
+  EXPECT_TRUE(SaveReport(folder_.path(), path_, shown, "changed\r\n"));
   EXPECT_EQ(File(), "changed\r\n");
   EXPECT_EQ(Rest(), "another report\r\n");
 }
@@ -186,8 +186,8 @@ void MakeUnreadable(const std::string& path) {
 TEST_F(ReportFileTest, WhatCannotBeReadIsNeitherSavedNorCleared) {
   MakeUnreadable(path_);
   EXPECT_EQ(LoadReport(path_), "");
-  EXPECT_FALSE(SaveReport(path_, "", "new"));
-  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_FALSE(SaveReport(folder_.path(), path_, "", "new"));
+  EXPECT_FALSE(ClearReport(folder_.path(), path_));
   EXPECT_TRUE(std::filesystem::is_symlink(path_));
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
@@ -204,8 +204,8 @@ TEST_F(ReportFileTest, NothingIsCutWhenAnEarlierRestCannotBeRead) {
 TEST_F(ReportFileTest, AFolderIsNeitherSavedNorCleared) {
   std::filesystem::create_directory(path_);
   EXPECT_EQ(LoadReport(path_), "");
-  EXPECT_FALSE(SaveReport(path_, "", "new"));
-  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_FALSE(SaveReport(folder_.path(), path_, "", "new"));
+  EXPECT_FALSE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
 
@@ -215,20 +215,20 @@ TEST_F(ReportFileTest, AWriteProtectedFileIsShownButNeitherSavedNorCleared) {
   std::filesystem::permissions(path_, std::filesystem::perms{0444});
   EXPECT_EQ(LoadReport(path_), bytes.substr(0, 29'999));
   EXPECT_FALSE(SaveAsShown());
-  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_FALSE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(File(), bytes);
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
 
 TEST_F(ReportFileTest, ClearingLeavesAnEmptyFile) {
   folder_.Write("waga.ASC", ReportOf(200'000));
-  EXPECT_TRUE(ClearReport(path_));
+  EXPECT_TRUE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(File(), "");
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
 
 TEST_F(ReportFileTest, ClearingMakesAMissingFile) {
-  EXPECT_TRUE(ClearReport(path_));
+  EXPECT_TRUE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(File(), "");
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
 }
@@ -237,7 +237,7 @@ TEST_F(ReportFileTest, ClearingTakesWhatWasKeptWithIt) {
   folder_.Write("waga.ASC", "shown\0rest"s);
   EXPECT_TRUE(SaveAsShown());
   EXPECT_TRUE(HasRest(path_));
-  EXPECT_TRUE(ClearReport(path_));
+  EXPECT_TRUE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(File(), "");
   EXPECT_FALSE(HasRest(path_));
   EXPECT_EQ(folder_.Names(), Texts{"waga.ASC"});
@@ -248,14 +248,14 @@ TEST_F(ReportFileTest, AReportIsNotClearedWithoutWhatWasKept) {
     folder_.Write("waga.ASC", "report");
     folder_.Write("waga.ASC.rest.txt", "kept");
     std::filesystem::permissions(folder_.path() + name, std::filesystem::perms{0444});
-    EXPECT_FALSE(ClearReport(path_)) << name;
+    EXPECT_FALSE(ClearReport(folder_.path(), path_)) << name;
     EXPECT_EQ(File(), "report") << name;
     EXPECT_EQ(Rest(), "kept") << name;
     std::filesystem::permissions(folder_.path() + name, std::filesystem::perms{0644});
   }
   std::filesystem::remove(RestPath(path_));
   MakeUnreadable(RestPath(path_));
-  EXPECT_FALSE(ClearReport(path_));
+  EXPECT_FALSE(ClearReport(folder_.path(), path_));
   EXPECT_EQ(File(), "report");
 }
 

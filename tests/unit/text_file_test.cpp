@@ -1,11 +1,10 @@
 #include "base/text_file.h"
 
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <vector>
 
+#include "tests/support/file_size_limit.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -21,26 +20,6 @@ std::vector<std::string> Lines(std::string_view text, std::size_t limit = 99) {
 }
 
 using Texts = std::vector<std::string>;
-
-// Files of this process cannot grow past a size while the object lives.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : old_handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit limited = {bytes, old_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limited);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, old_handler_);
-  }
-
- private:
-  rlimit old_ = {};
-  void (*old_handler_)(int);
-};
 
 TEST(LineReaderTest, AcceptsEitherLineEndAndNoneAtTheEnd) {
   EXPECT_EQ(Lines("one\r\ntwo\nthree"), (Texts{"one", "two", "three"}));
@@ -128,48 +107,6 @@ TEST(WithCrLfTest, EndsEveryLineTheSameWay) {
   EXPECT_EQ(WithCrLf(""), "");
 }
 
-TEST(AppendToFileTest, MakesTheFileAndAddsToIt) {
-  const TemporaryFolder folder;
-  EXPECT_TRUE(AppendToFile(folder.path() + "file", "one\n"));
-  EXPECT_TRUE(AppendToFile(folder.path() + "file", "two\nthree"));
-  EXPECT_EQ(folder.Read("file"), "one\r\ntwo\r\nthree");
-  EXPECT_EQ(folder.Names(), (Texts{"file"}));
-}
-
-TEST(AppendToFileTest, ReportsWhatCannotBeWritten) {
-  const TemporaryFolder folder;
-  EXPECT_FALSE(AppendToFile(folder.path() + "missing/file", "one\n"));
-  EXPECT_FALSE(AppendToFile(folder.path(), "one\n"));
-}
-
-// A link to itself can be replaced but not read.
-TEST(AppendToFileTest, WhatCannotBeReadStays) {
-  const TemporaryFolder folder;
-  const std::string path = folder.path() + "file";
-  std::filesystem::create_symlink(path, path);
-  EXPECT_FALSE(AppendToFile(path, "one\n"));
-  EXPECT_TRUE(std::filesystem::is_symlink(path));
-}
-
-TEST(AppendToFileTest, AnEmptyTextMakesTheFileAndChangesNone) {
-  const TemporaryFolder folder;
-  EXPECT_TRUE(AppendToFile(folder.path() + "file", ""));
-  EXPECT_EQ(folder.Read("file"), "");
-  folder.Write("file", "one");
-  EXPECT_TRUE(AppendToFile(folder.path() + "file", ""));
-  EXPECT_EQ(folder.Read("file"), "one");
-}
-
-// The disk is full in the middle of the text: the limit on the size of files stands for it.
-TEST(AppendToFileTest, AFullDiskLeavesTheFileAsItWas) {
-  const TemporaryFolder folder;
-  const std::string old(1000, 'o');
-  const std::string path = folder.Write("file", old);
-  const FileSizeLimit limit(1500);
-  EXPECT_FALSE(AppendToFile(path, std::string(1000, 'n')));
-  EXPECT_EQ(folder.Read("file"), old);
-}
-
 TEST(ReplaceFileTest, GivesTheFileItsNewBytes) {
   const TemporaryFolder folder;
   EXPECT_TRUE(ReplaceFile(folder.path() + "file", "one\n"));
@@ -189,21 +126,6 @@ TEST(ReplaceFileTest, AFullDiskLeavesTheFileAsItWas) {
   EXPECT_FALSE(ReplaceFile(path, std::string(2000, 'n')));
   EXPECT_EQ(folder.Read("file"), old);
   EXPECT_EQ(folder.Names(), (Texts{"file"}));
-}
-
-TEST(ReplaceFilesTest, GivesAllTheirBytesOrNone) {
-  const TemporaryFolder folder;
-  const std::string one = folder.Write("one", "old one");
-  const std::string two = folder.Write("two", "old two");
-  EXPECT_TRUE(ReplaceFiles(std::vector<FileBytes>{{one, "new one"}, {two, "new two"}}));
-  EXPECT_EQ(folder.Read("one"), "new one");
-  EXPECT_EQ(folder.Read("two"), "new two");
-  const std::string missing = folder.path() + "missing/three";
-  EXPECT_FALSE(ReplaceFiles(std::vector<FileBytes>{{one, "1"}, {missing, "3"}, {two, "2"}}));
-  EXPECT_FALSE(ReplaceFiles(std::vector<FileBytes>{{one, "1"}, {folder.path(), "3"}}));
-  EXPECT_EQ(folder.Read("one"), "new one");
-  EXPECT_EQ(folder.Read("two"), "new two");
-  EXPECT_EQ(folder.Names(), (Texts{"one", "two"}));
 }
 
 TEST(ReplaceFileTest, AWriteProtectedFileStays) {

@@ -12,6 +12,7 @@
 #include "base/file_calls.h"
 #include "base/note.h"
 #include "base/text_file.h"
+#include "tests/support/file_size_limit.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -184,6 +185,31 @@ TEST_F(TransactionTest, OneRefusedFileKeepsAllTheOthers) {
     EXPECT_FALSE(deed.Commit());
     ExpectNothingChanged();
   }
+}
+
+// A link to itself can be replaced but not read.
+TEST_F(TransactionTest, WhatCannotBeReadIsNotAppendedTo) {
+  std::filesystem::create_symlink(Path("link"), Path("link"));
+  Transaction deed(folder_.path());
+  deed.Append(Path("link"), "one\n");
+  EXPECT_FALSE(deed.Commit());
+  EXPECT_TRUE(std::filesystem::is_symlink(Path("link")));
+}
+
+// The disk is full in the middle of the text, when the note stands already.
+TEST_F(TransactionTest, AFullDiskTakesBackWhatWasAppended) {
+  const std::string old(1000, 'o');
+  folder_.Write("Ann/two", old);
+  const FileSizeLimit limit(1900);
+  Transaction deed(folder_.path());
+  deed.Replace(Path("Ann/one"), "new one");
+  deed.MakeFolder(Path("Eve"));
+  deed.Append(Path("Ann/two"), std::string(1000, 'n'));
+  EXPECT_FALSE(deed.Commit());
+  EXPECT_EQ(Read("Ann/two"), old);
+  EXPECT_EQ(Read("Ann/one"), "old one");
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "users.ASC"}));
+  EXPECT_EQ(NamesInAnn(), (Texts{"one", "two"}));
 }
 
 // --- the note

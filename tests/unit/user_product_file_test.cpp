@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/text_file.h"
+#include "tests/support/committed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velnor {
@@ -32,15 +33,16 @@ class UserProductFileTest : public testing::Test {
 std::string Line(const std::string& name) { return "fruits;fresh;" + name + ";100;1;1;1;1;\r\n"; }
 
 TEST_F(UserProductFileTest, AppendsALine) {
-  EXPECT_TRUE(AddUserProduct(Path(), kApplePie));
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProduct, Path(), kApplePie));
   EXPECT_EQ(Bytes(), "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
-  EXPECT_TRUE(AddUserProduct(Path(), {"a", "b;c", "d", "", "x", "1x", "?", "4"}));
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProduct, Path(),
+                        ProductRecord{"a", "b;c", "d", "", "x", "1x", "?", "4"}));
   EXPECT_EQ(Bytes(), "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\na;b;c;d;;x;1x;?;4;\r\n");
 }
 
 TEST_F(UserProductFileTest, ALastLineWithoutAnEndKeepsItsProduct) {
   Write("fruits;fresh;fig;100;1;1;1;1;");
-  EXPECT_TRUE(AddUserProduct(Path(), kApplePie));
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProduct, Path(), kApplePie));
   EXPECT_EQ(Bytes(),
             "fruits;fresh;fig;100;1;1;1;1;\r\nfruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n");
 }
@@ -49,16 +51,15 @@ TEST_F(UserProductFileTest, AppendsManyLinesBehindAnOpenOne) {
   Write("fruits;fresh;fig;100;1;1;1;1;");
   const ProductRecord plum = {"fruits", "fresh", "plum", "100", "1", "1", "1", "1"};
   const std::vector<ProductRecord> products = {kApplePie, plum};
-  EXPECT_TRUE(AddUserProducts(Path(), products));
+  EXPECT_TRUE(Committed(folder_.path(), AddUserProducts, Path(), products));
   EXPECT_EQ(Bytes(),
             Line("fig") + "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n" + Line("plum"));
 }
 
 TEST_F(UserProductFileTest, WhatCannotBeReadOrWrittenIsReported) {
   std::filesystem::create_directory(Path());
-  EXPECT_FALSE(RemoveUserProduct(Path(), "apple pie"));
-  EXPECT_FALSE(AddUserProduct(Path(), kApplePie));
-  EXPECT_FALSE(AddUserProducts(Path(), {&kApplePie, 1}));
+  EXPECT_FALSE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
+  EXPECT_FALSE(Committed(folder_.path(), AddUserProduct, Path(), kApplePie));
 }
 
 TEST_F(UserProductFileTest, ListsTheThirdFields) {
@@ -83,7 +84,7 @@ TEST_F(UserProductFileTest, ListsLongLinesInPieces) {
 
 TEST_F(UserProductFileTest, RemovesEveryLineOfTheName) {
   Write(Line("fig") + Line("apple pie") + Line("apple cake") + Line("apple pie"));
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), Line("fig") + Line("apple cake"));
   EXPECT_EQ(folder_.Names(), (Names{"data.txt"}));
 }
@@ -128,7 +129,7 @@ TEST_F(UserProductFileTest, KeepsEverythingElse) {
   const std::string nul = "m;s;nul\0 inside;100;"s;
   const std::string long_line(200, 'x');
   Write("\r\n" + nul + "\n" + long_line + "\n\n" + "abc\n" + Line("apple pie") + "last");
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), nul + "\r\n" + std::string(149, 'x') + "\r\n" + std::string(51, 'x') +
                          "\r\nabc\r\nlast\r\n");
 }
@@ -138,16 +139,17 @@ TEST_F(UserProductFileTest, LinesBehindTheThreeThousandthStayAsTheyAre) {
   for (int i = 0; i < 2999; ++i) lines += Line("product " + std::to_string(i));
   const std::string rest = "m;s;apple pie;\n\n" + std::string(1000, 'r') + "\0end"s;
   Write(Line("apple pie") + lines + rest);
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), lines + rest);
 }
 
 TEST_F(UserProductFileTest, RemovingNothingChangesNothing) {
   const std::string bytes = "\n" + Line("fig") + "m;s;open";
   Write(bytes);
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), bytes);
-  EXPECT_TRUE(RemoveUserProduct(folder_.path() + "missing", "apple pie"));
+  EXPECT_TRUE(
+      Committed(folder_.path(), RemoveUserProduct, folder_.path() + "missing", "apple pie"));
   EXPECT_EQ(folder_.Names(), (Names{"data.txt"}));
 }
 
@@ -159,9 +161,10 @@ TEST_F(UserProductFileTest, ALeftOverOfAnInterruptedRemovalIsNoProduct) {
   UserProductTable table;
   table.Load(Path());
   ASSERT_EQ(table.products().size(), 1U);
-  EXPECT_TRUE(RemoveUserProduct(Path(), "figs") && RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "figs") &&
+              Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   Write(Line("apple pie") + Line("fig"));
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), Line("fig"));
   EXPECT_EQ(folder_.Names(), (Names{"data.txt"}));
 }
@@ -177,7 +180,7 @@ TEST_F(UserProductFileTest, AKilledRemovalLeavesTheOldFileOrTheNewOne) {
     Write(old);
     const pid_t child = fork();
     if (child == 0) {
-      PassOver(RemoveUserProduct(Path(), "apple pie"));
+      Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie");
       _exit(0);
     }
     usleep(delay * 200);
@@ -191,7 +194,7 @@ TEST_F(UserProductFileTest, AKilledRemovalLeavesTheOldFileOrTheNewOne) {
   EXPECT_GT(whole_old, 0);
   // And what was interrupted can be done again.
   Write(old);
-  EXPECT_TRUE(RemoveUserProduct(Path(), "apple pie"));
+  EXPECT_TRUE(Committed(folder_.path(), RemoveUserProduct, Path(), "apple pie"));
   EXPECT_EQ(Bytes(), kept);
 }
 
