@@ -8,6 +8,8 @@ namespace velnor {
 namespace {
 
 constexpr OwnMenuItem kItems[] = {
+    {kQuickAddItem, "Quick add...\tCtrl+K", true, [](Program& p) { p.OpenQuickAdd(); }},
+    {kDiaryItem, "Diary...\tCtrl+D", true, [](Program& p) { p.OpenDiary(); }},
     {kImportItem, "Import products...", false, [](Program& p) { p.OpenImportProducts(); }},
 };
 

@@ -10,10 +10,12 @@
 #include "base/transaction.h"
 #include "body/weight_record_dialog.h"
 #include "body/whr_record_dialog.h"
+#include "diary/diary_command.h"
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
 #include "food/import_products_dialog.h"
 #include "food/recipe_record_dialog.h"
+#include "food/quick_add_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
 #include "food/user_product_file.h"
@@ -186,6 +188,18 @@ void Program::OpenImportProducts() {
   window_.OpenDialog(kImportProductsResource, std::make_unique<ImportProductsDialog>(
                                                   food_, session_, window_, message_boxes_,
                                                   [this] { OnProductsChanged(); }));
+}
+
+void Program::OpenQuickAdd() {
+  if (!session_.user) return;
+  window_.OpenSessionDialog(
+      kQuickAddResource, std::make_unique<QuickAddDialog>(food_, food_list_, *session_.clock,
+                                                          session_.user->File(kHistoryFile)));
+}
+
+void Program::OpenDiary() {
+  requirement_.Update();
+  DiaryCommand(session_, window_, message_boxes_).Run(profile_, requirement_.DayBounds());
 }
 
 void Program::OpenRemoveProduct() {

@@ -67,6 +67,8 @@ class Program {
   void OpenProfile();
   void OpenAddProduct();
   void OpenImportProducts();
+  void OpenQuickAdd();
+  void OpenDiary();
   void OpenRemoveProduct();
   void OpenSearch();
   void OpenCalorieRecord();
