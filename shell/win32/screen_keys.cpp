@@ -44,6 +44,7 @@ bool ScreenKeys::OnKeyDown(const MSG& message) {
                           .control = IsDown(VK_CONTROL),
                           .shift = IsDown(VK_SHIFT),
                           .alt = IsDown(VK_MENU)};
+  UpdateWindow(window_);  // a screen that has just been chosen shows its controls first
   if (press.key == kTabKey && !press.control && !press.alt) {
     MoveFocus(press.shift);
     return true;

@@ -7,11 +7,13 @@
 #include <windows.h>
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver.h"
+#include "tests/desktop/open_menu.h"
 
 namespace velnor::desktop {
 
@@ -45,9 +47,7 @@ std::vector<char> Look(const Window& window, RECT part);
 
 class Keyboard : public testing::Test {
  protected:
-  Keyboard() {
-    EXPECT_TRUE(WaitUntil([this] { return GetForegroundWindow() == main().handle(); }));
-  }
+  Keyboard() { EXPECT_TRUE(ComesToTheFront(main())); }
 
   const Window& main() const { return app_.main(); }
   void Settle() const { app_.Settle(); }
@@ -58,22 +58,46 @@ class Keyboard : public testing::Test {
     for (int i = 0; i < place.popup; ++i) PressKey(VK_RIGHT);
     for (int i = 0; i <= place.item; ++i) PressKey(VK_DOWN);
     PressKey(VK_RETURN);
+    WaitUntil([this] { return !IsInMenuMode(app_); });
     Settle();
   }
   Window OpenDialog(MenuPlace place) const {
     ChooseFromMenuBar(place);
-    return app_.WaitForPopup();
+    return Popup();
+  }
+  // The dialog that opens, once keys go to it.
+  Window Popup() const {
+    const Window popup = app_.WaitForPopup();
+    ComesToTheFront(popup);
+    return popup;
   }
   // Answers the box that is there or comes with Enter; its text.
   std::string AnswerBox(const Window& known = Window(nullptr)) const {
     const MessageBoxSeen box = app_.WaitForMessageBox(known);
+    ComesToTheFront(Window(box.handle));
     PressKey(VK_RETURN);
     WaitUntilGone(box.handle);
+    ComesToTheFront(known.handle() == nullptr ? main() : known);
     return box.text;
   }
-  static bool Closes(const Window& dialog, WORD key) {
+  bool Closes(const Window& dialog, WORD key) const {
     PressKey(key);
-    return WaitUntilGone(dialog.handle());
+    return IsClosed(dialog);
+  }
+  // Once keys go to the main window again.
+  bool IsClosed(const Window& dialog) const {
+    return WaitUntilGone(dialog.handle()) && ComesToTheFront(main());
+  }
+  static bool IsInFront(const Window& window) { return GetForegroundWindow() == window.handle(); }
+  // Comes and stays: the window manager hands the keyboard on in its own time, and what is typed
+  // while nobody has it is lost. A dialog that goes with its box is waited for no longer.
+  static bool ComesToTheFront(const Window& window) {
+    constexpr int kLooks = 20;
+    int looks = 0;
+    return WaitUntil([&] {
+      looks = IsInFront(window) ? looks + 1 : 0;
+      return looks >= kLooks || IsWindow(window.handle()) == 0;
+    });
   }
 
   static HWND Focused(const Window& window) {
@@ -93,26 +117,31 @@ class Keyboard : public testing::Test {
     }
     return false;
   }
-  // The same, and types; what the control holds then.
-  std::string TypeInto(const Window& window, int id, std::string_view keys) const {
-    if (!TabTo(window, id)) return "no focus";
+  // The same, and types; whether the control holds `expected` soon. Keys take their time, so each
+  // step waits for what the one before has done.
+  static bool TypeInto(const Window& window, int id, std::string_view keys,
+                       const std::string& expected) {
+    if (!TabTo(window, id)) return false;
     TypeKeys(keys);
-    Settle();
-    return window.Text(id);
+    return WaitUntil([&] { return window.Text(id) == expected; });
+  }
+  static bool TypeInto(const Window& window, int id, const std::string& keys) {
+    return TypeInto(window, id, keys, keys);
   }
   void PressButton(const Window& window, int id, WORD key) const {
     ASSERT_TRUE(TabTo(window, id)) << id;
     PressKey(key);
   }
   // In a list or a combo box: down to the item.
-  bool ArrowTo(const Window& window, int id, const std::string& item) const {
+  static bool ArrowTo(const Window& window, int id, const std::string& item) {
     if (!TabTo(window, id)) return false;
     for (std::size_t presses = 0; presses <= window.Items(id).size(); ++presses) {
-      if (window.Selected(id) == item) return true;
+      const std::optional<std::string> before = window.Selected(id);
+      if (before == item) return true;
       PressKey(VK_DOWN);
-      Settle();
+      if (!WaitUntil([&] { return window.Selected(id) != before; })) return false;
     }
-    return window.Selected(id) == item;
+    return false;
   }
 
   WorkFolder folder_;

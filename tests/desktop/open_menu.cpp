@@ -24,13 +24,6 @@ HMENU MenuOf(HWND window) {
   return reinterpret_cast<HMENU>(SendMessageA(window, kGetMenuHandle, 0, 0));
 }
 
-bool IsInMenuMode(const App& app) {
-  GUITHREADINFO info = {};
-  info.cbSize = sizeof info;
-  const DWORD thread = GetWindowThreadProcessId(app.main().handle(), nullptr);
-  return GetGUIThreadInfo(thread, &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
-}
-
 }  // namespace
 
 OpenMenu::OpenMenu(const App& app) : app_(app), window_(nullptr) {
@@ -77,6 +70,13 @@ void OpenMenu::Close() const {
     PressKey(VK_ESCAPE);
     return false;
   });
+}
+
+bool IsInMenuMode(const App& app) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  const DWORD thread = GetWindowThreadProcessId(app.main().handle(), nullptr);
+  return GetGUIThreadInfo(thread, &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
 }
 
 bool MenuIsOpen(const App& app) { return FindMenuWindow(app) != nullptr; }

@@ -32,8 +32,9 @@ class OpenMenu {
   HWND window_;
 };
 
-// Whether a menu of the program is open.
+// Whether a menu of the program is open, and whether one is open or the menu bar has the keyboard.
 bool MenuIsOpen(const App& app);
+bool IsInMenuMode(const App& app);
 
 // Choose from a menu that they open. Return false when the item is not there or grey.
 bool ChooseFromTitleBarMenu(const App& app, int id);
