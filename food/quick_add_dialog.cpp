@@ -143,8 +143,7 @@ void QuickAddDialog::Add(Form& form) {
   const DayTotals amounts = ShownAmounts(match->product, weight);
   if (!list_.AddChosen({name, weight, amounts})) return;
   const Moment now = clock_.Now();
-  habits_.Note(
-      {.date = now.date, .time = now.time, .name = name, .amount = ParseNumber(weight)});
+  habits_.Note({.date = now.date, .time = now.time, .name = name, .amount = ParseNumber(weight)});
   form.SetText(kQuery, "");
   form.Focus(kQuery);
 }

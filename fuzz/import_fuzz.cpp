@@ -11,6 +11,7 @@
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
 #include "fuzz/program_run.h"
+#include "tests/support/committed.h"
 
 namespace velnor {
 namespace {
