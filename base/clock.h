@@ -15,7 +15,7 @@ struct Moment {
 
 class Clock {
  public:
-  constexpr virtual ~Clock() = default;
+  virtual ~Clock() = default;
 
   // Local time, to the second.
   virtual Moment Now() const = 0;
@@ -26,7 +26,7 @@ class StoppedClock final : public Clock {
  public:
   Moment Now() const override { return {"2000-01-01", "00:00:00"}; }
 };
-inline constexpr StoppedClock kStoppedClock;
+inline const StoppedClock kStoppedClock;
 
 }  // namespace velnor
 

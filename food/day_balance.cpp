@@ -158,12 +158,12 @@ DayExchanges DayBalance::ReadExchanges() const {
 }
 
 bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges,
-                     const EatenFood& food) {
+                     const FoodOfDeed& food) {
   return Change(HistoryKind::kFood, totals, exchanges, food);
 }
 
 bool DayBalance::TakeOff(const DayTotals& totals, const std::optional<DayExchanges>& exchanges,
-                         const EatenFood& food) {
+                         const FoodOfDeed& food) {
   return Change(HistoryKind::kRemoved, totals, exchanges, food);
 }
 
@@ -172,7 +172,7 @@ bool DayBalance::ClearList(const DayTotals& totals, const DayExchanges& exchange
 }
 
 bool DayBalance::Change(HistoryKind kind, const DayTotals& totals,
-                        const std::optional<DayExchanges>& exchanges, const EatenFood& food) {
+                        const std::optional<DayExchanges>& exchanges, const FoodOfDeed& food) {
   const auto changed = [kind](double figure, double by, double rest) {
     return kind == HistoryKind::kFood ? Sum(figure, by) : Difference(figure, by, rest);
   };

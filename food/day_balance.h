@@ -37,7 +37,7 @@ struct DayExchanges {
 // files are of that day first: files of another day, or without a date, are started afresh. Nothing
 // is lost when a file cannot be read or written: it keeps what it held, and the operation says so.
 // What a change of the day is told of in the history.
-struct EatenFood {
+struct FoodOfDeed {
   std::string name = {};
   std::optional<double> weight = {};  // g
 };
@@ -73,7 +73,7 @@ class DayBalance {
   // less than nothing takes the day below 0. An exchange nearer to 0 than 0.0001 becomes 0, since
   // the eight characters that are read would not hold it.
   [[nodiscard]] bool Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {},
-                         const EatenFood& food = {});
+                         const FoodOfDeed& food = {});
 
   // Takes food off again. A figure that would fall below 0, or that is a mere rest of rounding,
   // becomes 0. A rest is less than 0.001 (of an exchange, 0.0001), or than ten units in the eighth
@@ -81,7 +81,7 @@ class DayBalance {
   // them is not what was eaten.
   [[nodiscard]] bool TakeOff(const DayTotals& totals,
                              const std::optional<DayExchanges>& exchanges = {},
-                             const EatenFood& food = {});
+                             const FoodOfDeed& food = {});
 
   // Takes all that is on the list off, as TakeOff does with one food.
   [[nodiscard]] bool ClearList(const DayTotals& totals, const DayExchanges& exchanges);
@@ -93,7 +93,7 @@ class DayBalance {
  private:
   // `kind`: kFood adds, the others take off.
   bool Change(HistoryKind kind, const DayTotals& totals,
-              const std::optional<DayExchanges>& exchanges, const EatenFood& food);
+              const std::optional<DayExchanges>& exchanges, const FoodOfDeed& food);
   // Brings the day's line of the chart series to those totals.
   bool UpdateSeries(Transaction& deed, const UserFolder& user, const DayTotals& totals) const;
 

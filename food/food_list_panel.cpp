@@ -105,7 +105,7 @@ void FoodListPanel::Remove() {
   const DayTotals amounts = AmountsOf(*line, listed);
   // A food that was refused for its weight is in the day's totals alone.
   const bool counts = CountsInTotals(listed.weight);
-  const EatenFood food = {listed.name, ParseNumber(listed.weight)};
+  const FoodOfDeed food = {listed.name, ParseNumber(listed.weight)};
   if (!day_.TakeOff(amounts, ExchangesOf(amounts, counts), food)) return ReportFailedWrite();
   form_.RemoveSelectedItem(kList);
   Forget(*line);

@@ -27,6 +27,7 @@
 #include "users/history.h"
 #include "users/login_dialog.h"
 #include "users/profile_dialog.h"
+#include "users/user_files.h"
 #include "users/users_dialog.h"
 
 namespace velnor {
