@@ -127,9 +127,9 @@ void BurnedTotal::Clear() {
     const DayLine line = Read();
     const bool is_of_today = !line.is_empty && !IsOfAnotherDay(line);
     deed.Replace(user.File(kBurnedFile), "");
-    TellHistory(deed, session_, user,
-                {.kind = HistoryKind::kBurnedCleared,
-                 .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
+    TellHistory(
+        deed, session_, user,
+        {.kind = HistoryKind::kBurnedCleared, .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
     deed.CommitUnreported();
   }
   kcal_ = 0;

@@ -73,8 +73,8 @@ void BurnedScreen::Count() {
 }
 
 void BurnedScreen::Add() {
-  form_.SetText(kTotal, total_.Add(form_.ReadText(kCalories, kCaloriesLimit),
-                                    counted_activity_, counted_minutes_));
+  form_.SetText(kTotal, total_.Add(form_.ReadText(kCalories, kCaloriesLimit), counted_activity_,
+                                   counted_minutes_));
   window_.Invalidate();
 }
 

@@ -201,8 +201,8 @@ bool DayBalance::Change(HistoryKind kind, const DayTotals& totals,
       deed.Replace(path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure));
     }
   }
-  Tell(deed, session_, user, {.kind = kind, .name = food.name, .amount = food.weight,
-                              .unit = food.weight ? "g" : ""},
+  Tell(deed, session_, user,
+       {.kind = kind, .name = food.name, .amount = food.weight, .unit = food.weight ? "g" : ""},
        before, after);
   return UpdateSeries(deed, user, after) && deed.Commit();
 }

@@ -14,8 +14,8 @@
 #include "food/add_product_dialog.h"
 #include "food/calorie_record_dialog.h"
 #include "food/import_products_dialog.h"
-#include "food/recipe_record_dialog.h"
 #include "food/quick_add_dialog.h"
+#include "food/recipe_record_dialog.h"
 #include "food/remove_product_dialog.h"
 #include "food/search_dialog.h"
 #include "food/user_product_file.h"
@@ -193,9 +193,9 @@ void Program::OpenImportProducts() {
 
 void Program::OpenQuickAdd() {
   if (!session_.user) return;
-  window_.OpenSessionDialog(
-      kQuickAddResource, std::make_unique<QuickAddDialog>(food_, food_list_, *session_.clock,
-                                                          session_.user->File(kHistoryFile)));
+  window_.OpenSessionDialog(kQuickAddResource,
+                            std::make_unique<QuickAddDialog>(food_, food_list_, *session_.clock,
+                                                             session_.user->File(kHistoryFile)));
 }
 
 void Program::OpenDiary() {
