@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "base/transaction.h"
+#include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -98,15 +99,22 @@ std::string BurnedTotal::RefreshForToday() {
   return line.kcal;
 }
 
-std::string BurnedTotal::Add(std::string_view burned) {
+std::string BurnedTotal::Add(std::string_view burned, std::string_view activity,
+                             std::string_view minutes) {
   Transaction deed(session_.base_folder);
   const DayLine line = Read();
   kcal_ = static_cast<float>(ParseNumber(burned) + ParseNumber(line.kcal));
   if (std::abs(kcal_) < kRoundingRest) kcal_ = 0;
   std::string total = FormatNumber(kcal_, kTotalDigits);
   if (line.is_readable) {
-    deed.Replace(session_.user->File(kBurnedFile),
-                 session_.date_text + kFieldEnd + total + kFieldEnd);
+    const UserFolder& user = *session_.user;
+    deed.Replace(user.File(kBurnedFile), session_.date_text + kFieldEnd + total + kFieldEnd);
+    TellHistory(deed, session_, user,
+                {.kind = HistoryKind::kBurned,
+                 .name = std::string(activity),
+                 .amount = ParseNumber(minutes),
+                 .unit = "min",
+                 .kcal = ParseNumber(total) - ParseNumber(line.kcal)});
   }
   deed.CommitUnreported();
   return total;
@@ -115,7 +123,13 @@ std::string BurnedTotal::Add(std::string_view burned) {
 void BurnedTotal::Clear() {
   if (session_.user) {
     Transaction deed(session_.base_folder);
-    deed.Replace(session_.user->File(kBurnedFile), "");
+    const UserFolder& user = *session_.user;
+    const DayLine line = Read();
+    const bool is_of_today = !line.is_empty && !IsOfAnotherDay(line);
+    deed.Replace(user.File(kBurnedFile), "");
+    TellHistory(
+        deed, session_, user,
+        {.kind = HistoryKind::kBurnedCleared, .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
     deed.CommitUnreported();
   }
   kcal_ = 0;

@@ -49,9 +49,10 @@ class BurnedTotal {
   // day of another year is the same day.
   std::string RefreshForToday();
 
-  // Adds `burned` kcal, decimal text, to the total in the file and dates the file today. Returns
-  // the new total with 15 significant digits.
-  std::string Add(std::string_view burned);
+  // Adds `burned` kcal, decimal text, to the total in the file and dates the file today, and tells
+  // the history of the activity and its minutes. Returns the new total with 15 significant digits.
+  std::string Add(std::string_view burned, std::string_view activity = {},
+                  std::string_view minutes = {});
 
   // Empties the file; the total is 0.
   void Clear();

@@ -112,13 +112,15 @@ void BurnedScreen::Paint(Canvas& canvas) const {
 
 void BurnedScreen::Count() {
   counted_activity_ = form_.SelectedText(kActivities).value_or("");
-  const Burned burned = CountBurned(counted_activity_, form_.ReadText(kMinutes, kMinutesLimit));
+  counted_minutes_ = form_.ReadText(kMinutes, kMinutesLimit);
+  const Burned burned = CountBurned(counted_activity_, counted_minutes_);
   form_.SetText(kCalories, burned.KcalText());
   form_.SetText(kFat, burned.FatText());
 }
 
 void BurnedScreen::Add() {
-  form_.SetText(kTotal, total_.Add(form_.ReadText(kCalories, kCaloriesLimit)));
+  form_.SetText(kTotal, total_.Add(form_.ReadText(kCalories, kCaloriesLimit), counted_activity_,
+                                   counted_minutes_));
   window_.Invalidate();
 }
 

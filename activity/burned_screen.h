@@ -46,6 +46,7 @@ class BurnedScreen final : public Screen {
   MessageBoxes& message_boxes_;
   // Of the last count; empty when none was chosen for it or nothing was counted yet.
   std::string counted_activity_;
+  std::string counted_minutes_;
 };
 
 }  // namespace velnor

@@ -21,6 +21,13 @@ class Clock {
   virtual Moment Now() const = 0;
 };
 
+// Stands at the beginning of a day: for who needs no time.
+class StoppedClock final : public Clock {
+ public:
+  Moment Now() const override { return {"2000-01-01", "00:00:00"}; }
+};
+inline const StoppedClock kStoppedClock;
+
 }  // namespace velnor
 
 #endif  // VELNOR_BASE_CLOCK_H_

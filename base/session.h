@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/clock.h"
 #include "base/user_folder.h"
 
 namespace velnor {
@@ -24,8 +25,9 @@ struct SessionState {
   // Nothing while nobody is logged in. A name chosen in the login dialog counts as logged in before
   // its OK: the header shows it, and files written from then on are that user's.
   std::optional<UserFolder> user = {};
-  std::string base_folder = {};  // the start-up directory with a separator at its end
-  std::string date_text = {};    // today, as DateText writes it; stays for the whole run
+  std::string base_folder = {};         // the start-up directory with a separator at its end
+  std::string date_text = {};           // today, as DateText writes it; stays for the whole run
+  const Clock* clock = &kStoppedClock;  // of the deeds; lives as long as the session, never null
 
   // The path of a file in the start-up directory itself.
   std::string BaseFile(std::string_view file_name) const;

@@ -56,6 +56,18 @@ std::string ReadFile(const std::string& path, std::size_t limit) {
   return ReadFileToRewrite(path, limit).value_or("");
 }
 
+std::optional<char> LastByteOf(const std::string& path) {
+  const File file = Open(path, "rb");
+  if (!file) return std::nullopt;
+  const std::optional<std::uint64_t> size = SizeOf(file.get());
+  char last = '\0';
+  if (!size || *size == 0 || !SeekTo(file.get(), *size - 1) ||
+      std::fread(&last, 1, 1, file.get()) != 1) {
+    return std::nullopt;
+  }
+  return last;
+}
+
 bool FileExists(const std::string& path) { return Open(path, "rb") != nullptr; }
 
 bool WriteAndClose(File file, std::string_view bytes) {

@@ -34,6 +34,9 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 // could not.
 [[nodiscard]] bool WriteAndClose(File file, std::string_view bytes);
 
+// The last byte of a file; nothing when it is empty, missing or cannot be read.
+std::optional<char> LastByteOf(const std::string& path);
+
 // Whether there is a file that can be opened for reading.
 bool FileExists(const std::string& path);
 

@@ -8,6 +8,7 @@
 #include "body/record_fields.h"
 #include "body/weight_record.h"
 #include "charts/chart_file.h"
+#include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -52,6 +53,8 @@ void WeightRecordDialog::Write(const UserFolder& user, const WeightRecord& recor
   deed.Append(user.File(kWeightReportFile), WeightRecordLine(record));
   // The chart goes by the days of the calendar, whatever date the report was given.
   const std::string fields[] = {record.weight, record.bmi};
+  TellHistory(deed, session_, user,
+              {.kind = HistoryKind::kWeight, .amount = ParseNumber(record.weight), .unit = "kg"});
   if (UpdateChartFile(deed, user.File(kWeightSeriesFile), session_.date_text, fields)) {
     deed.CommitUnreported();
   }

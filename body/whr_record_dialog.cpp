@@ -6,6 +6,7 @@
 #include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
+#include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -44,9 +45,11 @@ void WhrRecordDialog::Save(Form& form) {
                             .whr = ReadTwoDecimals(form, kWhr),
                             .other = form.ReadText(kRecordOther, kOtherLimit)};
   // Whether the record could be written is not reported.
-  if (const auto path = session_.UserFile(kWhrReportFile)) {
+  if (session_.user) {
     Transaction deed(session_.base_folder);
-    deed.Append(*path, WhrRecordLine(record));
+    deed.Append(session_.user->File(kWhrReportFile), WhrRecordLine(record));
+    TellHistory(deed, session_, *session_.user,
+                {.kind = HistoryKind::kWaistHip, .amount = ParseNumber(record.whr)});
     deed.CommitUnreported();
   }
   form.Close();

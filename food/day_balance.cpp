@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "base/file_calls.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "charts/chart_file.h"
+#include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
@@ -108,6 +110,21 @@ DayTotals TotalsIn(const BalanceLines& lines) {
   return {number(1), number(2), number(3), number(4)};
 }
 
+// The totals as the balance file holds them: the history adds up to these.
+double AsStored(double figure) { return ParseNumber(Stored(figure)); }
+
+void Tell(Transaction& deed, const SessionState& session, const UserFolder& user,
+          HistoryEntry entry, const DayTotals& before, const DayTotals& after) {
+  const auto change = [&](double DayTotals::*figure) {
+    return AsStored(after.*figure) - AsStored(before.*figure);
+  };
+  entry.kcal = change(&DayTotals::kcal);
+  entry.protein = change(&DayTotals::protein);
+  entry.fat = change(&DayTotals::fat);
+  entry.carbohydrate = change(&DayTotals::carbohydrate);
+  TellHistory(deed, session, user, std::move(entry));
+}
+
 }  // namespace
 
 bool DayBalance::StartDayIfNew() { return LinesOfToday(session_).has_value(); }
@@ -140,18 +157,24 @@ DayExchanges DayBalance::ReadExchanges() const {
           ReadExchange(session_.user->File(kProteinFatExchangeFile)).value_or(0)};
 }
 
-bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) {
-  return Make(Change::kAdd, totals, exchanges);
+bool DayBalance::Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges,
+                     const FoodOfDeed& food) {
+  return Change(HistoryKind::kFood, totals, exchanges, food);
 }
 
-bool DayBalance::TakeOff(const DayTotals& totals, const std::optional<DayExchanges>& exchanges) {
-  return Make(Change::kTakeOff, totals, exchanges);
+bool DayBalance::TakeOff(const DayTotals& totals, const std::optional<DayExchanges>& exchanges,
+                         const FoodOfDeed& food) {
+  return Change(HistoryKind::kRemoved, totals, exchanges, food);
 }
 
-bool DayBalance::Make(Change change, const DayTotals& totals,
-                      const std::optional<DayExchanges>& exchanges) {
-  const auto changed = [change](double figure, double by, double rest) {
-    return change == Change::kAdd ? Sum(figure, by) : Difference(figure, by, rest);
+bool DayBalance::ClearList(const DayTotals& totals, const DayExchanges& exchanges) {
+  return Change(HistoryKind::kListCleared, totals, exchanges, {});
+}
+
+bool DayBalance::Change(HistoryKind kind, const DayTotals& totals,
+                        const std::optional<DayExchanges>& exchanges, const FoodOfDeed& food) {
+  const auto changed = [kind](double figure, double by, double rest) {
+    return kind == HistoryKind::kFood ? Sum(figure, by) : Difference(figure, by, rest);
   };
   if (!session_.user) return false;
   const UserFolder& user = *session_.user;
@@ -178,6 +201,9 @@ bool DayBalance::Make(Change change, const DayTotals& totals,
       deed.Replace(path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure));
     }
   }
+  Tell(deed, session_, user,
+       {.kind = kind, .name = food.name, .amount = food.weight, .unit = food.weight ? "g" : ""},
+       before, after);
   return UpdateSeries(deed, user, after) && deed.Commit();
 }
 
@@ -185,6 +211,10 @@ bool DayBalance::Clear() {
   if (!session_.user) return false;
   const UserFolder& user = *session_.user;
   Transaction deed(session_.base_folder);
+  const std::optional<BalanceLines> lines = ReadLines(user.File(kBalanceFile));
+  if (!lines) return false;
+  const DayTotals before = IsToday(*lines, session_) ? TotalsIn(*lines) : DayTotals{};
+  Tell(deed, session_, user, {.kind = HistoryKind::kDayCleared}, before, {});
   for (const std::string_view file : kExchangeFiles) deed.Replace(user.File(file), "0");
   deed.Replace(user.File(kBalanceFile), session_.date_text);
   return UpdateSeries(deed, user, {}) && deed.Commit();

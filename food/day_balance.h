@@ -12,6 +12,7 @@
 
 #include "base/session.h"
 #include "base/transaction.h"
+#include "users/history_file.h"
 
 namespace velnor {
 
@@ -30,6 +31,12 @@ struct DayExchanges {
   double protein_fat = 0;
 
   bool operator==(const DayExchanges&) const = default;
+};
+
+// What the history tells of a food that came or went.
+struct FoodOfDeed {
+  std::string name = {};
+  std::optional<double> weight = {};  // g
 };
 
 // Where the logged-in user's day is kept, and which day it is. Every operation is sure that the
@@ -58,30 +65,34 @@ class DayBalance {
   // The day's exchanges, of each file the first eight characters. Missing files count as 0.
   DayExchanges ReadExchanges() const;
 
-  // The changes of a day write its files and its line of the chart series together. False when all
-  // of them keep what they held.
+  // The changes of a day write its files, its line of the chart series and a line of the history
+  // together. They return false if all of them keep what they held.
 
   // Adds food to the totals and, where they are given, to the exchanges. Sums are plain: food of
   // less than nothing takes the day below 0. An exchange nearer to 0 than 0.0001 becomes 0, since
   // the eight characters that are read would not hold it.
-  [[nodiscard]] bool Add(const DayTotals& totals,
-                         const std::optional<DayExchanges>& exchanges = {});
+  [[nodiscard]] bool Add(const DayTotals& totals, const std::optional<DayExchanges>& exchanges = {},
+                         const FoodOfDeed& food = {});
 
   // Takes food off again. A figure that would fall below 0, or that is a mere rest of rounding,
   // becomes 0. A rest is less than 0.001 (of an exchange, 0.0001), or than ten units in the eighth
   // digit that the figure had before: eight digits are written, and after many changes the last of
   // them is not what was eaten.
   [[nodiscard]] bool TakeOff(const DayTotals& totals,
-                             const std::optional<DayExchanges>& exchanges = {});
+                             const std::optional<DayExchanges>& exchanges = {},
+                             const FoodOfDeed& food = {});
+
+  // Takes all that is on the list off, as TakeOff does with one food.
+  [[nodiscard]] bool ClearList(const DayTotals& totals, const DayExchanges& exchanges);
 
   // Nothing has been eaten today: the balance holds the date alone, the exchange files "0", the
   // day's line of the chart series zeros.
   [[nodiscard]] bool Clear();
 
  private:
-  enum class Change { kAdd, kTakeOff };
-
-  bool Make(Change change, const DayTotals& totals, const std::optional<DayExchanges>& exchanges);
+  // `kind`: kFood adds, the others take off.
+  bool Change(HistoryKind kind, const DayTotals& totals,
+              const std::optional<DayExchanges>& exchanges, const FoodOfDeed& food);
   // Brings the day's line of the chart series to those totals.
   bool UpdateSeries(Transaction& deed, const UserFolder& user, const DayTotals& totals) const;
 

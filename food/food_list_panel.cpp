@@ -65,7 +65,8 @@ bool FoodListPanel::Put(const WeighedFood& food) {
   const ListedFood listed = {food.name, ListedWeight(food.weight)};
   const bool counts = CountsInTotals(listed.weight);
   day_.MakeExchangeFiles();
-  if (!day_.Add(food.amounts, ExchangesOf(food.amounts, counts))) {
+  if (!day_.Add(food.amounts, ExchangesOf(food.amounts, counts),
+                {food.name, ParseNumber(listed.weight)})) {
     ReportFailedWrite();
     return false;
   }
@@ -90,7 +91,8 @@ void FoodListPanel::Remove() {
   const DayTotals amounts = AmountsOf(*line, listed);
   // A food that was refused for its weight is in the day's totals alone.
   const bool counts = CountsInTotals(listed.weight);
-  if (!day_.TakeOff(amounts, ExchangesOf(amounts, counts))) return ReportFailedWrite();
+  const FoodOfDeed food = {listed.name, ParseNumber(listed.weight)};
+  if (!day_.TakeOff(amounts, ExchangesOf(amounts, counts), food)) return ReportFailedWrite();
   form_.RemoveSelectedItem(kList);
   Forget(*line);
   if (counts) ChangeTotals(-ParseNumber(listed.weight), -amounts);
@@ -121,7 +123,7 @@ void FoodListPanel::ClearList() {
                              ParseNumber(totals.protein) + left_out_.protein,
                              ParseNumber(totals.fat) + left_out_.fat,
                              ParseNumber(totals.carbohydrate) + left_out_.carbohydrate};
-  if (!day_.TakeOff(amounts, ExchangesOf(amounts, true))) return ReportFailedWrite();
+  if (!day_.ClearList(amounts, *ExchangesOf(amounts, true))) return ReportFailedWrite();
   Empty(kZero);
 }
 

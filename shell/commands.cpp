@@ -11,6 +11,7 @@
 #include "shell/about_box.h"
 #include "shell/parts.h"
 #include "shell/screens.h"
+#include "users/history.h"
 #include "users/login_dialog.h"
 #include "users/profile_dialog.h"
 #include "users/users_dialog.h"
@@ -20,8 +21,11 @@ namespace {
 
 constexpr std::string_view kHelpFile = "Velnor CALORIES COUNTER V 2.6 PORADNIK.HLP";
 
-// What begins with the login of a user: the day's balance, the user's limits, an empty list.
+// What begins with the login of a user: the day's balance, the user's limits, an empty list. The
+// copy shows the day before, so it comes first.
 void StartUserDay(Parts& parts) {
+  parts.daily_copy.Make(parts.session, parts.message_boxes);
+  BeginHistory(parts.session, *parts.session.user);
   PassOver(parts.day.StartDayIfNew());
   parts.requirement.OnLogin();
   parts.food_list.Empty("");

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <memory>
 
+#include "diary/diary_command.h"
 #include "food/import_products_dialog.h"
+#include "food/quick_add_dialog.h"
 #include "shell/parts.h"
+#include "users/history_file.h"
 
 namespace velnor {
 namespace {
@@ -16,7 +19,22 @@ void OpenImportProducts(Parts& parts) {
                               [&parts] { parts.OnProductsChanged(); }));
 }
 
+void OpenQuickAdd(Parts& parts) {
+  parts.window.OpenSessionDialog(
+      kQuickAddResource,
+      std::make_unique<QuickAddDialog>(parts.food, parts.food_list, *parts.session.clock,
+                                       parts.session.user->File(kHistoryFile)));
+}
+
+void OpenDiary(Parts& parts) {
+  parts.requirement.Update();
+  DiaryCommand(parts.session, parts.window, parts.message_boxes)
+      .Run(parts.profile, parts.requirement.Bounds());
+}
+
 constexpr OwnMenuItem kItems[] = {
+    {kQuickAddItem, "Quick add...\tCtrl+K", true, OpenQuickAdd},
+    {kDiaryItem, "Diary...\tCtrl+D", true, OpenDiary},
     {kImportItem, "Import products...", false, OpenImportProducts},
 };
 

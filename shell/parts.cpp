@@ -5,11 +5,13 @@
 namespace velnor {
 
 Parts::Parts(std::string base_folder, std::string date_text, Form& main_form,
-             MainWindow& main_window, MessageBoxes& boxes)
+             MainWindow& main_window, MessageBoxes& boxes, const Clock& clock)
     : form(main_form),
       window(main_window),
       message_boxes(boxes),
-      session{.base_folder = std::move(base_folder), .date_text = std::move(date_text)},
+      session{.base_folder = std::move(base_folder),
+              .date_text = std::move(date_text),
+              .clock = &clock},
       day(session),
       food_list(food, day, exchanges, form, message_boxes),
       requirement(session, profile),

@@ -11,6 +11,7 @@
 #include "activity/day_requirement.h"
 #include "activity/exchanges_screen.h"
 #include "activity/requirement_screen.h"
+#include "base/clock.h"
 #include "base/form.h"
 #include "base/main_window.h"
 #include "base/message_boxes.h"
@@ -30,6 +31,7 @@
 #include "food/overview_screen.h"
 #include "reports/report_screen.h"
 #include "shell/home_screen.h"
+#include "users/daily_copy.h"
 #include "users/profile.h"
 
 namespace velnor {
@@ -37,7 +39,7 @@ namespace velnor {
 struct Parts {
   // `base_folder`: the start-up directory with a separator at its end. `date_text`: today.
   Parts(std::string base_folder, std::string date_text, Form& main_form, MainWindow& main_window,
-        MessageBoxes& boxes);
+        MessageBoxes& boxes, const Clock& clock);
   Parts(const Parts&) = delete;
   Parts& operator=(const Parts&) = delete;
 
@@ -57,6 +59,7 @@ struct Parts {
   DayRequirement requirement;
   BurnedTotal burned_total;
   WeightText weight;
+  DailyCopy daily_copy;
 
   HomeScreen home_screen;
   BmiScreen bmi_screen;

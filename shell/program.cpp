@@ -15,8 +15,8 @@
 namespace velnor {
 
 Program::Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
-                 MessageBoxes& message_boxes)
-    : parts_(std::move(base_folder), std::move(date_text), form, window, message_boxes) {
+                 MessageBoxes& message_boxes, const Clock& clock)
+    : parts_(std::move(base_folder), std::move(date_text), form, window, message_boxes, clock) {
   std::ranges::transform(Screens(), std::back_inserter(screens_),
                          [this](const ScreenRow& row) { return &row.screen(parts_); });
 }

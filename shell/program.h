@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/canvas.h"
+#include "base/clock.h"
 #include "base/screen.h"
 #include "shell/parts.h"
 
@@ -20,7 +21,7 @@ class Program {
   // `base_folder`: the start-up directory with a separator at its end. `date_text`: today. `form`
   // holds the controls of the main window; nothing is asked of the interfaces before Start.
   Program(std::string base_folder, std::string date_text, Form& form, MainWindow& window,
-          MessageBoxes& message_boxes);
+          MessageBoxes& message_boxes, const Clock& clock = kStoppedClock);
 
   // The menu as it is when nobody is logged in, and the user's products. Called once, when the main
   // window and its controls exist.

@@ -185,6 +185,10 @@ std::string IsoDate(std::string_view date_text) {
   return IsIsoDate(date) ? date : std::string();
 }
 
+std::string TimeText(int hour, int minute, int second) {
+  return TwoDigits(hour) + ':' + TwoDigits(minute) + ':' + TwoDigits(second);
+}
+
 bool IsIsoDate(std::string_view date) {
   if (date.size() != 10 || date[4] != '-' || date[7] != '-' || !IsDigits(date.substr(0, 4)) ||
       !IsDigits(date.substr(5, 2)) || !IsDigits(date.substr(8, 2))) {

@@ -65,6 +65,10 @@ std::string HistoryLine(const HistoryEntry& entry);
 // is no such date gives empty text.
 std::string IsoDate(std::string_view date_text);
 
+// The time of a day as the history has it: "13:05:09". `hour` is from 0 to 23, the others from 0 to
+// 59.
+std::string TimeText(int hour, int minute, int second);
+
 // Whether `date` is a day of the calendar written as "2026-03-05", from year 1 to 9999.
 bool IsIsoDate(std::string_view date);
 

@@ -10,6 +10,7 @@
 #include "shell/win32/file_picker.h"
 #include "shell/win32/guide.h"
 #include "shell/win32/wide_path.h"
+#include "users/history_file.h"
 
 namespace velnor {
 namespace {
@@ -44,6 +45,13 @@ void DrawFrame(HWND window, HWND frame, HDC picture) {
 }
 
 }  // namespace
+
+Moment Win32Clock::Now() const {
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  return {IsoDate(DateText(now.wDay, now.wMonth, now.wYear)),
+          TimeText(now.wHour, now.wMinute, now.wSecond)};
+}
 
 Win32MainWindow::Win32MainWindow(HINSTANCE instance)
     : instance_(instance), surface_(CreateSolidBrush(kSurfaceColour)) {}
@@ -163,7 +171,7 @@ LRESULT Win32MainWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 bool Win32MainWindow::OnCreate() {
   form_.emplace(window_);
   message_boxes_.emplace(window_);
-  program_.emplace(StartUpFolder(), Today(), *form_, *this, *message_boxes_);
+  program_.emplace(StartUpFolder(), Today(), *form_, *this, *message_boxes_, clock_);
   menu_ = LoadMenuA(instance_, MAKEINTRESOURCEA(kMenuResource));
   SetMenu(window_, menu_);
   own_menus_.emplace(window_, *program_);

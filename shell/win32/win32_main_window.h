@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/clock.h"
 #include "base/main_window.h"
 #include "shell/painting.h"
 #include "shell/program.h"
@@ -19,6 +20,12 @@
 #include "shell/win32/window_form.h"
 
 namespace velnor {
+
+// The clock of the machine.
+class Win32Clock final : public Clock {
+ public:
+  Moment Now() const override;
+};
 
 class Win32MainWindow final : public MainWindow {
  public:
@@ -59,6 +66,7 @@ class Win32MainWindow final : public MainWindow {
   void FocusIfShown(HWND control) const;
 
   HINSTANCE instance_;
+  Win32Clock clock_;
   HBRUSH surface_;  // behind the screens and in the controls; the window class owns it
   HWND window_ = nullptr;
   int client_width_ = 0;

@@ -124,7 +124,7 @@ TEST_F(DayBalanceTest, WithoutOneOfTheFilesTheDayStaysAsItIs) {
                                                  : "5.3.2026\r\n10.\r\n0.\r\n0.\r\n0.");
     }
   }
-  EXPECT_EQ(NamesOfFiles().size(), 3U) << "and the series";
+  EXPECT_EQ(NamesOfFiles().size(), 4U) << "and the series, and the history";
 }
 
 TEST_F(DayBalanceTest, WhatIsWriteProtectedKeepsTheOthersAsTheyAre) {
