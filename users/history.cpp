@@ -5,7 +5,6 @@
 #include <cmath>
 #include <iterator>
 #include <optional>
-#include <ranges>
 #include <set>
 #include <string>
 #include <string_view>
@@ -65,8 +64,8 @@ HistoryEntry ImportedWeight(const SeriesLine& fields) {
 void KeepLastOfEachDay(std::vector<HistoryEntry>& days) {
   std::set<std::string> dates;
   std::vector<HistoryEntry> kept;
-  for (HistoryEntry& day : std::views::reverse(days)) {
-    if (dates.insert(day.date).second) kept.push_back(std::move(day));
+  for (auto day = days.rbegin(); day != days.rend(); ++day) {
+    if (dates.insert(day->date).second) kept.push_back(std::move(*day));
   }
   days = std::move(kept);
 }
