@@ -64,8 +64,9 @@ HistoryEntry ImportedWeight(const SeriesLine& fields) {
 void KeepLastOfEachDay(std::vector<HistoryEntry>& days) {
   std::set<std::string> dates;
   std::vector<HistoryEntry> kept;
-  for (auto day = days.rbegin(); day != days.rend(); ++day) {
-    if (dates.insert(day->date).second) kept.push_back(std::move(*day));
+  std::ranges::reverse(days);
+  for (HistoryEntry& day : days) {
+    if (dates.insert(day.date).second) kept.push_back(std::move(day));
   }
   days = std::move(kept);
 }
