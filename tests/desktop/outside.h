@@ -19,6 +19,9 @@ namespace velnor::desktop {
 using Snapshot = std::map<std::string, std::string>;
 Snapshot Look(const Folder& folder);
 
+// The bytes of a history without the times of day in its lines.
+std::string WithoutTimes(const std::string& history);
+
 // Runs a command of the shell below Wine, which can do what no call of the platform can, and waits
 // for its end; its status. -1 where there is no such shell.
 int RunBelowWine(const std::string& command);
