@@ -204,7 +204,7 @@ TEST_F(Dialogs, ALogoutClosesAProfileThatAsksSomething) {
   app.Settle();
   EXPECT_TRUE(app.IsRunning());
   EXPECT_EQ(folder_.Read("Ann\\info.ASC"), kProfile);
-  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "kopie zapasowe", "users.ASC"}));
   LogIn(app);
   app.main().Command(232);
   app.Settle();

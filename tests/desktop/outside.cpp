@@ -51,6 +51,15 @@ std::string WithoutTimes(const std::string& history) {
   return text;
 }
 
+Snapshot StateOf(const Folder& folder) {
+  Snapshot state = Look(folder);
+  std::erase_if(state, [](const auto& file) { return file.first.starts_with(kCopiesFolder); });
+  for (auto& [path, bytes] : state) {
+    if (path.ends_with("dziennik.csv")) bytes = WithoutTimes(bytes);
+  }
+  return state;
+}
+
 int RunBelowWine(const std::string& command) {
   if (FindUnixPathOf() == nullptr) return -1;
   // Wine starts such a program and knows no more of it: it tells by a file that it has ended.

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver.h"
@@ -18,6 +19,13 @@ namespace velnor::desktop {
 // bytes "(folder)".
 using Snapshot = std::map<std::string, std::string>;
 Snapshot Look(const Folder& folder);
+
+// In the start-up folder.
+inline constexpr std::string_view kCopiesFolder = "kopie zapasowe";
+
+// What does not differ between two days of the same deeds: all files but the copies, and of the
+// history all but its times.
+Snapshot StateOf(const Folder& folder);
 
 // The bytes of a history without the times of day in its lines.
 std::string WithoutTimes(const std::string& history);

@@ -26,19 +26,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr std::string_view kCopies = "kopie zapasowe";
 constexpr std::string_view kAboutACopy = "opis.txt";
-
-// What does not differ between two days of the same deeds: all files but the copies, and the
-// history without its times.
-Snapshot StateOf(const Folder& folder) {
-  Snapshot state = Look(folder);
-  std::erase_if(state, [](const auto& file) { return file.first.starts_with(kCopies); });
-  for (auto& [path, bytes] : state) {
-    if (path.ends_with("dziennik.csv")) bytes = WithoutTimes(bytes);
-  }
-  return state;
-}
 
 // What the files are after every deed when nothing goes wrong.
 std::vector<Snapshot> SpendDay() {
@@ -91,7 +79,7 @@ void ExpectTheRightWords(const Deed& deed, const Snapshot& new_state, const Snap
 // Every copy that has its name is whole: it holds the list of users, the products and the people,
 // or one of these, as they were between two deeds.
 void ExpectWholeCopies(const Folder& folder, const std::vector<Snapshot>& states) {
-  const Folder copies(folder.path() + std::string(kCopies) + '\\');
+  const Folder copies(folder.path() + std::string(kCopiesFolder) + '\\');
   for (const std::string& name : copies.Names()) {
     if (name.ends_with(".part")) continue;
     Snapshot copy = StateOf(Folder(copies.path() + name + '\\'));

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "tests/desktop/driver.h"
+#include "tests/desktop/open_menu.h"
 
 namespace velnor::desktop {
 namespace {
@@ -45,6 +46,7 @@ class Tour {
     WalkProductDialogs();
     WalkUserDialogs();
     WalkDay();
+    WalkOwnMenu();
     WalkBodyScreens();
     WalkReports();
     WalkActivities();
@@ -200,6 +202,40 @@ class Tour {
     folder_.Write("Zoe\\bilans.ASC", Today() + "\r\n3400\r\n290\r\n120\r\n380");
     app_.main().Command(233);
     Take("balance-above-and-out-of-scale");
+  }
+
+  // What was eaten before is offered first, with the weight of last time.
+  void WalkOwnMenu() const {
+    app_.main().Command(231);
+    app_.Settle();
+    const OpenMenu menu = OpenMenu::AtPoint(app_, 300, 70);
+    Take("right-click");
+    menu.Close();
+
+    const Window quick_add = OpenOwn(0x150);
+    quick_add.SetText(810, "chee cot");
+    TakeWindow(app_.main(), "quick-add");
+    quick_add.Command(IDCANCEL);
+
+    folder_.Write("products.csv",
+                  "food;energy [kcal];protein;fat;carbohydrates\n"
+                  "Crab apples;76;0,4;0,3;20\nQuince;57;0,4;0,1;15,3\nSorbet;none;1;1;30\n");
+    const Window import = OpenOwn(0x140);
+    import.SetText(801, "products.csv");
+    import.Choose(803, "fruits");
+    import.Choose(804, "fresh");
+    TakeWindow(import, "import-products");
+    import.PostCommand(IDOK);
+    const MessageBoxSeen imported = app_.WaitForMessageBox(import);
+    TakeWindow(Window(imported.handle), "products-imported");
+    Answer(imported, IDOK);
+    import.Command(IDCANCEL);
+  }
+
+  // The dialog of an item of the title-bar menu.
+  Window OpenOwn(WPARAM item) const {
+    SendMessageA(app_.main().handle(), WM_SYSCOMMAND, item, 0);
+    return app_.WaitForPopup();
   }
 
   void WalkBodyScreens() const {
