@@ -56,7 +56,7 @@ class AnyFolder : public testing::Test {
     }
     EXPECT_NE(MoveFileW(made.c_str(), (outer + L"plain").c_str()), 0);
     const Folder plain(outer_.path() + "plain\\");
-    const Folder copies(plain.path() + std::string(kCopiesFolder) + '\\');
+    const Folder copies(plain.path() + std::string(kFolderOfCopies) + '\\');
     const Texts copied = copies.Names();
     EXPECT_FALSE(copied.empty());
     EXPECT_EQ(copied.empty() ? "" : copies.Read(copied[0] + "\\users.ASC"), "Ann");

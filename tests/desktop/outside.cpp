@@ -53,7 +53,7 @@ std::string WithoutTimes(const std::string& history) {
 
 Snapshot StateOf(const Folder& folder) {
   Snapshot state = Look(folder);
-  std::erase_if(state, [](const auto& file) { return file.first.starts_with(kCopiesFolder); });
+  std::erase_if(state, [](const auto& file) { return file.first.starts_with(kFolderOfCopies); });
   for (auto& [path, bytes] : state) {
     if (path.ends_with("dziennik.csv")) bytes = WithoutTimes(bytes);
   }

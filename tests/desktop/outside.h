@@ -21,7 +21,7 @@ using Snapshot = std::map<std::string, std::string>;
 Snapshot Look(const Folder& folder);
 
 // In the start-up folder.
-inline constexpr std::string_view kCopiesFolder = "kopie zapasowe";
+inline constexpr std::string_view kFolderOfCopies = "kopie zapasowe";
 
 // What does not differ between two days of the same deeds: all files but the copies, and of the
 // history all but its times.

@@ -79,7 +79,7 @@ void ExpectTheRightWords(const Deed& deed, const Snapshot& new_state, const Snap
 // Every copy that has its name is whole: it holds the list of users, the products and the people,
 // or one of these, as they were between two deeds.
 void ExpectWholeCopies(const Folder& folder, const std::vector<Snapshot>& states) {
-  const Folder copies(folder.path() + std::string(kCopiesFolder) + '\\');
+  const Folder copies(folder.path() + std::string(kFolderOfCopies) + '\\');
   for (const std::string& name : copies.Names()) {
     if (name.ends_with(".part")) continue;
     Snapshot copy = StateOf(Folder(copies.path() + name + '\\'));
