@@ -41,6 +41,7 @@ inline constexpr MenuPlace kRemoveProduct = {5, 1};
 inline constexpr MenuPlace kAbout = {6, 0};
 inline constexpr MenuPlace kExchanges = {6, 1};
 inline constexpr int kOverviewCommand = 236;  // has no menu item
+inline constexpr int kImport = 0x140;         // in the context menu
 
 // The bytes of what the display shows of a part of the window.
 std::vector<char> Look(const Window& window, RECT part);
@@ -68,6 +69,18 @@ class Keyboard : public testing::Test {
   Window OpenDialog(MenuPlace place) const {
     ChooseFromMenuBar(place);
     return Popup();
+  }
+  // From the menu that the keyboard opens over the screen, by the place of the item in it.
+  void ChooseFromContextMenu(int id) const {
+    const OpenMenu menu = OpenMenu::ByKeyboard(app_);
+    ASSERT_TRUE(menu.is_open());
+    for (const App::MenuItem& item : menu.Items()) {
+      if (item.id == 0) continue;  // the arrows pass over a separator
+      PressKey(VK_DOWN);
+      if (item.id == id) break;
+    }
+    PressKey(VK_RETURN);
+    WaitUntil([this] { return !IsInMenuMode(app_); });
   }
   // The dialog that opens, once keys go to it.
   Window Popup() const {

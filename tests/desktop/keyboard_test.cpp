@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "tests/desktop/keyboard_fixture.h"
-#include "tests/desktop/open_menu.h"
 
 namespace velnor::desktop {
 namespace {
@@ -242,10 +241,7 @@ TEST_F(Keyboard, ProductsOfOnesOwn) {
   EXPECT_TRUE(WaitUntil([&] { return remove.Items(739).empty(); }));
   ASSERT_TRUE(Closes(remove, VK_ESCAPE));
 
-  const OpenMenu menu = OpenMenu::ByKeyboard(app_);
-  ASSERT_TRUE(menu.is_open());
-  PressKey(VK_UP);  // the last item: import
-  PressKey(VK_RETURN);
+  ChooseFromContextMenu(kImport);
   const Window import = Popup();
   EXPECT_TRUE(TabTo(import, 802));
   EXPECT_TRUE(TypeInto(import, 801, "no.csv"));

@@ -117,23 +117,11 @@ TEST_F(QuickAddByKeys, TheWeightOfLastTimeIsThereAndTypingReplacesIt) {
   ASSERT_TRUE(Closes(again, VK_SPACE));
 }
 
-// By its place in the menu that the keyboard opens.
-void ChooseByKeys(const App& app, int id) {
-  const OpenMenu menu = OpenMenu::ByKeyboard(app);
-  ASSERT_TRUE(menu.is_open());
-  for (const App::MenuItem& item : menu.Items()) {
-    PressKey(VK_DOWN);
-    if (item.id == id) break;
-  }
-  PressKey(VK_RETURN);
-  ASSERT_TRUE(WaitUntil([&app] { return !IsInMenuMode(app); }));
-}
-
 TEST_F(Keyboard, ATableBecomesProducts) {
   folder_.Write("table.csv",
                 "name;kcal;protein;fat;carbohydrate\r\n"
                 "Crab apples;76;0,4;0,3;20\r\n");
-  ChooseByKeys(app_, 0x140);
+  ChooseFromContextMenu(kImport);
   const Window import = Popup();
   EXPECT_TRUE(TypeInto(import, 801, "table.csv"));
   EXPECT_TRUE(ArrowTo(import, 803, "tinned food"));
