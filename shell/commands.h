@@ -23,6 +23,10 @@ std::span<const CommandRow> Commands();
 
 // Carries out the menu command `id`, be it that of a screen or one of these. Returns false, having
 // done nothing, when `id` is no command: such an id belongs to a control.
+// Logs the user out without a word: greys the menu, closes the dialogs that work on the user's data
+// and shows the home screen.
+void EndSession(Parts& parts);
+
 bool RunCommand(Parts& parts, int id);
 
 }  // namespace velnor

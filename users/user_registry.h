@@ -11,11 +11,9 @@
 #include <vector>
 
 #include "base/session.h"
+#include "users/user_files.h"
 
 namespace velnor {
-
-// In the start-up folder: a name a line, no line end behind the last.
-inline constexpr std::string_view kRegistryFile = "users.ASC";
 
 // The list may not grow past this many bytes.
 inline constexpr std::size_t kRegistryLimit = 1000;
@@ -27,10 +25,12 @@ struct UserRegistry {
   bool operator==(const UserRegistry&) const = default;
 };
 
-// Reads the list. Lines may end with CR LF, LF or CR; what follows a NUL among
-// the names is not read. Empty lines,
-// names longer than kUserNameLimit and names that are no plain folder name are left out. A missing
-// file gives no names; nothing comes of one that cannot be read.
+// What the bytes of such a list say. Lines may end with CR LF, LF or CR; what follows a NUL among
+// the names is not read. Empty lines, names longer than kUserNameLimit and names that are no plain
+// folder name are left out.
+UserRegistry ParseUserRegistry(const std::string& text);
+
+// The same of a file. A missing one gives no names; nothing comes of one that cannot be read.
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.
