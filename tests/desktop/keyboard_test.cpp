@@ -101,8 +101,7 @@ TEST_F(KeyboardOfAnn, TheCounterWithItsDialogs) {
   EXPECT_TRUE(TypeInto(recipe, 725, "a"));
   PressKey(VK_RETURN);
   TypeKeys("b");
-  Settle();
-  EXPECT_EQ(recipe.Text(725), "a\r\nb") << "Enter breaks the line";
+  EXPECT_TRUE(WaitUntil([&] { return recipe.Text(725) == "a\r\nb"; })) << "Enter breaks the line";
   PressButton(recipe, IDOK, VK_RETURN);
   ASSERT_TRUE(IsClosed(recipe));
   EXPECT_TRUE(FileHolds("zestaw.ASC", "ice"));

@@ -11,6 +11,8 @@ namespace velnor::desktop {
 namespace {
 
 constexpr int kDiaryItem = 0x110;
+constexpr int kBackUpItem = 0x120;
+constexpr int kRestoreItem = 0x130;
 constexpr int kImportItem = 0x140;
 constexpr int kQuickAddItem = 0x150;
 
@@ -27,6 +29,8 @@ struct ExpectedItem {
 const std::vector<ExpectedItem> kExpected = {
     {kQuickAddItem, "Quick add...\tCtrl+K", true},
     {kDiaryItem, "Diary...\tCtrl+D", true},
+    {kBackUpItem, "Back up...", false},
+    {kRestoreItem, "Restore...", false},
     {kImportItem, "Import products...", false},
 };
 

@@ -7,14 +7,14 @@
 #include <utility>
 
 #include "tests/desktop/driver.h"
-#include "tests/desktop/open_menu.h"
+#include "tests/desktop/tour_own_menu.h"
 
 namespace velnor::desktop {
 namespace {
 
 class Tour {
  public:
-  explicit Tour(std::string folder) : pictures_(std::move(folder)) {}
+  explicit Tour(std::string folder) : camera_(std::move(folder)) {}
 
   void Walk() const {
     Take("home");
@@ -46,13 +46,14 @@ class Tour {
     WalkProductDialogs();
     WalkUserDialogs();
     WalkDay();
-    WalkOwnMenu();
+    WalkFoodAtHand(app_, folder_, camera_);
     WalkBodyScreens();
     WalkReports();
     WalkActivities();
     WalkEnergy();
     WalkOtherSex();
     WalkLimits();
+    WalkCopies(app_, camera_);
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -204,40 +205,6 @@ class Tour {
     Take("balance-above-and-out-of-scale");
   }
 
-  // What was eaten before is offered first, with the weight of last time.
-  void WalkOwnMenu() const {
-    app_.main().Command(231);
-    app_.Settle();
-    const OpenMenu menu = OpenMenu::AtPoint(app_, 300, 70);
-    Take("right-click");
-    menu.Close();
-
-    const Window quick_add = OpenOwn(0x150);
-    quick_add.SetText(810, "chee cot");
-    TakeWindow(app_.main(), "quick-add");
-    quick_add.Command(IDCANCEL);
-
-    folder_.Write("products.csv",
-                  "food;energy [kcal];protein;fat;carbohydrates\n"
-                  "Crab apples;76;0,4;0,3;20\nQuince;57;0,4;0,1;15,3\nSorbet;none;1;1;30\n");
-    const Window import = OpenOwn(0x140);
-    import.SetText(801, "products.csv");
-    import.Choose(803, "fruits");
-    import.Choose(804, "fresh");
-    TakeWindow(import, "import-products");
-    import.PostCommand(IDOK);
-    const MessageBoxSeen imported = app_.WaitForMessageBox(import);
-    TakeWindow(Window(imported.handle), "products-imported");
-    Answer(imported, IDOK);
-    import.Command(IDCANCEL);
-  }
-
-  // The dialog of an item of the title-bar menu.
-  Window OpenOwn(WPARAM item) const {
-    SendMessageA(app_.main().handle(), WM_SYSCOMMAND, item, 0);
-    return app_.WaitForPopup();
-  }
-
   void WalkBodyScreens() const {
     app_.main().Command(221);
     Take("bmi-before-counting");
@@ -386,12 +353,10 @@ class Tour {
   void Take(const std::string& name) const { TakeWindow(app_.main(), name); }
 
   void TakeWindow(const Window& window, const std::string& name) const {
-    app_.Settle();
-    Sleep(200);  // the display draws a moment after the program has finished
-    window.SavePicture(pictures_ + '\\' + name + ".bmp");
+    camera_.Take(app_, window, name);
   }
 
-  std::string pictures_;
+  Camera camera_;
   WorkFolder folder_;
   App app_{folder_};
 };
