@@ -26,7 +26,8 @@ class BrowserOfMachine {
     RegDeleteTreeA(HKEY_CLASSES_ROOT, kKind);
   }
 
-  bool is_set() const { return Get(kExtension) == kKind; }
+  // Whether it is what opens pages now.
+  static bool IsSet() { return Get(kExtension) == kKind; }
 
  private:
   static constexpr char kExtension[] = ".html";
@@ -39,7 +40,8 @@ class BrowserOfMachine {
                      &size) != ERROR_SUCCESS) {
       return "";
     }
-    return value.c_str();
+    value.resize(size - 1);  // with the NUL
+    return value;
   }
   static void Set(const std::string& key, const std::string& value) {
     RegSetKeyValueA(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, value.c_str(),
@@ -76,7 +78,7 @@ TEST_F(DiaryByKey, ThePageIsOpened) {
   const WorkFolder read;
   const BrowserOfMachine browser(R"(C:\windows\system32\cmd.exe /c copy "%1" ")" + read.path() +
                                  "page\"");
-  if (!browser.is_set()) GTEST_SKIP() << "who runs this may not say what opens pages";
+  if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
   PressKey('D', KeyModifier::kControl);
   EXPECT_TRUE(WaitUntil([&] { return read.Read("page").value_or("").ends_with("</html>\n"); }));
   EXPECT_EQ(read.Read("page"), File("dziennik.html"));
@@ -85,7 +87,7 @@ TEST_F(DiaryByKey, ThePageIsOpened) {
 
 TEST_F(DiaryByKey, WithoutABrowserABoxSaysWhereTheFilesAre) {
   const BrowserOfMachine none("");
-  if (!none.is_set()) GTEST_SKIP() << "who runs this may not say what opens pages";
+  if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
   PressKey('D', KeyModifier::kControl);
   const std::string box = AnswerBox();
   for (const char* const name : {"dziennik.html", "dziennik-dni.csv", "dziennik-potrawy.csv"}) {

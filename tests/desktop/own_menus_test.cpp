@@ -43,6 +43,7 @@ class OwnMenus : public testing::Test {
   }
   static std::vector<std::string> Expected(bool logged_in) {
     std::vector<std::string> lines;
+    lines.reserve(kExpected.size());
     for (const ExpectedItem& item : kExpected) {
       lines.push_back(Line(item.id, item.text, logged_in || !item.needs_user));
     }
@@ -60,7 +61,7 @@ class OwnMenus : public testing::Test {
     }
     return lines;
   }
-  void LogIn(const App& app) const {
+  static void LogIn(const App& app) {
     app.main().Command(200);
     const Window login = app.WaitForPopup();
     login.Choose(700, "Ann");
@@ -80,7 +81,7 @@ class OwnMenus : public testing::Test {
   }
   static std::vector<std::string> ContextLines(const OpenMenu& menu) {
     if (!menu.is_open()) return {"no menu"};
-    const std::vector<std::string> lines = Lines(menu.Items());
+    std::vector<std::string> lines = Lines(menu.Items());
     menu.Close();
     return lines;
   }
