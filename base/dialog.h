@@ -5,12 +5,13 @@
 #define VELNOR_BASE_DIALOG_H_
 
 #include "base/form.h"
+#include "res/ids.h"
 
 namespace velnor {
 
 // The ids of a dialog's default button and of its cancel button; Enter and Escape send them too.
-inline constexpr int kOkButton = 1;
-inline constexpr int kCancelButton = 2;
+inline constexpr int kOkButton = ID_OK;
+inline constexpr int kCancelButton = ID_CANCEL;
 
 // The keys that a dialog may take before the platform does, wherever they mean something of their
 // own in it.

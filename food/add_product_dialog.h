@@ -10,10 +10,11 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "food/food_table.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kAddProductResource = 10010;
+inline constexpr int kAddProductResource = ID_ADD_PRODUCT_DIALOG;
 
 class AddProductDialog final : public Dialog {
  public:

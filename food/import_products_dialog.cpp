@@ -9,14 +9,15 @@
 #include "base/transaction.h"
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kPath = 801;
-constexpr int kBrowse = 802;
-constexpr int kMainCategory = 803;
-constexpr int kSubcategory = 804;
+constexpr int kPath = ID_PATH;
+constexpr int kBrowse = ID_BROWSE;
+constexpr int kMainCategory = ID_IMPORT_MAIN_CATEGORY;
+constexpr int kSubcategory = ID_IMPORT_SUBCATEGORY;
 
 constexpr std::size_t kPathLimit = 1000;
 

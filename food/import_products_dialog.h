@@ -14,10 +14,11 @@
 #include "base/session.h"
 #include "food/food_table.h"
 #include "food/product_import.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kImportProductsResource = 10023;
+inline constexpr int kImportProductsResource = ID_IMPORT_DIALOG;
 
 class ImportProductsDialog final : public Dialog {
  public:

@@ -10,10 +10,11 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "food/food_table.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kRemoveProductResource = 10011;
+inline constexpr int kRemoveProductResource = ID_REMOVE_PRODUCT_DIALOG;
 
 class RemoveProductDialog final : public Dialog {
  public:

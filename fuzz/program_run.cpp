@@ -9,8 +9,8 @@
 #include <iterator>
 #include <utility>
 
-#include "fuzz/dialog_templates.h"
 #include "shell/screens.h"
+#include "tests/support/resource_script.h"
 
 namespace velnor {
 namespace {
