@@ -27,7 +27,6 @@ class BodyTest : public ProgramTest {
     folder_.Write(name + "/info.ASC", profile);
     if (!program_) Start();
     FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
     OpenDialog(200, login);
     login.Choose(700, name);
     login.Press(1);

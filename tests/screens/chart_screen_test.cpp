@@ -43,7 +43,6 @@ class ChartScreenTest : public ProgramTest {
     folder_.Write("Ann/info.ASC", profile);
     if (!program_) Start();
     FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
     OpenDialog(200, login);
     login.Choose(700, "Ann");
     login.Press(1);

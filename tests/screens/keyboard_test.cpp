@@ -164,14 +164,18 @@ TEST(NumberFieldsTest, AreTheFieldsOfOneLine) {
 }
 
 TEST_F(KeyboardTest, DialogsTakeNumbersWhereTheyReadSome) {
-  const std::map<int, std::set<int>> fields = {
-      {240, {735, 736, 737, 738, 740}},  // a new product
-      {204, {704, 705}},                 // the profile
-      {103, {710, 711}},                 // records of the body
-      {107, {713, 714, 715}},
+  struct {
+    int screen, command;
+    std::set<int> fields;
+  } const dialogs[] = {
+      {231, 240, {735, 736, 737, 738, 740}},  // a new product
+      {231, 204, {704, 705}},                 // the profile
+      {221, 103, {710, 711}},                 // records of the body
+      {224, 107, {713, 714, 715}},
   };
   LogIn("Ann", kProfileLines);
-  for (const auto& [command, ids] : fields) {
+  for (const auto& [screen, command, ids] : dialogs) {
+    Open(screen);
     FakeForm form;
     OpenDialog(command, form);
     EXPECT_EQ(form.NumberFields(), ids) << command;

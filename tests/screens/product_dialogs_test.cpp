@@ -22,15 +22,6 @@ const std::string kAdded = "New product was added to database";
 
 class AddProductTest : public ProgramTest {
  protected:
-  AddProductTest() {
-    for (const int id : {734, 735, 736, 737, 738, 740}) {
-      dialog_.AddControl(id, ControlClass::kEdit, kPlain);
-    }
-    for (const int id : {732, 733}) {
-      dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
-  }
-
   void Open() {
     Start();
     OpenDialog(240, dialog_);
@@ -119,6 +110,7 @@ TEST_F(AddProductTest, TheListsThatShowItsSubcategoryGetItAndKeepTheirSelection)
   for (const auto& screen : screens) {
     EXPECT_EQ(form_.Items(screen.products).front(), "aaa pie") << screen.command;
     EXPECT_EQ(form_.SelectedText(screen.products), "apples") << screen.command;
+    ProgramTest::Open(screen.command);
     form_.Choose(screen.main_category, "fish");
   }
   FillIn("Aab Pie");
@@ -135,7 +127,6 @@ TEST_F(AddProductTest, WhatCanBeTypedCanBeRemovedAgain) {
   EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;" + std::string(59, 'n') + ";100;237;" +
                                           std::string(29, '1') + ";11;34.0;\r\n");
   FakeForm remove;
-  remove.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
   OpenDialog(241, remove);
   remove.Choose(739, std::string(59, 'n'));
   remove.Press(1);
@@ -296,10 +287,6 @@ TEST_F(AddProductTest, CloseClosesAndAddsNothing) {
 
 class RemoveProductTest : public ProgramTest {
  protected:
-  RemoveProductTest() {
-    dialog_.AddControl(739, ControlClass::kListBox,
-                       control_style::kListNotify | control_style::kSortedList);
-  }
   void Open() {
     Start();
     OpenDialog(241, dialog_);
@@ -334,7 +321,6 @@ TEST_F(RemoveProductTest, AsksAndRemovesBothOfTwoButOneEntry) {
   EXPECT_EQ(folder_.Read("data.txt"), kFig);
   EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie", "figs"}));
   FakeForm reopened;
-  reopened.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
   OpenDialog(241, reopened);
   EXPECT_EQ(reopened.Items(739), (Texts{"figs"}));
 }
@@ -402,17 +388,13 @@ TEST_F(RemoveProductTest, CloseCloses) {
   EXPECT_EQ(dialog_.Log(), (Texts{"close"}));
 }
 
+constexpr int kOpenOverview = 236;
+
 class SearchTest : public ProgramTest {
  protected:
-  SearchTest() {
-    dialog_.AddControl(728, ControlClass::kEdit, kPlain);
-    dialog_.AddControl(729, ControlClass::kListBox,
-                       control_style::kListNotify | control_style::kSortedList);
-    dialog_.AddControl(730, ControlClass::kButton, kPlain);
-    dialog_.AddControl(731, ControlClass::kButton, kPlain);
-  }
   void Open() {
     Start();
+    ProgramTest::Open(kOpenOverview);
     OpenDialog(149, dialog_);
   }
   void Find(const std::string& query) {

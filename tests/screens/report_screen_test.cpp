@@ -44,7 +44,6 @@ class ReportScreenTest : public ProgramTest {
     folder_.Write(name + "/info.ASC", "35\r\n180\r\nmen\r\nlow\r\nnone");
     if (!program_) Start();
     FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
     OpenDialog(200, login);
     login.Choose(700, name);
     login.Press(1);
@@ -257,7 +256,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherUsersText) {
   LogIn();
   Write("mirvo.ASC", "of Ann\r\n");
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  form_.Press(kSave);
+  program_->OnCommand(kSave, kButtonClicked);  // a press on its way
   EXPECT_EQ(Read("mirvo.ASC"), "of Ann\r\n");
 }
 
@@ -323,8 +322,7 @@ TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
     Open(command);
     window_.log.clear();
     form_.SetText(119, "new");
-    form_.Press(kClear);
-    form_.Press(kSave);
+    for (const int id : {kClear, kSave}) program_->OnCommand(id, kButtonClicked);
     EXPECT_EQ(boxes_.TakeTexts(), Texts{}) << command;
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
