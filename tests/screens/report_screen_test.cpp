@@ -7,59 +7,10 @@
 #include <vector>
 
 #include "base/text_file.h"
-#include "tests/support/program_fixture.h"
+#include "tests/screens/report_fixture.h"
 
 namespace velnor {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-constexpr int kClear = 151;
-constexpr int kSave = 152;
-constexpr const char* kSureToClear =
-    "Are You sure You want erase report?\nAll data will be LOST!\nADVICE: You can select and copy "
-    "whole text to another file.";
-constexpr const char* kSureToSave = "Do You want save changes?\nThere`ll be no chance to cancel!";
-
-struct ReportOnScreen {
-  ScreenId screen;
-  int command;
-  const char* title;
-  const char* file_name;
-};
-constexpr ReportOnScreen kReports[] = {
-    {4, 210, "Reports overview - WEIGHT", "waga.ASC"},
-    {5, 214, "Reports overview - WHR", "whr.ASC"},
-    {8, 212, "Reports overview - CALORIE", "mirvo.ASC"},
-    {9, 213, "Reports overview - RECIPES", "zestaw.ASC"},
-    {11, 215, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
-};
-constexpr int kOpenCalorie = 212;
-
-class ReportScreenTest : public ProgramTest {
- protected:
-  void LogIn(const std::string& name = "Ann") {
-    std::filesystem::create_directory(folder_.path() + name);
-    folder_.Write("users.ASC", "Ann\r\nBob");
-    folder_.Write(name + "/info.ASC", "35\r\n180\r\nmen\r\nlow\r\nnone");
-    if (!program_) Start();
-    FakeForm login;
-    OpenDialog(200, login);
-    login.Choose(700, name);
-    login.Press(1);
-    boxes_.TakeTexts();
-    window_.log.clear();
-  }
-  std::string Write(const std::string& file_name, std::string_view bytes) const {
-    return folder_.Write("Ann/" + file_name, bytes);
-  }
-  std::string Read(const std::string& file_name) const { return folder_.Read("Ann/" + file_name); }
-  std::string Shown() const { return form_.Text(119); }
-  // A window whose PaintNow paints, as the real one's does.
-  void PaintWhenAsked() {
-    window_.on_paint_now = [this] { Repaint(); };
-  }
-};
 
 std::string Lines(int count) {
   std::string text;
@@ -327,99 +278,6 @@ TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
   for (const ReportOnScreen& report : kReports) EXPECT_EQ(Read(report.file_name), "old\r\n");
-}
-
-class UnsavedReportTest : public ReportScreenTest {
- protected:
-  // Ann has typed over a report that nobody may write, and pressed "Save changes".
-  void TypeWhatCannotBeSaved() {
-    LogIn();
-    path_ = Write("mirvo.ASC", "old\r\n");
-    std::filesystem::permissions(path_, std::filesystem::perms{0444});
-    Open(kOpenCalorie);
-    form_.SetText(119, "typed");
-    form_.Press(kSave);
-    Repaint();
-    Repaint();
-  }
-  void LetItBeWritten() const { std::filesystem::permissions(path_, std::filesystem::perms{0644}); }
-
-  std::string path_;
-};
-
-TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
-  TypeWhatCannotBeSaved();
-  EXPECT_EQ(Shown(), "typed");
-  form_.SetText(119, "typed on");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on");
-  form_.Press(kSave);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on");
-  EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
-  LetItBeWritten();
-  form_.Press(kSave);
-  EXPECT_EQ(Read("mirvo.ASC"), "typed on");
-  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
-  form_.SetText(119, "changed");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on") << "saved: a repaint reloads again";
-}
-
-TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
-  TypeWhatCannotBeSaved();
-  LetItBeWritten();
-  Write("mirvo.ASC", Read("mirvo.ASC") + "a record\r\n");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed");
-  form_.Press(kSave);
-  EXPECT_EQ(Read("mirvo.ASC"), "typed");
-  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "a record\r\n");
-}
-
-TEST_F(UnsavedReportTest, StaysThroughARepaintUnderTheBox) {
-  LogIn();
-  path_ = Write("mirvo.ASC", "old\r\n");
-  std::filesystem::permissions(path_, std::filesystem::perms{0444});
-  Open(kOpenCalorie);
-  form_.SetText(119, "typed");
-  boxes_.while_open = [&] { Repaint(); };
-  form_.Press(kSave);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed");
-}
-
-TEST_F(UnsavedReportTest, GoesWhenTheReportIsReloadedFromTheMenu) {
-  TypeWhatCannotBeSaved();
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "old\r\n");
-  form_.SetText(119, "changed");
-  Repaint();
-  EXPECT_EQ(Shown(), "old\r\n");
-}
-
-TEST_F(UnsavedReportTest, GoesWhenTheReportIsCleared) {
-  TypeWhatCannotBeSaved();
-  form_.Press(kClear);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed") << "nor could it be cleared";
-  LetItBeWritten();
-  form_.Press(kClear);
-  Repaint();
-  EXPECT_EQ(Shown(), "");
-}
-
-TEST_F(UnsavedReportTest, IsNotShownInAnotherReportOrToAnotherUser) {
-  TypeWhatCannotBeSaved();
-  Open(210);
-  EXPECT_EQ(Shown(), "");
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "old\r\n");
-  TypeWhatCannotBeSaved();
-  program_->OnCommand(201, kButtonClicked);
-  LogIn("Bob");
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(ReportScreenTest, ClearingTakesTheRestAndItsLineWithIt) {
