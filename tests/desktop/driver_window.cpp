@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <stdexcept>
 
 #include "tests/desktop/driver.h"
 

@@ -15,8 +15,8 @@ namespace velnor {
 
 using Texts = std::vector<std::string>;
 
-inline constexpr int kClear = 151;
-inline constexpr int kSave = 152;
+inline constexpr int kClearReport = 151;
+inline constexpr int kSaveReport = 152;
 inline constexpr const char* kSureToClear =
     "Are You sure You want erase report?\nAll data will be LOST!\nADVICE: You can select and copy "
     "whole text to another file.";
@@ -29,7 +29,7 @@ struct ReportOnScreen {
   const char* title;
   const char* file_name;
 };
-inline constexpr ReportOnScreen kReports[] = {
+inline constexpr ReportOnScreen kReportScreens[] = {
     {4, 210, "Reports overview - WEIGHT", "waga.ASC"},
     {5, 214, "Reports overview - WHR", "whr.ASC"},
     {8, 212, "Reports overview - CALORIE", "mirvo.ASC"},

@@ -20,10 +20,10 @@ std::string Lines(int count) {
 
 TEST_F(ReportScreenTest, EveryScreenPaintsItsTitleAndShowsItsFile) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, std::string("record in ") + report.file_name + "\r\n");
   }
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     const RecordingCanvas canvas = Open(report.command);
     EXPECT_EQ(program_->session().screen, report.screen);
     EXPECT_EQ(std::vector<DrawnText>(canvas.texts.begin() + 3, canvas.texts.end()),
@@ -50,7 +50,7 @@ TEST_F(ReportScreenTest, AMissingOrEmptyReportShowsAnEmptyEdit) {
 
 TEST_F(ReportScreenTest, ShowsAtMostTheLimitOnEveryScreen) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     for (const std::size_t size : {1U, 29'998U, 29'999U, 30'000U, 30'001U, 200'000U}) {
       Write(report.file_name, std::string(size, 'x'));
       Open(report.command);
@@ -65,7 +65,7 @@ TEST_F(ReportScreenTest, LinesThatEndWithLfStandOneBelowTheOther) {
   Open(kOpenCalorie);
   EXPECT_EQ(Shown(), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC"), "one\ntwo\r\nthree\n\nlast");
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Read("mirvo.ASC"), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
 }
@@ -127,13 +127,13 @@ TEST_F(ReportScreenTest, TheSixButtonsScroll) {
 
 TEST_F(ReportScreenTest, SaveWritesTheTextAndRepaints) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, "old\r\n");
     Open(report.command);
     window_.log.clear();
     const std::string text = std::string("new\r\n") + report.title;
     form_.SetText(119, text);
-    form_.Press(kSave);
+    form_.Press(kSaveReport);
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
@@ -154,7 +154,7 @@ TEST_F(ReportScreenTest, SaveAnsweredWithNoChangesNothing) {
   window_.log.clear();
   form_.SetText(119, "new");
   boxes_.answer = Answer::kNo;
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   EXPECT_EQ(Shown(), "new");
@@ -166,7 +166,7 @@ TEST_F(ReportScreenTest, SavingAMissingReportWritesNothing) {
   Open(kOpenCalorie);
   window_.log.clear();
   form_.SetText(119, "new");
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Read("mirvo.ASC"), "(missing)");
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(window_.log, (Texts{"invalidate"}));
@@ -181,7 +181,7 @@ TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
     Write("mirvo.ASC", "old\r\nappended\r\n");
     Repaint();
   };
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Read("mirvo.ASC"), "new\r\n");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "appended\r\n");
 }
@@ -193,7 +193,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherReportsText) 
   Write("mirvo.ASC", "calories\r\n");
   Open(210);
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Read("mirvo.ASC"), "calories\r\n");
   EXPECT_EQ(Read("waga.ASC"), "weight\r\n");
 }
@@ -207,7 +207,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherUsersText) {
   LogIn();
   Write("mirvo.ASC", "of Ann\r\n");
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  program_->OnCommand(kSave, kButtonClicked);  // a press on its way
+  program_->OnCommand(kSaveReport, kButtonClicked);  // a press on its way
   EXPECT_EQ(Read("mirvo.ASC"), "of Ann\r\n");
 }
 
@@ -215,7 +215,7 @@ TEST_F(ReportScreenTest, ACutReportSaysWhereTheRestIs) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   EXPECT_EQ(Open(kOpenCalorie).texts.size(), 4U);
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Read("mirvo.ASC"), std::string(29'999, 'x'));
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "never seen");
   EXPECT_EQ(Repaint().texts.back(),
@@ -228,11 +228,11 @@ TEST_F(ReportScreenTest, ACutReportSaysWhereTheRestIs) {
 
 TEST_F(ReportScreenTest, ClearErasesTheReportAndRepaints) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, Lines(100));
     Open(report.command);
     window_.log.clear();
-    form_.Press(kClear);
+    form_.Press(kClearReport);
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
@@ -252,7 +252,7 @@ TEST_F(ReportScreenTest, ClearAnsweredWithNoChangesNothing) {
   Open(kOpenCalorie);
   window_.log.clear();
   boxes_.answer = Answer::kNo;
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToClear}));
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   EXPECT_EQ(window_.log, Texts{});
@@ -261,32 +261,32 @@ TEST_F(ReportScreenTest, ClearAnsweredWithNoChangesNothing) {
 TEST_F(ReportScreenTest, ClearMakesAMissingReport) {
   LogIn();
   Open(kOpenCalorie);
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(Read("mirvo.ASC"), "");
 }
 
 TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) Write(report.file_name, "old\r\n");
+  for (const ReportOnScreen& report : kReportScreens) Write(report.file_name, "old\r\n");
   Write("wykwag.txt", "1.11.2026;70;\r\n2.11.2026;71;\r\n3.11.2026;72;\r\n");
   for (const int command : {221, 224, 236, 232, 231, 238, 233, 270, 225, 239, 252}) {
     Open(command);
     window_.log.clear();
     form_.SetText(119, "new");
-    for (const int id : {kClear, kSave}) program_->OnCommand(id, kButtonClicked);
+    for (const int id : {kClearReport, kSaveReport}) program_->OnCommand(id, kButtonClicked);
     EXPECT_EQ(boxes_.TakeTexts(), Texts{}) << command;
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
-  for (const ReportOnScreen& report : kReports) EXPECT_EQ(Read(report.file_name), "old\r\n");
+  for (const ReportOnScreen& report : kReportScreens) EXPECT_EQ(Read(report.file_name), "old\r\n");
 }
 
 TEST_F(ReportScreenTest, ClearingTakesTheRestAndItsLineWithIt) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   Open(kOpenCalorie);
-  form_.Press(kSave);
+  form_.Press(kSaveReport);
   EXPECT_EQ(Repaint().texts.size(), 5U);
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(Repaint().texts.size(), 4U);
   EXPECT_EQ(Read("mirvo.ASC"), "");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
