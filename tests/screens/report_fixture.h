@@ -16,7 +16,7 @@ namespace velnor {
 using Texts = std::vector<std::string>;
 
 inline constexpr int kClearReport = 151;
-inline constexpr int kSaveReport = 152;
+inline constexpr int kSaveChanges = 152;
 inline constexpr const char* kSureToClear =
     "Are You sure You want erase report?\nAll data will be LOST!\nADVICE: You can select and copy "
     "whole text to another file.";

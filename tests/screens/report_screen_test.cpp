@@ -65,7 +65,7 @@ TEST_F(ReportScreenTest, LinesThatEndWithLfStandOneBelowTheOther) {
   Open(kOpenCalorie);
   EXPECT_EQ(Shown(), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC"), "one\ntwo\r\nthree\n\nlast");
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
 }
@@ -133,7 +133,7 @@ TEST_F(ReportScreenTest, SaveWritesTheTextAndRepaints) {
     window_.log.clear();
     const std::string text = std::string("new\r\n") + report.title;
     form_.SetText(119, text);
-    form_.Press(kSaveReport);
+    form_.Press(kSaveChanges);
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
@@ -154,7 +154,7 @@ TEST_F(ReportScreenTest, SaveAnsweredWithNoChangesNothing) {
   window_.log.clear();
   form_.SetText(119, "new");
   boxes_.answer = Answer::kNo;
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   EXPECT_EQ(Shown(), "new");
@@ -166,7 +166,7 @@ TEST_F(ReportScreenTest, SavingAMissingReportWritesNothing) {
   Open(kOpenCalorie);
   window_.log.clear();
   form_.SetText(119, "new");
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "(missing)");
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(window_.log, (Texts{"invalidate"}));
@@ -181,7 +181,7 @@ TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
     Write("mirvo.ASC", "old\r\nappended\r\n");
     Repaint();
   };
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "new\r\n");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "appended\r\n");
 }
@@ -193,7 +193,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherReportsText) 
   Write("mirvo.ASC", "calories\r\n");
   Open(210);
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "calories\r\n");
   EXPECT_EQ(Read("waga.ASC"), "weight\r\n");
 }
@@ -207,7 +207,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherUsersText) {
   LogIn();
   Write("mirvo.ASC", "of Ann\r\n");
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  program_->OnCommand(kSaveReport, kButtonClicked);  // a press on its way
+  program_->OnCommand(kSaveChanges, kButtonClicked);  // a press on its way
   EXPECT_EQ(Read("mirvo.ASC"), "of Ann\r\n");
 }
 
@@ -215,7 +215,7 @@ TEST_F(ReportScreenTest, ACutReportSaysWhereTheRestIs) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   EXPECT_EQ(Open(kOpenCalorie).texts.size(), 4U);
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), std::string(29'999, 'x'));
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "never seen");
   EXPECT_EQ(Repaint().texts.back(),
@@ -273,7 +273,7 @@ TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
     Open(command);
     window_.log.clear();
     form_.SetText(119, "new");
-    for (const int id : {kClearReport, kSaveReport}) program_->OnCommand(id, kButtonClicked);
+    for (const int id : {kClearReport, kSaveChanges}) program_->OnCommand(id, kButtonClicked);
     EXPECT_EQ(boxes_.TakeTexts(), Texts{}) << command;
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
@@ -284,7 +284,7 @@ TEST_F(ReportScreenTest, ClearingTakesTheRestAndItsLineWithIt) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   Open(kOpenCalorie);
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Repaint().texts.size(), 5U);
   form_.Press(kClearReport);
   EXPECT_EQ(Repaint().texts.size(), 4U);

@@ -17,7 +17,7 @@ class UnsavedReportTest : public ReportScreenTest {
     std::filesystem::permissions(path_, std::filesystem::perms{0444});
     Open(kOpenCalorie);
     form_.SetText(119, "typed");
-    form_.Press(kSaveReport);
+    form_.Press(kSaveChanges);
     Repaint();
     Repaint();
   }
@@ -32,12 +32,12 @@ TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
   form_.SetText(119, "typed on");
   Repaint();
   EXPECT_EQ(Shown(), "typed on");
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   Repaint();
   EXPECT_EQ(Shown(), "typed on");
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   LetItBeWritten();
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "typed on");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
   form_.SetText(119, "changed");
@@ -51,7 +51,7 @@ TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
   Write("mirvo.ASC", Read("mirvo.ASC") + "a record\r\n");
   Repaint();
   EXPECT_EQ(Shown(), "typed");
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "typed");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "a record\r\n");
 }
@@ -63,7 +63,7 @@ TEST_F(UnsavedReportTest, StaysThroughARepaintUnderTheBox) {
   Open(kOpenCalorie);
   form_.SetText(119, "typed");
   boxes_.while_open = [&] { Repaint(); };
-  form_.Press(kSaveReport);
+  form_.Press(kSaveChanges);
   Repaint();
   EXPECT_EQ(Shown(), "typed");
 }
