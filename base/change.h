@@ -28,10 +28,11 @@ struct Change {
 
 // Makes a change below the folder, which ends with a separator; made already, it stays as it is. A
 // file that was to be appended to and has been changed by somebody else since is left alone, and so
-// is one whose new bytes are gone. False when the system could not.
+// is one whose new bytes are gone. Returns false if the system could not.
 bool CarryOut(const std::string& folder, const Change& change);
 
-// Takes back a folder that was made or a text that was appended. False when the system could not.
+// Takes back a folder that was made or a text that was appended. Returns false if the system could
+// not.
 bool TakeBack(const std::string& folder, const Change& change);
 
 // The path of a file of the folder by its path in a note.

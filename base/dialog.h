@@ -28,8 +28,8 @@ class Dialog {
   // Called for every notification of a control. Unknown ids are ignored.
   virtual void OnCommand(Form& form, int id, int notification) = 0;
 
-  // Called when a key is pressed in the control `id`. False when the platform is to do with it what
-  // it does everywhere: Enter presses the default button, arrows move within a list.
+  // Called when a key is pressed in the control `id`. Returns false if the platform is to do with
+  // it what it does everywhere: Enter presses the default button, arrows move within a list.
   virtual bool OnKey(Form& /*form*/, int /*id*/, Key /*key*/) { return false; }
 };
 

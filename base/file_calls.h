@@ -17,18 +17,18 @@ namespace velnor {
 // the file or its folder is missing, when the system could not.
 std::FILE* OpenFile(const std::string& path, const char* mode);
 
-// Hands everything written to `file` so far to the disk. False when the system could not.
+// Hands everything written to `file` so far to the disk. Returns false if the system could not.
 bool FlushToDisk(std::FILE* file);
 
 // The size of an open file in bytes; nothing when it cannot be told. Moves the place at which it is
 // read and written.
 std::optional<std::uint64_t> SizeOf(std::FILE* file);
 
-// What is read or written next begins at this byte. False when the system could not.
+// What is read or written next begins at this byte. Returns false if the system could not.
 bool SeekTo(std::FILE* file, std::uint64_t place);
 
-// Takes everything behind this byte off a file that is open to be written. False when the system
-// could not.
+// Takes everything behind this byte off a file that is open to be written. Returns false if the
+// system could not.
 bool CutTo(std::FILE* file, std::uint64_t size);
 
 // Gives the file `from` the name `to`; a file that had that name is replaced in one step. One that
@@ -36,8 +36,8 @@ bool CutTo(std::FILE* file, std::uint64_t size);
 // files. False, with both as they were, when the system could not.
 bool ReplaceByRename(const std::string& from, const std::string& to);
 
-// Removes a file. True when there is none of that name any more, or was none. One that somebody
-// else has open is tried again like one that is to be replaced.
+// Removes a file. Returns true if there is none of that name any more, or was none. One that
+// somebody else has open is tried again like one that is to be replaced.
 bool RemoveFile(const std::string& path);
 
 // Whether there is a file or a folder of that name, or may be one that cannot be looked at.
@@ -54,12 +54,12 @@ bool CanBeChanged(const std::string& path);
 // Whether the folder that `path` lies in is there. A path without a folder lies in the current one.
 bool HasFolder(const std::string& path);
 
-// Makes or removes one folder; only an empty one is removed. False when the system could not.
+// Makes or removes one folder; only an empty one is removed. Returns false if the system could not.
 bool MakeFolder(const std::string& path);
 bool RemoveFolder(const std::string& path);
 
-// Gives a folder, with all that is in it, another name in the same folder. False when the system
-// could not, as when something has that name.
+// Gives a folder, with all that is in it, another name in the same folder. Returns false if the
+// system could not, as when something has that name.
 bool RenameFolder(const std::string& from, const std::string& to);
 
 // The size of a file in bytes; 0 when it cannot be told.

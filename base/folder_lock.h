@@ -22,8 +22,8 @@ class FolderLock {
   FolderLock& operator=(const FolderLock&) = delete;
   ~FolderLock();
 
-  // False when another one kept it for longer than the patience lasts, or the folder is missing or
-  // not to be written.
+  // Returns false if another one kept it for longer than the patience lasts, or the folder is
+  // missing or not to be written.
   bool held() const { return handle_.has_value(); }
 
  private:

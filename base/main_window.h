@@ -54,15 +54,15 @@ class MainWindow {
   virtual std::optional<std::string> ChooseFile(const FileKind& kind) = 0;
 
   // Opens a text file that lies beside the program or in the start-up folder for reading. Returns
-  // false when there is none of that name or nothing opens it.
+  // false if there is none of that name or nothing opens it.
   virtual bool OpenGuideFile(std::string_view name) = 0;
 
   // Asks the platform to open a help file of the start-up folder. What a platform without such a
   // file, or without a viewer for it, does is its own affair.
   virtual void OpenHelp(std::string_view file_name) = 0;
 
-  // Opens a page, a file with its whole path, in the person's browser and returns at once. False
-  // when the platform knows no browser or cannot start it.
+  // Opens a page, a file with its whole path, in the person's browser and returns at once. Returns
+  // false if the platform knows no browser or cannot start it.
   [[nodiscard]] virtual bool OpenInBrowser(const std::string& path) = 0;
 };
 

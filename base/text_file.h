@@ -15,10 +15,10 @@ namespace velnor {
 // A limit that every file keeps.
 inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
 
-// The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
-// when there is something that cannot be read, or when the folder is missing, which may come back
-// with the file in it: who goes on to rewrite it would destroy it. `path` is in the machine's own
-// code page, here and below.
+// The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Returns
+// nothing if there is something that cannot be read, or when the folder is missing, which may come
+// back with the file in it: who goes on to rewrite it would destroy it. `path` is in the machine's
+// own code page, here and below.
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit);
 
 // The same for who only reads: what cannot be read gives empty text too.
@@ -30,8 +30,8 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-// Writes the bytes where the file is, brings them to the disk and closes it. False when the system
-// could not.
+// Writes the bytes where the file is, brings them to the disk and closes it. Returns false if the
+// system could not.
 [[nodiscard]] bool WriteAndClose(File file, std::string_view bytes);
 
 // The last byte of a file; nothing when it is empty, missing or cannot be read.
@@ -42,7 +42,7 @@ bool FileExists(const std::string& path);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. A
-// write-protected file is not replaced. False when the old ones remain.
+// write-protected file is not replaced. Returns false if the old ones remain.
 [[nodiscard]] bool ReplaceFile(const std::string& path, std::string_view bytes);
 
 // For a write whose failure nobody is told, on purpose.

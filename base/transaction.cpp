@@ -20,8 +20,8 @@ std::string NotePath(const std::string& folder) { return folder + std::string(kN
 // with it the files it names.
 std::string KeptAside(const std::string& note) { return note + ".obcy"; }
 
-// Gives the note of another version a name under which nobody takes it for ours. False when it has
-// kept its own.
+// Gives the note of another version a name under which nobody takes it for ours. Returns false if
+// it has kept its own.
 bool PutAside(const std::string& note) {
   constexpr int kMostKept = 99;
   std::string aside = KeptAside(note);
@@ -56,7 +56,7 @@ std::optional<bool> IsWhole(const std::string& folder, const Note& note) {
   return true;
 }
 
-// False when there is a note whose changes could not all be made.
+// Returns false if there is a note whose changes could not all be made.
 bool FinishNote(const std::string& folder) {
   const std::string path = NotePath(folder);
   if (!IsThere(path)) return true;
@@ -208,8 +208,8 @@ bool Transaction::MakeWrittenDown() const {
   return !TakeBackUpTo(*refused);
 }
 
-// Makes it as though nothing had been begun, after `refused` has been refused. False when that
-// cannot be done any more: then the note stands.
+// Makes it as though nothing had been begun, after `refused` has been refused. Returns false if
+// that cannot be done any more: then the note stands.
 bool Transaction::TakeBackUpTo(const Change& refused) const {
   for (const Change& change : changes_) {
     const bool can_be_taken_back = change.kind <= ChangeKind::kAppend;

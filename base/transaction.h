@@ -44,8 +44,8 @@ class Transaction {
   Transaction& operator=(const Transaction&) = delete;
   ~Transaction();
 
-  // False when the lock was not to be had, or a deed before this one cannot be finished: nothing
-  // that is read now can be relied on, and the commit will fail.
+  // Returns false if the lock was not to be had, or a deed before this one cannot be finished:
+  // nothing that is read now can be relied on, and the commit will fail.
   bool has_begun() const { return has_begun_; }
 
   // Gives the file these bytes and no others. They are written beside it at once.
@@ -60,7 +60,7 @@ class Transaction {
   // Afterwards there is no such folder, unless there is something in it then that nobody removes.
   void RemoveFolder(const std::string& path);
 
-  // Makes the changes. False when nothing has changed. Once only; frees the lock.
+  // Makes the changes. Returns false if nothing has changed. Once only; frees the lock.
   [[nodiscard]] bool Commit();
   // The same where nobody is told of a failure: the screens show the files as they are.
   void CommitUnreported() { static_cast<void>(Commit()); }

@@ -36,8 +36,8 @@ class FoodListPanel {
   // that cannot be written is reported; what was not written is not on the list either.
   void Add(const std::string& product);
   // The same with a product that was chosen by its row and not by its name. Its name may stand for
-  // another one, or for none, so what its line takes off again is what was added with it. False
-  // when it could not be written.
+  // another one, or for none, so what its line takes off again is what was added with it. Returns
+  // false if it could not be written.
   [[nodiscard]] bool AddChosen(const WeighedFood& food);
   // Takes the selected food off the list and off the day. Without a selection nothing happens.
   void Remove();
@@ -62,7 +62,7 @@ class FoodListPanel {
     DayTotals amounts;
   };
 
-  // What both have in common. False when the day keeps what it held.
+  // What both have in common. Returns false if the day keeps what it held.
   bool Put(const WeighedFood& food);
   DayTotals AmountsOf(const std::string& line, const ListedFood& listed) const;
   void Forget(const std::string& line);

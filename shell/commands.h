@@ -21,8 +21,8 @@ struct CommandRow {
 // All of them, by id.
 std::span<const CommandRow> Commands();
 
-// Carries out the menu command `id`, be it that of a screen or one of these. Returns false, having
-// done nothing, when `id` is no command: such an id belongs to a control.
+// Carries out the menu command `id`, be it that of a screen or one of these. Returns false, and
+// does nothing, if `id` is no command: such an id belongs to a control.
 bool RunCommand(Parts& parts, int id);
 
 }  // namespace velnor

@@ -67,7 +67,7 @@ void Discard(const std::string& path) {
 
 class Copier {
  public:
-  // False when the file could not be copied or is not the same when it is read back.
+  // Returns false if the file could not be copied or is not the same when it is read back.
   bool Copy(const std::string& from, const std::string& to) {
     const std::optional<std::string> bytes = ReadFileToRewrite(from, kWholeFile);
     return bytes && Write(to, *bytes);

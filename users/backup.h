@@ -50,11 +50,11 @@ std::optional<CopySize> MakeCopy(const std::string& from, const std::string& to,
 
 // The copy of the day `date` ("2026-11-21") in `folder`, unless it is there; older ones that are no
 // longer kept go, but for a day that is not the newest: the clock has been set back then, and may
-// be wrong. False when there is none of that day now.
+// be wrong. Returns false if there is none of that day now.
 [[nodiscard]] bool MakeDailyCopy(const std::string& folder, std::string_view date);
 
 // The copy before a press, under the moment: of one person, or of everything when `person` is
-// empty. False when it could not be made.
+// empty. Returns false if it could not be made.
 [[nodiscard]] bool MakeCopyBefore(const std::string& folder, const Moment& moment,
                                   std::string_view about, std::string_view person);
 

@@ -41,7 +41,7 @@ std::size_t CountForbiddenSigns(std::string_view name);
 
 // The name that keeps `name` from being a user's: one of `registered`, or that of a folder that is
 // there, which differs from it in small and capital letters alone. The platform knows one folder
-// for both. Nothing when there is none, or when `name` itself is registered.
+// for both. Returns nothing if there is none, or when `name` itself is registered.
 std::optional<std::string> FindNamesake(const SessionState& session,
                                         const std::vector<std::string>& registered,
                                         const std::string& name);
