@@ -21,8 +21,9 @@ class Dialog {
  public:
   virtual ~Dialog() = default;
 
-  // Called once, when the controls exist and nothing is shown yet. Where it leaves the keyboard
-  // focus, the focus stays; otherwise the first control that takes it gets it.
+  // Called once, when the controls exist and nothing is shown yet. A control that it gives the
+  // keyboard focus keeps it. If it gives the focus to none, the first control that takes it gets
+  // it.
   virtual void OnOpen(Form& form) = 0;
 
   // Called for every notification of a control. Unknown ids are ignored.

@@ -25,7 +25,7 @@ class MainWindow {
 
   // Asks for a repaint of the whole client area, background included, when the program is idle.
   virtual void Invalidate() = 0;
-  // The same without asking for the background to be erased first.
+  // Asks for a repaint without having the background erased first.
   virtual void InvalidateWithoutErasing() = 0;
   // Repaints before returning.
   virtual void PaintNow() = 0;
@@ -40,7 +40,7 @@ class MainWindow {
   // leaves none that gets them.
   virtual void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
 
-  // The same for a dialog that works on the data of the user who is logged in.
+  // Opens a dialog that works on the data of the user who is logged in.
   virtual void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
   // Closes the open ones among these as their cancel buttons do, also one that waits for the answer
   // to a box of its own, which goes with it.

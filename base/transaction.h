@@ -57,12 +57,13 @@ class Transaction {
   void Remove(const std::string& path);
   // Afterwards there is such a folder. Comes before the files in it.
   void MakeFolder(const std::string& path);
-  // Afterwards there is no such folder, unless there is something in it then that nobody removes.
+  // Afterwards there is no such folder, unless something is left in it.
   void RemoveFolder(const std::string& path);
 
-  // Makes the changes. Returns false if nothing has changed. Once only; frees the lock.
+  // Makes the changes and frees the lock. Returns false if nothing has changed. Called at most
+  // once.
   [[nodiscard]] bool Commit();
-  // The same where nobody is told of a failure: the screens show the files as they are.
+  // Makes the changes and passes a failure over: the screens show the files as they are.
   void CommitUnreported() { static_cast<void>(Commit()); }
 
  private:
@@ -84,11 +85,11 @@ class Transaction {
   std::vector<Change> changes_;
 };
 
-// Makes up for what a deed that was cut off has left to do. Costs one look when there is none.
+// Finishes what a deed that was cut off has left to do. Costs one look when there is none.
 void FinishWhatWasBegun(const std::string& folder);
 
-// The same when a program starts, which clears away as well what cut-off writes have left in the
-// folder and in the folders in it.
+// Does the same when a program starts. Also clears away what cut-off writes have left in the folder
+// and in the folders in it.
 void OpenDataFolder(const std::string& folder);
 
 }  // namespace velnor

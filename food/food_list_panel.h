@@ -35,9 +35,9 @@ class FoodListPanel {
   // refused with a message, but only after the line and the day's totals were written. A balance
   // that cannot be written is reported; what was not written is not on the list either.
   void Add(const std::string& product);
-  // The same with a product that was chosen by its row and not by its name. Its name may stand for
-  // another one, or for none, so what its line takes off again is what was added with it. Returns
-  // false if it could not be written.
+  // Puts a product on the list that was chosen by its row and not by its name. Its name may stand
+  // for another one, or for none, so what its line takes off again is what was added with it.
+  // Returns false if it could not be written.
   [[nodiscard]] bool AddChosen(const WeighedFood& food);
   // Takes the selected food off the list and off the day. Without a selection nothing happens.
   void Remove();

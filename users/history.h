@@ -16,8 +16,8 @@ void TellHistory(Transaction& deed, const SessionState& session, const UserFolde
                  HistoryEntry entry);
 
 // Makes the history of a user who has none from the two chart series: the totals of each day as
-// kImported, the weights of each day as kWeight, without a time. Lines whose date is none are left
-// out. Does nothing when there is a history, or when the folder is missing. What could not be
+// kImported, the weights of each day as kWeight, without a time. Lines without a sound date are
+// left out. Does nothing when there is a history, or when the folder is missing. What could not be
 // written is tried again at the next login.
 void BeginHistory(const SessionState& session, const UserFolder& user);
 
