@@ -29,11 +29,11 @@ struct Change {
 // Makes a change below the folder, which ends with a separator. A change that was made already
 // stays as it is. A file that was to be appended to and that another program has changed since is
 // left alone. So is a file whose new bytes are gone. Returns false if the system could not.
-bool CarryOut(const std::string& folder, const Change& change);
+[[nodiscard]] bool CarryOut(const std::string& folder, const Change& change);
 
 // Takes back a folder that was made or a text that was appended. Returns false if the system could
 // not.
-bool TakeBack(const std::string& folder, const Change& change);
+[[nodiscard]] bool TakeBack(const std::string& folder, const Change& change);
 
 // The path of a file of the folder by its path in a note.
 std::string PathOf(const std::string& folder, std::string_view noted);

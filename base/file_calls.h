@@ -18,27 +18,27 @@ namespace velnor {
 std::FILE* OpenFile(const std::string& path, const char* mode);
 
 // Hands everything written to `file` so far to the disk. Returns false if the system could not.
-bool FlushToDisk(std::FILE* file);
+[[nodiscard]] bool FlushToDisk(std::FILE* file);
 
 // Returns the size of an open file in bytes, or nothing if it cannot be told. Moves the place at
 // which the file is read and written.
 std::optional<std::uint64_t> SizeOf(std::FILE* file);
 
 // What is read or written next begins at this byte. Returns false if the system could not.
-bool SeekTo(std::FILE* file, std::uint64_t place);
+[[nodiscard]] bool SeekTo(std::FILE* file, std::uint64_t place);
 
 // Takes everything behind this byte off a file that is open to be written. Returns false if the
 // system could not.
-bool CutTo(std::FILE* file, std::uint64_t size);
+[[nodiscard]] bool CutTo(std::FILE* file, std::uint64_t size);
 
 // Gives the file `from` the name `to`; a file that had that name is replaced in one step. One that
 // somebody else has open is tried again for half a second where the system does not replace such
 // files. Returns false if the system could not; then both are as they were.
-bool ReplaceByRename(const std::string& from, const std::string& to);
+[[nodiscard]] bool ReplaceByRename(const std::string& from, const std::string& to);
 
 // Removes a file. Returns true if there is no file of that name now, also if there was none before.
 // One that somebody else has open is tried again like one that is to be replaced.
-bool RemoveFile(const std::string& path);
+[[nodiscard]] bool RemoveFile(const std::string& path);
 
 // Whether there is a file or a folder of that name. Also true if the system does not let it be
 // looked at.
@@ -56,12 +56,12 @@ bool CanBeChanged(const std::string& path);
 bool HasFolder(const std::string& path);
 
 // Makes or removes one folder; only an empty one is removed. Returns false if the system could not.
-bool MakeFolder(const std::string& path);
-bool RemoveFolder(const std::string& path);
+[[nodiscard]] bool MakeFolder(const std::string& path);
+[[nodiscard]] bool RemoveFolder(const std::string& path);
 
 // Gives a folder, with all that is in it, another name in the same folder. Returns false if the
 // system could not, as when something has that name.
-bool RenameFolder(const std::string& from, const std::string& to);
+[[nodiscard]] bool RenameFolder(const std::string& from, const std::string& to);
 
 // Returns the size of a file in bytes, or 0 if it cannot be told.
 std::uint64_t SizeOfFile(const std::string& path);

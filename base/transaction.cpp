@@ -104,6 +104,8 @@ void Transaction::RemoveFolder(const std::string& path) {
   if (IsThere(path)) Put(ChangeKind::kRemoveFolder, path);
 }
 
+void Transaction::CommitUnreported() { PassOver(Commit()); }
+
 bool Transaction::Commit() {
   const bool done = has_begun_ && !has_failed_ && Prepare() && MakeAll();
   if (!done) DropNewFiles();
@@ -202,7 +204,7 @@ bool Transaction::MakeWrittenDown() const {
   const auto refused = std::ranges::find_if_not(changes_, carry_out);
   if (refused == changes_.end()) {
     // One that stays is carried out once more, which changes nothing.
-    RemoveFile(NotePath(folder_));
+    PassOver(RemoveFile(NotePath(folder_)));
     return true;
   }
   return !TakeBackUpTo(*refused);
@@ -225,7 +227,7 @@ bool Transaction::TakeBackUpTo(const Change& refused) const {
 
 void Transaction::DropNewFiles() const {
   for (const Change& change : changes_) {
-    if (!change.beside.empty()) RemoveFile(PathOf(folder_, change.beside));
+    if (!change.beside.empty()) PassOver(RemoveFile(PathOf(folder_, change.beside)));
   }
 }
 

@@ -64,7 +64,7 @@ class Transaction {
   // once.
   [[nodiscard]] bool Commit();
   // Makes the changes and passes a failure over: the screens show the files as they are.
-  void CommitUnreported() { static_cast<void>(Commit()); }
+  void CommitUnreported();
 
  private:
   Change* Put(ChangeKind kind, const std::string& path);

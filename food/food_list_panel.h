@@ -47,7 +47,8 @@ class FoodListPanel {
   // Nothing has been eaten today: clears the day and empties the list.
   void ClearDay();
 
-  // Empties the list and puts `nothing` in its fields; the day stays as it is.
+  // Empties the list and puts `nothing` in its fields, those of the exchanges included: a login
+  // leaves nothing of the user before. The day stays as it is.
   void Empty(std::string_view nothing);
 
   // What the records of the list are made of: its totals as they are shown, each cut to `limit`

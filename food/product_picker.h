@@ -71,7 +71,9 @@ class ProductPicker : public Screen {
   const PickerControls& controls_;
   Form& form_;
   std::string chosen_name_;
-  std::optional<SelectedProduct> selected_;  // nothing until the first choice
+  // Copied, since the table of user products can be reloaded under it. Empty until the first
+  // choice.
+  std::optional<SelectedProduct> selected_;
 };
 
 }  // namespace velnor

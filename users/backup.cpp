@@ -49,13 +49,13 @@ void RemoveCopy(const std::string& path) {
   for (const FolderEntry& entry : Entries(folder)) {
     if (entry.is_folder) {
       const std::string inner = InFolder(folder, entry.name);
-      for (const FolderEntry& file : Entries(inner)) RemoveFile(inner + file.name);
-      RemoveFolder(folder + entry.name);
+      for (const FolderEntry& file : Entries(inner)) PassOver(RemoveFile(inner + file.name));
+      PassOver(RemoveFolder(folder + entry.name));
     } else {
-      RemoveFile(folder + entry.name);
+      PassOver(RemoveFile(folder + entry.name));
     }
   }
-  RemoveFolder(path);
+  PassOver(RemoveFolder(path));
 }
 
 // Takes the name of a copy off it first: one that is cut off while it goes is no copy any more.

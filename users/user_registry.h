@@ -27,10 +27,9 @@ struct UserRegistry {
   bool operator==(const UserRegistry&) const = default;
 };
 
-// Reads the list. Lines may end with CR LF, LF or CR; what follows a NUL among
-// the names is not read. Empty lines,
-// names longer than kUserNameLimit and names that are no plain folder name are left out. A missing
-// file gives no names; nothing comes of one that cannot be read.
+// Reads the list. Lines may end with CR LF, LF or CR. What follows a NUL among the names is not
+// read. Empty lines, names longer than kUserNameLimit and names that IsFolderName refuses are left
+// out. A missing file gives no names. Returns nothing if the file cannot be read.
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.

@@ -3,7 +3,6 @@
 #ifndef VELNOR_TESTS_SCREENS_CHART_FIXTURE_H_
 #define VELNOR_TESTS_SCREENS_CHART_FIXTURE_H_
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -28,16 +27,8 @@ inline const std::string kThreeDays =
 class ChartScreenTest : public ProgramTest {
  protected:
   void LogIn(const std::string& profile = "35\r\n180\r\nmen\r\nlow\r\nnone") {
-    std::filesystem::create_directory(folder_.path() + "Ann");
-    folder_.Write("users.ASC", "Ann");
-    folder_.Write("Ann/info.ASC", profile);
-    if (!program_) Start();
-    FakeForm login;
-    OpenDialog(200, login);
-    login.Choose(700, "Ann");
-    login.Press(1);
+    ProgramTest::LogIn("Ann", profile);
     ASSERT_EQ(program_->session().user.value().name(), "Ann");
-    boxes_.TakeTexts();
   }
 };
 

@@ -41,15 +41,8 @@ inline constexpr int kOpenCalorie = 212;
 class ReportScreenTest : public ProgramTest {
  protected:
   void LogIn(const std::string& name = "Ann") {
-    std::filesystem::create_directory(folder_.path() + name);
+    ProgramTest::LogIn(name, "35\r\n180\r\nmen\r\nlow\r\nnone");
     folder_.Write("users.ASC", "Ann\r\nBob");
-    folder_.Write(name + "/info.ASC", "35\r\n180\r\nmen\r\nlow\r\nnone");
-    if (!program_) Start();
-    FakeForm login;
-    OpenDialog(200, login);
-    login.Choose(700, name);
-    login.Press(1);
-    boxes_.TakeTexts();
     window_.log.clear();
   }
   std::string Write(const std::string& file_name, std::string_view bytes) const {
