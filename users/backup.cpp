@@ -61,13 +61,13 @@ void RemoveCopy(const std::string& path) {
   for (const FolderEntry& entry : Entries(folder)) {
     if (entry.is_folder) {
       const std::string inner = InFolder(folder, entry.name);
-      for (const FolderEntry& file : Entries(inner)) RemoveFile(inner + file.name);
-      RemoveFolder(folder + entry.name);
+      for (const FolderEntry& file : Entries(inner)) PassOver(RemoveFile(inner + file.name));
+      PassOver(RemoveFolder(folder + entry.name));
     } else {
-      RemoveFile(folder + entry.name);
+      PassOver(RemoveFile(folder + entry.name));
     }
   }
-  RemoveFolder(path);
+  PassOver(RemoveFolder(path));
 }
 
 // Takes the name of a copy off it first: one that is cut off while it goes is no copy any more.
@@ -79,7 +79,7 @@ void Discard(const std::string& path) {
 
 class Copier {
  public:
-  // False when the file could not be copied or is not the same when it is read back.
+  // Returns false if the file could not be copied or is not the same when it is read back.
   bool Copy(const std::string& from, const std::string& to) {
     const std::optional<std::string> bytes = ReadFileToRewrite(from, kWholeFile);
     return bytes && Write(to, *bytes);

@@ -14,7 +14,7 @@
 namespace velnor {
 namespace {
 
-constexpr int kCopies = 811;
+constexpr int kCopies = ID_COPIES;
 
 constexpr std::string_view kTitleOfChoice = "Choose the folder that is a copy";
 constexpr std::string_view kNoPath = "Choose a copy first.";

@@ -14,7 +14,7 @@ using Texts = std::vector<std::string>;
 constexpr WPARAM kBackUpItem = 0x120;
 constexpr WPARAM kRestoreItem = 0x130;
 constexpr int kCounter = 231;
-constexpr int kBalance = 232;
+constexpr int kBalance = 233;
 constexpr int kClearDay = 165;
 constexpr const char* kProfile = "35\r\n170\r\nwomen\r\nlow\r\nnone";
 

@@ -24,7 +24,7 @@ constexpr const char* kNoCopy =
 class CopiesTest : public DayTest {
  protected:
   static constexpr int kOpenWeightReport = 210;
-  static constexpr int kOpenBalance = 232;
+  static constexpr int kOpenBalance = 233;
   static constexpr int kClearDay = 165;
 
   Tree CopyCalled(const std::string& name) const {
@@ -193,6 +193,7 @@ TEST_F(BackUpTest, TheSecondOfADayGetsANumberAndQuotesAreNoPartOfAPath) {
   const TemporaryFolder disk;
   const std::string folder = disk.path().substr(0, disk.path().size() - 1);
   Confirm(folder);
+  OpenOwn(kBackUpItem);
   EXPECT_NE(Confirm('"' + folder + '"').front().find("Velnor 2000-01-01 (2)"), std::string::npos);
 }
 
@@ -302,6 +303,7 @@ TEST_F(RestoreDialogTest, ACopyMadeElsewhereIsGivenByItsPath) {
   OpenOwn(kBackUpItem);
   Confirm(disk.path());
   const Tree copied = TreeBelow(folder_.path() + "Ann");
+  Open(kOpenCounter);
   AddStrawberries("50");
   OpenOwn(kRestoreItem);
   window_.folder_to_choose = disk.path() + "Velnor 2000-01-01";
