@@ -121,18 +121,18 @@ std::string BurnedTotal::Add(std::string_view burned, std::string_view activity,
 }
 
 void BurnedTotal::Clear() {
-  if (session_.user) {
-    Transaction deed(session_.base_folder);
-    const UserFolder& user = *session_.user;
-    const DayLine line = Read();
-    const bool is_of_today = !line.is_empty && !IsOfAnotherDay(line);
-    deed.Replace(user.File(kBurnedFile), "");
-    TellHistory(
-        deed, session_, user,
-        {.kind = HistoryKind::kBurnedCleared, .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
-    deed.CommitUnreported();
-  }
   kcal_ = 0;
+  if (!session_.user) return;
+  Transaction deed(session_.base_folder);
+  const UserFolder& user = *session_.user;
+  const DayLine line = Read();
+  if (!line.is_readable) return;
+  const bool is_of_today = !line.is_empty && !IsOfAnotherDay(line);
+  deed.Replace(user.File(kBurnedFile), "");
+  TellHistory(
+      deed, session_, user,
+      {.kind = HistoryKind::kBurnedCleared, .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
+  deed.CommitUnreported();
 }
 
 }  // namespace velnor

@@ -54,7 +54,7 @@ class BurnedTotal {
   std::string Add(std::string_view burned, std::string_view activity = {},
                   std::string_view minutes = {});
 
-  // Empties the file; the total is 0.
+  // Empties the file, unless it cannot be read; the total is 0.
   void Clear();
 
  private:

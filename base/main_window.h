@@ -53,6 +53,9 @@ class MainWindow {
   // Its path, as the files of the program are named; nothing when none was chosen.
   virtual std::optional<std::string> ChooseFile(const FileKind& kind) = 0;
 
+  // The same with a folder; `title` stands above the folders.
+  virtual std::optional<std::string> ChooseFolder(std::string_view title) = 0;
+
   // Opens a text file that lies beside the program or in the start-up folder for reading. Returns
   // false if there is none of that name or nothing opens it.
   virtual bool OpenGuideFile(std::string_view name) = 0;

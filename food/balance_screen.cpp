@@ -142,6 +142,7 @@ bool BalanceScreen::OnControl(int id, int notification) {
 }
 
 void BalanceScreen::ClearDay() {
+  copies_.MakeBefore("Clear (daily balance)");
   food_list_.ClearDay();
   window_.Invalidate();
 }

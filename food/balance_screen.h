@@ -11,14 +11,19 @@
 #include "base/screen.h"
 #include "food/day_balance.h"
 #include "food/food_list_panel.h"
+#include "users/safety_copies.h"
 
 namespace velnor {
 
 class BalanceScreen final : public Screen {
  public:
   BalanceScreen(DayBalance& day, FoodListPanel& food_list, DayRequirement& requirement,
-                MainWindow& window)
-      : day_(day), food_list_(food_list), requirement_(requirement), window_(window) {}
+                SafetyCopies& copies, MainWindow& window)
+      : day_(day),
+        food_list_(food_list),
+        requirement_(requirement),
+        copies_(copies),
+        window_(window) {}
 
   static std::span<const ControlRow> Controls();
   void OnChosen() override;
@@ -28,13 +33,14 @@ class BalanceScreen final : public Screen {
   void Paint(Canvas& canvas) const override;
   bool OnControl(int id, int notification) override;
 
-  // The button: nothing has been eaten today.
+  // The button: nothing has been eaten today. The day as it was is copied before.
   void ClearDay();
 
  private:
   DayBalance& day_;
   FoodListPanel& food_list_;
   DayRequirement& requirement_;
+  SafetyCopies& copies_;
   MainWindow& window_;
   DayTotals totals_;
   DayExchanges exchanges_;

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/path_field.h"
 #include "base/text_file.h"
 #include "base/transaction.h"
 #include "food/product_rules.h"
@@ -14,12 +15,8 @@
 namespace velnor {
 namespace {
 
-constexpr int kPath = ID_PATH;
-constexpr int kBrowse = ID_BROWSE;
 constexpr int kMainCategory = ID_IMPORT_MAIN_CATEGORY;
 constexpr int kSubcategory = ID_IMPORT_SUBCATEGORY;
-
-constexpr std::size_t kPathLimit = 1000;
 
 // The category that is chosen when the dialog opens: the one for what belongs to no other.
 constexpr std::string_view kUsualMainCategory = "other";
@@ -38,13 +35,6 @@ void Select(Form& form, int id, std::string_view item) {
   for (int i = 0; i < form.ItemCount(id); ++i) {
     if (form.ItemText(id, i) == item) form.SelectItem(id, i);
   }
-}
-
-// As it is typed or pasted: other programs hand paths over in quotes.
-std::string Path(const Form& form) {
-  std::string path = form.ReadText(kPath, kPathLimit);
-  std::erase(path, '"');
-  return path;
 }
 
 std::optional<std::string> ReadTable(const std::string& path) {
@@ -72,7 +62,7 @@ void ImportProductsDialog::OnOpen(Form& form) {
 
 void ImportProductsDialog::OnCommand(Form& form, int id, int notification) {
   if (id == kMainCategory && notification == kSelectionChanged) OfferSubcategories(form);
-  if (id == kBrowse && notification == kButtonClicked) Browse(form);
+  if (id == kBrowseButton && notification == kButtonClicked) Browse(form);
   if (id == kOkButton && notification == kButtonClicked) Import(form);
   if (id == kCancelButton) form.Close();
 }
@@ -86,11 +76,11 @@ void ImportProductsDialog::OfferSubcategories(Form& form) {
 
 void ImportProductsDialog::Browse(Form& form) {
   const std::optional<std::string> path = window_.ChooseFile(kTables);
-  if (path) form.SetText(kPath, *path);
+  if (path) form.SetText(kPathField, *path);
 }
 
 void ImportProductsDialog::Import(Form& form) {
-  const std::string path = Path(form);
+  const std::string path = PathIn(form);
   if (path.empty()) {
     Say(kNoPath);
     return;

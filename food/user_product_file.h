@@ -11,11 +11,9 @@
 
 #include "base/transaction.h"
 #include "food/food_table.h"
+#include "users/user_files.h"
 
 namespace velnor {
-
-// In the start-up folder, shared by all users.
-inline constexpr std::string_view kUserProductsFile = "data.txt";
 
 // Characters of a name that a product has at least.
 inline constexpr std::size_t kShortestProductName = 4;

@@ -107,6 +107,7 @@ class ProgramRun final : private MainWindow {
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
   std::optional<std::string> ChooseFile(const FileKind&) override { return std::nullopt; }
+  std::optional<std::string> ChooseFolder(std::string_view) override { return std::nullopt; }
   bool OpenGuideFile(std::string_view) override { return true; }
   void OpenHelp(std::string_view) override {}
   [[nodiscard]] bool OpenInBrowser(const std::string&) override { return true; }

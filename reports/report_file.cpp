@@ -44,6 +44,10 @@ bool ClearReport(const std::string& folder, const std::string& path) {
   return deed.Commit();
 }
 
+bool IsCut(const std::string& path, std::string_view shown) {
+  return ReadFile(path, kWholeFile) != shown;
+}
+
 bool SaveReport(const std::string& folder, const std::string& path, std::string_view shown,
                 std::string_view text) {
   Transaction deed(folder);

@@ -38,6 +38,9 @@ std::string LoadReport(const std::string& path);
 // with it. Returns false if both stay as they were, as files do that cannot be read.
 [[nodiscard]] bool ClearReport(const std::string& folder, const std::string& path);
 
+// Whether the file holds bytes beside `shown`, which is what LoadReport gave.
+bool IsCut(const std::string& path, std::string_view shown);
+
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person
 // began to work on the text; bytes of the file that are not in it were never seen by anybody, and
 // are added to the file at RestPath first. A missing file is not made. Returns false if the file

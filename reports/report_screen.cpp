@@ -68,15 +68,22 @@ constexpr std::string_view kSureToSave =
     "Do You want save changes?\nThere`ll be no chance to cancel!";
 constexpr std::string_view kRestNote = "What was not shown when changes were saved is kept in ";
 
+constexpr std::string_view kClearPress = "Clear raport";
+constexpr std::string_view kSavePress = "Save changes (long report)";
+
 Message Question(std::string_view text) {
   return {.text = text, .buttons = MessageButtons::kYesNo};
 }
 
 }  // namespace
 
-ReportScreen::ReportScreen(const SessionState& session, Form& form, MainWindow& window,
-                           MessageBoxes& message_boxes)
-    : session_(session), form_(form), window_(window), message_boxes_(message_boxes) {}
+ReportScreen::ReportScreen(const SessionState& session, SafetyCopies& copies, Form& form,
+                           MainWindow& window, MessageBoxes& message_boxes)
+    : session_(session),
+      copies_(copies),
+      form_(form),
+      window_(window),
+      message_boxes_(message_boxes) {}
 
 std::optional<std::string> ReportScreen::Path() const {
   const ReportFile* const report = FindReport(session_.screen);
@@ -124,6 +131,7 @@ void ReportScreen::ShowFile() {
 void ReportScreen::Clear() {
   const std::optional<std::string> path = Path();
   if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
+  copies_.MakeBefore(kClearPress);
   if (ClearReport(session_.base_folder, *path)) unsaved_path_.reset();
   window_.Invalidate();
 }
@@ -138,6 +146,7 @@ void ReportScreen::Save() {
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const Shown shown = shown_;
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
+  if (IsCut(*path, shown.bytes)) copies_.MakeBefore(kSavePress);
   if (SaveReport(session_.base_folder, *path, shown.bytes, text)) {
     unsaved_path_.reset();
   } else {

@@ -14,12 +14,13 @@
 #include "base/message_boxes.h"
 #include "base/screen.h"
 #include "base/session.h"
+#include "users/safety_copies.h"
 
 namespace velnor {
 
 class ReportScreen final : public Screen {
  public:
-  ReportScreen(const SessionState& session, Form& form, MainWindow& window,
+  ReportScreen(const SessionState& session, SafetyCopies& copies, Form& form, MainWindow& window,
                MessageBoxes& message_boxes);
 
   static std::span<const ControlRow> Controls();
@@ -33,7 +34,8 @@ class ReportScreen final : public Screen {
   // Scrolls one line, whatever the distance.
   bool OnWheel(bool down) override;
 
-  // The buttons. Without a report, Clear and Save do nothing.
+  // The buttons. Without a report, Clear and Save do nothing. Before Clear, and before Save
+  // where the file holds more than was shown, the files of the user are copied.
   void Clear();
   void Save();
 
@@ -51,6 +53,7 @@ class ReportScreen final : public Screen {
   void ShowFile();
 
   const SessionState& session_;
+  SafetyCopies& copies_;
   Form& form_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;

@@ -25,11 +25,12 @@ constexpr std::string_view kHelpFile = "Velnor CALORIES COUNTER V 2.6 PORADNIK.H
 // What begins with the login of a user: the day's balance, the user's limits, an empty list. The
 // copy shows the day before, so it comes first.
 void StartUserDay(Parts& parts) {
-  parts.daily_copy.Make(parts.session, parts.message_boxes);
+  const bool copy_is_made = parts.copies.MakeOfTheDay();
   BeginHistory(parts.session, *parts.session.user);
   PassOver(parts.day.StartDayIfNew());
   parts.requirement.OnLogin();
   parts.food_list.Empty("");
+  parts.copies.SayIfMissing(copy_is_made);
 }
 
 void OpenLogin(Parts& parts) {
@@ -44,11 +45,7 @@ void OpenLogin(Parts& parts) {
 
 void LogOut(Parts& parts) {
   parts.message_boxes.Show({.text = "BYE, SEE YOU SOON!"});
-  ApplyMenuState(MenuState::kAfterLogout, parts.window);
-  parts.window.CloseSessionDialogs();
-  parts.session.user.reset();
-  parts.session.screen = kHomeScreen;
-  parts.window.PaintNow();
+  EndSession(parts);
 }
 
 void OpenUsers(Parts& parts) {
@@ -56,9 +53,9 @@ void OpenUsers(Parts& parts) {
     ApplyMenuState(MenuState::kUserRemoved, parts.window);
     parts.window.CloseSessionDialogs();
   };
-  parts.window.OpenDialog(
-      kUsersResource,
-      std::make_unique<UsersDialog>(parts.session, parts.window, parts.message_boxes, on_removed));
+  parts.window.OpenDialog(kUsersResource,
+                          std::make_unique<UsersDialog>(parts.session, parts.copies, parts.window,
+                                                        parts.message_boxes, on_removed));
 }
 
 void OpenProfile(Parts& parts) {
@@ -119,6 +116,14 @@ constexpr CommandRow kCommands[] = {
 }  // namespace
 
 std::span<const CommandRow> Commands() { return kCommands; }
+
+void EndSession(Parts& parts) {
+  ApplyMenuState(MenuState::kAfterLogout, parts.window);
+  parts.window.CloseSessionDialogs();
+  parts.session.user.reset();
+  parts.session.screen = kHomeScreen;
+  parts.window.PaintNow();
+}
 
 bool RunCommand(Parts& parts, int id) {
   if (id == 0) return false;  // screens without a command

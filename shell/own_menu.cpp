@@ -6,8 +6,11 @@
 #include "diary/diary_command.h"
 #include "food/import_products_dialog.h"
 #include "food/quick_add_dialog.h"
+#include "shell/commands.h"
 #include "shell/parts.h"
+#include "users/back_up_dialog.h"
 #include "users/history_file.h"
+#include "users/restore_dialog.h"
 
 namespace velnor {
 namespace {
@@ -32,9 +35,29 @@ void OpenDiary(Parts& parts) {
       .Run(parts.profile, parts.requirement.Bounds());
 }
 
+void OpenBackUp(Parts& parts) {
+  parts.window.OpenDialog(kBackUpResource, std::make_unique<BackUpDialog>(
+                                               parts.session, parts.window, parts.message_boxes));
+}
+
+// Who was logged in may not be there any more, and nothing that is known of their day holds.
+void OnRestored(Parts& parts) {
+  EndSession(parts);
+  parts.food.user_products.Load(parts.session.BaseFile(kUserProductsFile));
+  parts.OnProductsChanged();
+}
+
+void OpenRestore(Parts& parts) {
+  parts.window.OpenDialog(kRestoreResource, std::make_unique<RestoreDialog>(
+                                                parts.session, parts.window, parts.message_boxes,
+                                                [&parts] { OnRestored(parts); }));
+}
+
 constexpr OwnMenuItem kItems[] = {
     {kQuickAddItem, "Quick add...\tCtrl+K", true, OpenQuickAdd},
     {kDiaryItem, "Diary...\tCtrl+D", true, OpenDiary},
+    {kBackUpItem, "Back up...", false, OpenBackUp},
+    {kRestoreItem, "Restore...", false, OpenRestore},
     {kImportItem, "Import products...", false, OpenImportProducts},
 };
 

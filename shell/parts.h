@@ -31,8 +31,8 @@
 #include "food/overview_screen.h"
 #include "reports/report_screen.h"
 #include "shell/home_screen.h"
-#include "users/daily_copy.h"
 #include "users/profile.h"
+#include "users/safety_copies.h"
 
 namespace velnor {
 
@@ -59,7 +59,7 @@ struct Parts {
   DayRequirement requirement;
   BurnedTotal burned_total;
   WeightText weight;
-  DailyCopy daily_copy;
+  SafetyCopies copies;
 
   HomeScreen home_screen;
   BmiScreen bmi_screen;

@@ -16,9 +16,6 @@
 namespace velnor {
 namespace {
 
-// The shared files of a data folder.
-constexpr std::string_view kSharedFiles[] = {kRegistryFile, "data.txt"};
-
 // What a copy is called until all of it is there.
 constexpr std::string_view kPart = ".part";
 
@@ -41,6 +38,20 @@ bool IsNameOfMoment(std::string_view name) {
   return name.size() == kMomentLength && IsIsoDate(name.substr(0, kDayLength)) &&
          name[kDayLength] == ' ' &&
          name.find_first_not_of("0123456789", kDayLength + 1) == std::string_view::npos;
+}
+
+// The name of a moment with the next number; after the last one comes the first.
+std::string NextMoment(std::string name) {
+  std::size_t digit = name.size();
+  while (--digit > kDayLength && name[digit] == '9') name[digit] = '0';
+  if (digit > kDayLength) ++name[digit];
+  return name;
+}
+
+bool HoldsFileOfUser(const std::string& folder) {
+  return std::ranges::any_of(UserFiles(), [&folder](const UserFile& file) {
+    return IsThere(folder + std::string(file.name));
+  });
 }
 
 // Removes a copy, or what there is of one: files, and folders of files.
@@ -174,6 +185,14 @@ bool HasCopiesFolder(const std::string& folder) {
   return HasFolder(CopiesFolderOf(folder)) || MakeFolder(folder + std::string(kCopiesFolder));
 }
 
+std::string NewCopyPath(const std::string& folder, std::string_view date) {
+  const std::string path = folder + "Velnor " + std::string(date);
+  if (!IsThere(path)) return path;
+  int number = 2;
+  while (IsThere(path + " (" + std::to_string(number) + ')')) ++number;
+  return path + " (" + std::to_string(number) + ')';
+}
+
 CopySize SizeOfCopy(const std::string& folder) {
   CopySize size;
   const auto add = [&size](const std::string& path) {
@@ -206,9 +225,10 @@ std::vector<std::string> PeopleIn(const std::string& folder) {
     if (IsThere(folder + name)) add(name);
   }
   for (const FolderEntry& entry : Entries(folder)) {
-    const bool is_persons = entry.is_folder && IsFolderName(entry.name) &&
-                            IsThere(InFolder(folder, entry.name) + std::string(kProfileFile));
-    if (is_persons) add(entry.name);
+    if (entry.is_folder && IsFolderName(entry.name) &&
+        HoldsFileOfUser(InFolder(folder, entry.name))) {
+      add(entry.name);
+    }
   }
   return people;
 }
@@ -250,19 +270,21 @@ bool MakeCopyBefore(const std::string& folder, const Moment& moment, std::string
   RemoveParts(copies);
   std::string name = moment.date + ' ';
   std::ranges::copy_if(moment.time, std::back_inserter(name), [](char c) { return c != ':'; });
-  // A second press within one second: what the first one found is the older state.
-  if (IsThere(copies + name)) return true;
+  // Of several presses within one second each has its copy, under the next number that is free.
+  while (IsThere(copies + name)) name = NextMoment(name);
   if (!MakeCopy(folder, copies + name, person, about)) return false;
   DiscardOldPresses(copies, name);
   return true;
 }
 
-std::string NewCopyPath(const std::string& folder, std::string_view date) {
-  const std::string path = folder + "Velnor " + std::string(date);
-  if (!IsThere(path)) return path;
-  int number = 2;
-  while (IsThere(path + " (" + std::to_string(number) + ')')) ++number;
-  return path + " (" + std::to_string(number) + ')';
+std::optional<NewCopy> MakeCopyIn(const std::string& from, const std::string& folder,
+                                  std::string_view date) {
+  FinishWhatWasBegun(from);
+  const FolderLock lock(from);
+  if (!lock.held()) return std::nullopt;
+  const std::string path = NewCopyPath(folder, date);
+  const std::optional<CopySize> size = MakeCopy(from, path);
+  return size ? std::optional(NewCopy{path, *size}) : std::nullopt;
 }
 
 std::vector<ListedCopy> ListCopies(const std::string& folder) {

@@ -31,7 +31,8 @@ inline constexpr std::size_t kKeptPresses = 20;
 // Every folder below is named with a separator at its end, every copy without one.
 
 // The people whose folders lie in `folder`: those of the list of users there who have a folder, and
-// everybody else whose folder holds a profile. In the order of the list, the others behind it.
+// everybody else whose folder holds a file of a user. In the order of the list, the others behind
+// it.
 std::vector<std::string> PeopleIn(const std::string& folder);
 
 // Whether there is something that can be restored: a list of users, or a person's folder.
@@ -53,14 +54,20 @@ std::optional<CopySize> MakeCopy(const std::string& from, const std::string& to,
 // be wrong. Returns false if there is none of that day now.
 [[nodiscard]] bool MakeDailyCopy(const std::string& folder, std::string_view date);
 
-// The copy before a press, under the moment: of one person, or of everything when `person` is
-// empty. Returns false if it could not be made.
+// The copy before a press, under the moment, or under a second after it that no copy has: of one
+// person, or of everything when `person` is empty. Returns false if it could not be made.
 [[nodiscard]] bool MakeCopyBefore(const std::string& folder, const Moment& moment,
                                   std::string_view about, std::string_view person);
 
-// Where a copy made for a person goes in `folder`: "Velnor 2026-11-21", with " (2)" and so on
-// behind it when that is taken.
-std::string NewCopyPath(const std::string& folder, std::string_view date);
+struct NewCopy {
+  std::string path;
+  CopySize size;
+};
+
+// Copies the data folder `from` into `folder`, to "Velnor 2026-11-21" for that date, with " (2)"
+// and so on behind it when that is taken. Nothing, and no such folder, when that could not be done.
+std::optional<NewCopy> MakeCopyIn(const std::string& from, const std::string& folder,
+                                  std::string_view date);
 
 struct ListedCopy {
   std::string path;

@@ -36,16 +36,31 @@ SeriesLine FieldsOf(std::string_view line) {
   return fields;
 }
 
-// The entries that `entry_of` makes of the lines of a series.
-void Import(const std::string& path, std::vector<HistoryEntry>& entries, const auto& entry_of) {
-  const std::string text = ReadFile(path, kWholeFile);
-  LineReader lines(text, kWholeFile - 1);
+// Adds the entries that `entry_of` makes of the lines of a series. Returns false if the file cannot
+// be read; a missing one is an empty one.
+bool Import(const std::string& path, std::vector<HistoryEntry>& entries, const auto& entry_of) {
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
+  if (!text) return false;
+  LineReader lines(*text, kWholeFile - 1);
   while (const std::optional<std::string_view> line = lines.Next()) {
     const SeriesLine fields = FieldsOf(*line);
     HistoryEntry entry = entry_of(fields);
     entry.date = IsoDate(fields[0]);
     if (!entry.date.empty()) entries.push_back(std::move(entry));
   }
+  return true;
+}
+
+HistoryEntry ImportedDay(const SeriesLine& fields) {
+  return {.kind = HistoryKind::kImported,
+          .kcal = ParseNumber(fields[1]),
+          .protein = ParseNumber(fields[2]),
+          .fat = ParseNumber(fields[3]),
+          .carbohydrate = ParseNumber(fields[4])};
+}
+
+HistoryEntry ImportedWeight(const SeriesLine& fields) {
+  return {.kind = HistoryKind::kWeight, .amount = ParseNumber(fields[1]), .unit = "kg"};
 }
 
 }  // namespace
@@ -64,17 +79,10 @@ void BeginHistory(const SessionState& session, const UserFolder& user) {
   Transaction deed(session.base_folder);
   if (IsThere(path)) return;  // another program has made it meanwhile
   std::vector<HistoryEntry> entries;
-  Import(user.File(kNutrientSeriesFile), entries, [](const SeriesLine& fields) {
-    return HistoryEntry{.kind = HistoryKind::kImported,
-                        .kcal = ParseNumber(fields[1]),
-                        .protein = ParseNumber(fields[2]),
-                        .fat = ParseNumber(fields[3]),
-                        .carbohydrate = ParseNumber(fields[4])};
-  });
-  Import(user.File(kWeightSeriesFile), entries, [](const SeriesLine& fields) {
-    return HistoryEntry{
-        .kind = HistoryKind::kWeight, .amount = ParseNumber(fields[1]), .unit = "kg"};
-  });
+  if (!Import(user.File(kNutrientSeriesFile), entries, ImportedDay) ||
+      !Import(user.File(kWeightSeriesFile), entries, ImportedWeight)) {
+    return;
+  }
   std::ranges::stable_sort(entries, {}, &HistoryEntry::date);
   std::string text = std::string(kHistoryHeader) + '\n';
   for (const HistoryEntry& entry : entries) text += HistoryLine(entry);

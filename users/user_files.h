@@ -1,5 +1,6 @@
 // The files of a user: what each is called, which are made with the user and which go with the
-// user. The one place where their names stand; every subsystem takes its own from here.
+// user; and the files that all users share. The one place where their names stand; every subsystem
+// takes its own from here.
 
 #ifndef VELNOR_USERS_USER_FILES_H_
 #define VELNOR_USERS_USER_FILES_H_
@@ -27,6 +28,12 @@ inline constexpr std::string_view kHistoryFile = "dziennik.csv";
 inline constexpr std::string_view kDiaryPageFile = "dziennik.html";
 inline constexpr std::string_view kDiaryDaysFile = "dziennik-dni.csv";
 inline constexpr std::string_view kDiaryDeedsFile = "dziennik-potrawy.csv";
+
+// In the start-up folder: the list of users, a name a line without a line end behind the last; the
+// products that users added.
+inline constexpr std::string_view kRegistryFile = "users.ASC";
+inline constexpr std::string_view kUserProductsFile = "data.txt";
+inline constexpr std::string_view kSharedFiles[] = {kRegistryFile, kUserProductsFile};
 
 struct UserFile {
   std::string_view name;

@@ -35,9 +35,11 @@ std::size_t WholeNamesEnd(std::string_view text) {
 }  // namespace
 
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path) {
-  const std::optional<std::string> read = ReadFileToRewrite(path, kWholeFile);
-  if (!read) return std::nullopt;
-  const std::string& text = *read;
+  const std::optional<std::string> text = ReadFileToRewrite(path, kWholeFile);
+  return text ? std::optional(ParseUserRegistry(*text)) : std::nullopt;
+}
+
+UserRegistry ParseUserRegistry(const std::string& text) {
   const std::size_t end = WholeNamesEnd(text);
   const std::size_t names_end = std::min(text.find('\0'), end);
 

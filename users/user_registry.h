@@ -11,11 +11,9 @@
 #include <vector>
 
 #include "base/session.h"
+#include "users/user_files.h"
 
 namespace velnor {
-
-// In the start-up folder: a name a line, no line end behind the last.
-inline constexpr std::string_view kRegistryFile = "users.ASC";
 
 // The list may not grow past this many bytes.
 inline constexpr std::size_t kRegistryLimit = 1000;
@@ -27,9 +25,12 @@ struct UserRegistry {
   bool operator==(const UserRegistry&) const = default;
 };
 
-// Reads the list. Lines may end with CR LF, LF or CR. What follows a NUL among the names is not
-// read. Empty lines, names longer than kUserNameLimit and names that IsFolderName refuses are left
-// out. A missing file gives no names. Returns nothing if the file cannot be read.
+// What the bytes of such a list say. Lines may end with CR LF, LF or CR. What follows a NUL among
+// the names is not read. Empty lines, names longer than kUserNameLimit and names that IsFolderName
+// refuses are left out.
+UserRegistry ParseUserRegistry(const std::string& text);
+
+// Reads the list from its file. A missing one gives no names. Returns nothing if it cannot be read.
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.

@@ -58,9 +58,10 @@ int IndexOf(const Form& form, std::string_view name) {
 
 }  // namespace
 
-UsersDialog::UsersDialog(SessionState& session, MainWindow& window, MessageBoxes& message_boxes,
-                         std::function<void()> on_removed)
+UsersDialog::UsersDialog(SessionState& session, SafetyCopies& copies, MainWindow& window,
+                         MessageBoxes& message_boxes, std::function<void()> on_removed)
     : session_(session),
+      copies_(copies),
       window_(window),
       message_boxes_(message_boxes),
       on_removed_(std::move(on_removed)) {}
@@ -97,6 +98,7 @@ void UsersDialog::Add(Form& form) {
   const std::string name = form.ReadText(kName, kTypedLimit);
   if (!Accept(form, name)) return;
   form.AddItem(kUsers, name);
+  copies_.MakeBefore("add user", name);
   CreateUserFiles(session_, name);
   form.SetText(kName, "");
 }
@@ -148,6 +150,7 @@ void UsersDialog::Remove(Form& form) {
     return;
   }
   if (entry) form.RemoveItem(kUsers, IndexOf(form, *entry));
+  copies_.MakeBefore("remove user", name);
   DeleteUserFiles(session_, name);
   form.SetText(kName, "");
 

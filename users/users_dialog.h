@@ -12,6 +12,7 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "res/ids.h"
+#include "users/safety_copies.h"
 #include "users/user_registry.h"
 
 namespace velnor {
@@ -21,8 +22,8 @@ inline constexpr int kUsersResource = ID_USERS_DIALOG;
 class UsersDialog final : public Dialog {
  public:
   // `on_removed` greys the menu when the user who is logged in was removed.
-  UsersDialog(SessionState& session, MainWindow& window, MessageBoxes& message_boxes,
-              std::function<void()> on_removed);
+  UsersDialog(SessionState& session, SafetyCopies& copies, MainWindow& window,
+              MessageBoxes& message_boxes, std::function<void()> on_removed);
 
   void OnOpen(Form& form) override;
   void OnCommand(Form& form, int id, int notification) override;
@@ -38,6 +39,7 @@ class UsersDialog final : public Dialog {
   void Complain(std::string_view text);
 
   SessionState& session_;
+  SafetyCopies& copies_;
   MainWindow& window_;
   MessageBoxes& message_boxes_;
   std::function<void()> on_removed_;

@@ -2,6 +2,8 @@
 
 #include <commdlg.h>
 #include <memory>
+#include <objbase.h>
+#include <shlobj.h>
 #include <type_traits>
 
 #include "shell/win32/wide_path.h"
@@ -16,8 +18,6 @@ struct LibraryCloser {
 };
 using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 
-using OpenFileDialog = BOOL(WINAPI*)(OPENFILENAMEW*);
-
 std::wstring Wide(std::string_view text) {
   const auto size = static_cast<int>(text.size());
   std::wstring wide(text.size(), L'\0');
@@ -26,14 +26,23 @@ std::wstring Wide(std::string_view text) {
   return wide;
 }
 
+// The libraries are loaded here and not with the program, which would start the later for them.
+HMODULE LoadSystemLibrary(const char* name) {
+  return LoadLibraryExA(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+}
+
+template <typename Function>
+Function FindFunction(HMODULE library, const char* name) {
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
 }  // namespace
 
-// The library is loaded here and not with the program, which would start the later for it.
 std::optional<std::string> PickFile(HWND owner, const FileKind& kind) {
-  const Library library(LoadLibraryExA("comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
+  const Library library(LoadSystemLibrary("comdlg32.dll"));
   if (!library) return std::nullopt;
-  const auto open_file_dialog = reinterpret_cast<OpenFileDialog>(
-      reinterpret_cast<void*>(GetProcAddress(library.get(), "GetOpenFileNameW")));
+  const auto open_file_dialog =
+      FindFunction<decltype(&GetOpenFileNameW)>(library.get(), "GetOpenFileNameW");
   if (open_file_dialog == nullptr) return std::nullopt;
 
   std::wstring filter = Wide(kind.name);
@@ -47,6 +56,28 @@ std::optional<std::string> PickFile(HWND owner, const FileKind& kind) {
   question.nMaxFile = kPathLimit;
   question.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   if (open_file_dialog(&question) == FALSE) return std::nullopt;
+  path.resize(path.find(L'\0'));
+  return NarrowPath(path);
+}
+
+// The library of the shell stays: what the dialog has started may go on in the background.
+std::optional<std::string> PickFolder(HWND owner, std::string_view title) {
+  const HMODULE shell = LoadSystemLibrary("shell32.dll");
+  const Library memory(LoadSystemLibrary("ole32.dll"));
+  if (shell == nullptr || !memory) return std::nullopt;
+  const auto browse = FindFunction<decltype(&SHBrowseForFolderW)>(shell, "SHBrowseForFolderW");
+  const auto path_of = FindFunction<decltype(&SHGetPathFromIDListW)>(shell, "SHGetPathFromIDListW");
+  const auto free_memory = FindFunction<decltype(&CoTaskMemFree)>(memory.get(), "CoTaskMemFree");
+  if (browse == nullptr || path_of == nullptr || free_memory == nullptr) return std::nullopt;
+
+  const std::wstring wide_title = Wide(title);
+  BROWSEINFOW question = {};
+  question.hwndOwner = owner;
+  question.lpszTitle = wide_title.c_str();
+  question.ulFlags = BIF_RETURNONLYFSDIRS;
+  const std::unique_ptr<ITEMIDLIST, decltype(free_memory)> chosen(browse(&question), free_memory);
+  std::wstring path(MAX_PATH, L'\0');
+  if (!chosen || path_of(chosen.get(), path.data()) == FALSE) return std::nullopt;
   path.resize(path.find(L'\0'));
   return NarrowPath(path);
 }

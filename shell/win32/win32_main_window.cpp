@@ -292,12 +292,21 @@ void Win32MainWindow::RunDialog(int resource_id, Dialog& dialog) {
   RunModalDialog(instance_, window_, resource_id, dialog);
 }
 
+std::optional<std::string> Win32MainWindow::ChooseFile(const FileKind& kind) {
+  return Choose([&kind](HWND owner) { return PickFile(owner, kind); });
+}
+
+std::optional<std::string> Win32MainWindow::ChooseFolder(std::string_view title) {
+  return Choose([title](HWND owner) { return PickFolder(owner, title); });
+}
+
 // The dialog waits like a box of its own; the window behind it has to as well, or the program could
 // be left while the person is choosing.
-std::optional<std::string> Win32MainWindow::ChooseFile(const FileKind& kind) {
+std::optional<std::string> Win32MainWindow::Choose(
+    const std::function<std::optional<std::string>(HWND owner)>& pick) {
   const HWND active = GetActiveWindow();
   EnableWindow(window_, FALSE);
-  std::optional<std::string> path = PickFile(active != nullptr ? active : window_, kind);
+  std::optional<std::string> path = pick(active != nullptr ? active : window_);
   EnableWindow(window_, TRUE);
   return path;
 }

@@ -49,6 +49,7 @@ class Win32MainWindow final : public MainWindow {
   void CloseSessionDialogs() override;
   void RunDialog(int resource_id, Dialog& dialog) override;
   std::optional<std::string> ChooseFile(const FileKind& kind) override;
+  std::optional<std::string> ChooseFolder(std::string_view title) override;
   bool OpenGuideFile(std::string_view name) override;
   void OpenHelp(std::string_view file_name) override;
   [[nodiscard]] bool OpenInBrowser(const std::string& path) override;
@@ -61,6 +62,8 @@ class Win32MainWindow final : public MainWindow {
   void OnPaint();
   void OnAccessibility();
   bool TakeFirst(MSG& message);
+  std::optional<std::string> Choose(
+      const std::function<std::optional<std::string>(HWND owner)>& pick);
   bool DrawInMemory(HDC picture, const Painting& painting);
   void OnActivate(bool active, WPARAM wparam, LPARAM lparam);
   void FocusIfShown(HWND control) const;

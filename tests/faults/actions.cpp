@@ -262,8 +262,8 @@ void LookAtTheScreen(Scene& scene) { scene.Repaint(); }
 }  // namespace
 
 std::span<const Action> Actions() {
-  using Files = std::vector<std::string_view>;
-  static const Files kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC", "Ann/wykoda.txt"};
+  using Names = std::vector<std::string_view>;
+  static const Names kDay = {"Ann/bilans.ASC", "Ann/z1.ASC", "Ann/z2.ASC", "Ann/wykoda.txt"};
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};

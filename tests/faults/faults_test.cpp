@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <set>
@@ -16,11 +17,10 @@
 #include "tests/faults/actions.h"
 #include "tests/faults/file_faults.h"
 #include "tests/faults/scene.h"
+#include "users/backup.h"
 
 namespace velnor {
 namespace {
-
-using Files = std::map<std::string, std::string>;
 
 // What an action comes to when nothing goes wrong.
 struct Outcome {
@@ -123,6 +123,27 @@ void ExpectOneOf(const std::vector<Files>& states, const Snapshot& now) {
   EXPECT_TRUE(now.temporaries.empty()) << testing::PrintToString(now.temporaries);
 }
 
+// Older copies are as they were. Every new one that has its name is whole: it holds what the folder
+// held before one of the deeds, or the folder of one person of it.
+void ExpectWholeCopies(const Outcome& outcome, const Snapshot& now) {
+  for (const auto& [name, copy] : outcome.before.copies) {
+    EXPECT_TRUE(now.copies.contains(name) && now.copies.at(name) == copy) << name;
+  }
+  for (const auto& [name, copy] : now.copies) {
+    if (outcome.before.copies.contains(name)) continue;
+    const bool is_whole = std::ranges::any_of(outcome.states, [&](const Files& state) {
+      Files copied;
+      std::ranges::copy_if(state, std::inserter(copied, copied.end()), [&](const auto& file) {
+        return copy.contains("users.ASC") || file.first.starts_with(copy.begin()->first);
+      });
+      Files without_words = copy;
+      without_words.erase(std::string(kAboutFile));
+      return without_words == copied;
+    });
+    EXPECT_TRUE(is_whole) << name << ": " << testing::PrintToString(copy);
+  }
+}
+
 // That doing it once more has come to what it should, file by file: a file in which it had been
 // done has it twice.
 void ExpectDoneAgain(const Action& action, const Outcome& outcome, const Snapshot& then,
@@ -168,6 +189,7 @@ void Fail(const Action& action, const Outcome& outcome, std::size_t at, Fault fa
   Snapshot then = scene.Look();
   if (Lasts(fault)) then.temporaries.clear();  // clearing up has failed too
   ExpectOneOf(WithoutSomeDeeds(outcome.states), then);
+  ExpectWholeCopies(outcome, then);
   ExpectTheRightWords(action, outcome, then, said);
   Do(action, scene);
   ExpectDoneAgain(action, outcome, then, scene.Look(), outcome.twice, outcome.once);
@@ -196,6 +218,7 @@ void Crash(const Action& action, const Outcome& outcome, std::size_t at, Fault f
   scene.Restart();
   const Snapshot then = scene.Look();
   ExpectOneOf(outcome.states, then);
+  ExpectWholeCopies(outcome, then);
   BeginAnew(action, scene);
   Do(action, scene);
   ExpectDoneAgain(action, outcome, then, scene.Look(), outcome.anew_after, outcome.anew_instead);

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "base/text_file.h"
+#include "users/backup.h"
 
 namespace velnor {
 namespace {
@@ -28,6 +31,21 @@ constexpr Scene::StartFile kFilesOfAPerson[] = {
     {"zapot.ASC", "1\r\n2000\r\n2500\r\n60\r\n80\r\n50\r\n70\r\n200\r\n300\r\n"},
     {"erg.txt", "16.11.2026;250.;"},
 };
+
+// Below `folder`, which ends with a separator.
+Files FilesBelow(const std::string& folder) {
+  Files files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    const std::string name = entry.path().string().substr(folder.size());
+    if (entry.is_directory()) {
+      files[name] = "folder";
+      continue;
+    }
+    std::ifstream file(entry.path(), std::ios::binary);
+    files[name].assign(std::istreambuf_iterator<char>(file), {});
+  }
+  return files;
+}
 
 }  // namespace
 
@@ -86,10 +104,15 @@ void Scene::CountBmi(const std::string& weight) {
 
 Snapshot Scene::Look() const {
   Snapshot snapshot;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_.path())) {
-    const std::string name = entry.path().string().substr(folder_.path().size());
-    auto& kind = name.ends_with(".new") ? snapshot.temporaries : snapshot.files;
-    kind[name] = entry.is_directory() ? "folder" : folder_.Read(name);
+  for (const auto& [name, bytes] : FilesBelow(folder_.path())) {
+    if (name.starts_with(kCopiesFolder)) continue;
+    (name.ends_with(".new") ? snapshot.temporaries : snapshot.files)[name] = bytes;
+  }
+  const std::filesystem::path copies = folder_.path() + std::string(kCopiesFolder);
+  if (!std::filesystem::exists(copies)) return snapshot;
+  for (const auto& copy : std::filesystem::directory_iterator(copies)) {
+    if (copy.path().extension() == ".part") continue;
+    snapshot.copies[copy.path().filename()] = FilesBelow(copy.path().string() + '/');
   }
   return snapshot;
 }

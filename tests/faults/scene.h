@@ -13,11 +13,14 @@
 
 namespace velnor {
 
-// What stands in a folder: the bytes of every file by its path below it, and "folder" for every
-// folder. Temporary files are kept apart.
+// The bytes of every file by its path below a folder, and "folder" for every folder.
+using Files = std::map<std::string, std::string>;
+
+// What stands in a folder. Temporary files and copies of the data are kept apart.
 struct Snapshot {
-  std::map<std::string, std::string> files;
-  std::map<std::string, std::string> temporaries;
+  Files files;
+  Files temporaries;
+  std::map<std::string, Files> copies;  // the whole ones, by their names
 
   // The bytes; "(missing)" when there is no such file.
   const std::string& At(const std::string& path) const;

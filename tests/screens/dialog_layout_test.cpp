@@ -168,7 +168,7 @@ int LinesOfText(const Item& item) {
 
 TEST(DialogLayoutTest, ReadsEveryItem) {
   const std::map<int, Layout> layouts = ReadLayouts();
-  ASSERT_EQ(layouts.size(), 14U);
+  ASSERT_EQ(layouts.size(), 16U);
   EXPECT_EQ(layouts.at(10000).items.size(), 4U);
   EXPECT_EQ(layouts.at(10002).items.size(), 5U);
   EXPECT_EQ(layouts.at(10010).items.size(), 20U);

@@ -48,7 +48,7 @@ TEST(DialogTemplatesTest, ThereIsOneForEveryDialogAndAllBearTheTitle) {
     EXPECT_EQ(dialog.caption, "\"Velnor calorie counter\"") << number;
   }
   EXPECT_EQ(numbers, (std::set<int>{10000, 10001, 10002, 10003, 10004, 10005, 10006, 10007, 10009,
-                                    10010, 10011, 10012, 10020, 10023}));
+                                    10010, 10011, 10012, 10020, 10021, 10022, 10023}));
 }
 
 // What was counted is not to be changed in a record, the rest is the person's: the date of a report
@@ -77,6 +77,8 @@ TEST(DialogTemplatesTest, CountedFiguresAndTheDateOfARecipeCannotBeChanged) {
       {10011, {}},
       {10012, {{709, true}, {741, false}, {742, false}, {743, false}, {744, false}, {745, true}}},
       {10020, {{810, true}, {812, true}}},
+      {10021, {{801, true}}},
+      {10022, {{801, true}}},
       {10023, {{801, true}}},
   };
   for (const auto& [number, dialog] : ReadTemplates()) {

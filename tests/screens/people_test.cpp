@@ -181,7 +181,7 @@ TEST_F(PeopleTest, RemovalAsksAndTakesEverythingAway) {
   EXPECT_EQ(users_.ItemCount(700), 0);
   EXPECT_EQ(users_.Text(701), "");
   EXPECT_EQ(Registry(), "Ann");  // until OK
-  EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"kopie zapasowe", "users.ASC"}));
   users_.Press(1);
   EXPECT_EQ(Registry(), "");
 }
@@ -195,7 +195,7 @@ TEST_F(PeopleTest, TheQuestionIsAboutTheNameAndTheEntryItWasAskedFor) {
   boxes_.while_open = [this] { users_.Choose(700, "Cid"); };
   users_.Press(703);
   EXPECT_EQ(users_.Items(700), (Texts{"Cid"}));
-  EXPECT_EQ(folder_.Names(), (Texts{"Cid", "users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Cid", "kopie zapasowe", "users.ASC"}));
 }
 
 TEST_F(PeopleTest, AUserAddedBehindTheQuestionDoesNotLeaveTheListInsteadOfTheRemovedOne) {
@@ -209,7 +209,7 @@ TEST_F(PeopleTest, AUserAddedBehindTheQuestionDoesNotLeaveTheListInsteadOfTheRem
   };
   users_.Press(703);
   EXPECT_EQ(users_.Items(700), (Texts{"Ann", "Cid"}));
-  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "Cid", "users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "Cid", "kopie zapasowe", "users.ASC"}));
 }
 
 TEST_F(PeopleTest, NoRemovesNothing) {
@@ -230,7 +230,7 @@ TEST_F(PeopleTest, ATypedNameIsRemovedWithoutAListEntry) {
   users_.SetText(701, "Ann");
   users_.Press(703);
   EXPECT_EQ(users_.ItemCount(700), 1);
-  EXPECT_EQ(folder_.Names(), (Texts{"users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"kopie zapasowe", "users.ASC"}));
 }
 
 TEST_F(PeopleTest, ATypedNameThatLeavesTheFolderRemovesNothing) {

@@ -42,6 +42,10 @@ class FakeMainWindow final : public MainWindow {
     log.push_back("choose " + std::string(kind.patterns));
     return file_to_choose;
   }
+  std::optional<std::string> ChooseFolder(std::string_view title) override {
+    log.push_back("choose folder: " + std::string(title));
+    return folder_to_choose;
+  }
   bool OpenGuideFile(std::string_view name) override {
     log.push_back("guide " + std::string(name));
     return name == guide;
@@ -60,6 +64,7 @@ class FakeMainWindow final : public MainWindow {
   bool has_browser = true;
   std::vector<std::string> log;
   std::optional<std::string> file_to_choose;  // what the person will choose
+  std::optional<std::string> folder_to_choose;
   std::function<void()> on_paint_now;
   std::string guide;               // the file that can be opened as the guide
   std::map<int, bool> menu;        // command to whether it can be chosen

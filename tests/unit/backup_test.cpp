@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "base/session.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/tree.h"
 
 namespace velnor {
 namespace {
@@ -35,19 +34,6 @@ class BackupTest : public testing::Test {
     folder_.Write(name, bytes);
   }
 
-  // The files below a folder by their path in it.
-  static std::map<std::string, std::string> Tree(const std::string& folder) {
-    std::map<std::string, std::string> tree;
-    if (!fs::exists(folder)) return tree;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-      if (!entry.is_regular_file()) continue;
-      std::ifstream file(entry.path(), std::ios::binary);
-      tree[fs::relative(entry.path(), folder).string()] = {std::istreambuf_iterator<char>(file),
-                                                           {}};
-    }
-    return tree;
-  }
-
   std::vector<std::string> CopyNames() const {
     std::vector<std::string> names;
     if (!fs::exists(Copies())) return names;
@@ -65,11 +51,11 @@ TEST_F(BackupTest, ACopyHoldsTheListTheProductsAndEverybody) {
   Write("velnor.exe", "not data");
   Write("photos/cat.jpg", "not data");
   Write("Zoe/info.ASC", "not on the list");
-  std::map<std::string, std::string> expected = Tree(Base());
+  Tree expected = TreeBelow(Base());
   expected.erase("velnor.exe");
   expected.erase("photos/cat.jpg");
   ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
-  EXPECT_EQ(Tree(Copies() + "2026-11-21"), expected);
+  EXPECT_EQ(TreeBelow(Copies() + "2026-11-21"), expected);
   EXPECT_EQ(CopyNames(), std::vector<std::string>{"2026-11-21"});
 }
 
@@ -77,7 +63,7 @@ TEST_F(BackupTest, TheFirstCopyOfADayStays) {
   ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
   Write("Ann/waga.ASC", "changed since");
   ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-21"));
-  EXPECT_EQ(Tree(Copies() + "2026-11-21")["Ann/waga.ASC"], "record\r\n");
+  EXPECT_EQ(TreeBelow(Copies() + "2026-11-21")["Ann/waga.ASC"], "record\r\n");
 }
 
 TEST_F(BackupTest, SevenDaysAndTheFirstsOfTwelveMonthsAreKept) {
@@ -105,10 +91,10 @@ TEST_F(BackupTest, NothingElseInTheFolderIsTouched) {
   for (int day = 1; day <= 9; ++day) {
     ASSERT_TRUE(MakeDailyCopy(Base(), "2026-11-0" + std::to_string(day)));
   }
-  EXPECT_EQ(Tree(Copies())["2026-11-01x/users.ASC"], "mine");
-  EXPECT_EQ(Tree(Copies())["2026-02-30/users.ASC"], "no day");
-  EXPECT_EQ(Tree(Copies())["2020-01-01"], "a file");
-  EXPECT_EQ(Tree(Copies())["notes.part/x.txt"], "mine too");
+  EXPECT_EQ(TreeBelow(Copies())["2026-11-01x/users.ASC"], "mine");
+  EXPECT_EQ(TreeBelow(Copies())["2026-02-30/users.ASC"], "no day");
+  EXPECT_EQ(TreeBelow(Copies())["2020-01-01"], "a file");
+  EXPECT_EQ(TreeBelow(Copies())["notes.part/x.txt"], "mine too");
   EXPECT_FALSE(fs::exists(Copies() + "2026-11-02"));  // but for the copies themselves
 }
 
@@ -142,15 +128,15 @@ TEST_F(BackupTest, AFileThatCannotBeReadMakesNoCopy) {
 TEST_F(BackupTest, ACopiesFolderThatCannotBeMadeIsSaid) {
   Write("kopie zapasowe", "a file stands in its way");
   EXPECT_FALSE(MakeDailyCopy(Base(), "2026-11-21"));
-  EXPECT_EQ(Tree(Base())["kopie zapasowe"], "a file stands in its way");
+  EXPECT_EQ(TreeBelow(Base())["kopie zapasowe"], "a file stands in its way");
 }
 
 TEST_F(BackupTest, BeforeAPressOnePersonIsCopiedUnderTheMoment) {
   ASSERT_TRUE(MakeCopyBefore(Base(), {"2026-11-21", "13:05:09"}, "\"Clear raport\" of Ann", "Ann"));
-  EXPECT_EQ(Tree(Copies() + "2026-11-21 130509"),
-            (std::map<std::string, std::string>{{"Ann/info.ASC", "30\r\n170"},
-                                                {"Ann/waga.ASC", "record\r\n"},
-                                                {"opis.txt", "\"Clear raport\" of Ann"}}));
+  EXPECT_EQ(TreeBelow(Copies() + "2026-11-21 130509"),
+            (Tree{{"Ann/info.ASC", "30\r\n170"},
+                  {"Ann/waga.ASC", "record\r\n"},
+                  {"opis.txt", "\"Clear raport\" of Ann"}}));
 }
 
 TEST_F(BackupTest, TwentyCopiesOfPressesAreKeptBesideThoseOfDays) {
@@ -178,20 +164,21 @@ TEST_F(BackupTest, TheListSaysWhoIsInACopyAndHowLargeItIs) {
   EXPECT_EQ(copies[1].about, "");
   EXPECT_EQ(copies[1].people, "Ann, Bob");
   EXPECT_EQ(copies[1].size.files, 5U);
-  EXPECT_EQ(copies[1].size.bytes,
-            Tree(Base())["users.ASC"].size() + Tree(Base())["data.txt"].size() +
-                Tree(Base())["Ann/info.ASC"].size() + Tree(Base())["Ann/waga.ASC"].size());
+  EXPECT_EQ(copies[1].size.bytes, TreeBelow(Base())["users.ASC"].size() +
+                                      TreeBelow(Base())["data.txt"].size() +
+                                      TreeBelow(Base())["Ann/info.ASC"].size() +
+                                      TreeBelow(Base())["Ann/waga.ASC"].size());
 }
 
 TEST_F(BackupTest, ASecondCopyOfADayElsewhereGetsANumber) {
-  const std::string first = NewCopyPath(Base(), "2026-11-21");
-  EXPECT_EQ(first, Base() + "Velnor 2026-11-21");
-  ASSERT_TRUE(MakeCopy(Base(), first));
-  const std::string second = NewCopyPath(Base(), "2026-11-21");
-  EXPECT_EQ(second, Base() + "Velnor 2026-11-21 (2)");
-  ASSERT_TRUE(MakeCopy(Base(), second));
-  EXPECT_EQ(NewCopyPath(Base(), "2026-11-21"), Base() + "Velnor 2026-11-21 (3)");
-  EXPECT_FALSE(MakeCopy(Base(), first));  // what is there is never written over
+  for (const char* const name :
+       {"Velnor 2026-11-21", "Velnor 2026-11-21 (2)", "Velnor 2026-11-21 (3)"}) {
+    const std::optional<NewCopy> copy = MakeCopyIn(Base(), Base(), "2026-11-21");
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(copy->path, Base() + name);
+    EXPECT_TRUE(IsCopy(copy->path + kPathSeparator));
+  }
+  EXPECT_FALSE(MakeCopy(Base(), Base() + "Velnor 2026-11-21"));  // what is there stays
 }
 
 TEST_F(BackupTest, KnowsACopyFromOtherFolders) {
