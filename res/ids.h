@@ -59,7 +59,7 @@
 #define ID_PROFILE_LIFE_STYLE 707
 #define ID_PROFILE_OTHER 708
 
-#define ID_RECORD_DATE 709  // of every record
+#define ID_RECORD_DATE 709        // of every record
 #define ID_BODY_RECORD_OTHER 716  // of weight and WHR
 
 #define ID_WEIGHT_RECORD_DIALOG 10004
@@ -123,7 +123,7 @@
 #define ID_BACK_UP_DIALOG 10021
 
 #define ID_RESTORE_DIALOG 10022
-#define ID_COPIES 811
+#define ID_RESTORE_COPIES 811
 
 #define ID_IMPORT_DIALOG 10023
 #define ID_IMPORT_MAIN_CATEGORY 803

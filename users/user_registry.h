@@ -30,7 +30,7 @@ struct UserRegistry {
 // refuses are left out.
 UserRegistry ParseUserRegistry(const std::string& text);
 
-// The same of a file. A missing file gives no names. Returns nothing if the file cannot be read.
+// Reads the list from its file. A missing one gives no names. Returns nothing if it cannot be read.
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.
