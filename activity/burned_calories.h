@@ -30,9 +30,9 @@ struct Burned {
 Burned CountBurned(std::string_view activity, std::string_view minutes);
 
 // The burned energy of the logged-in user's day. The file is one line without a line end, the date
-// of the last change and the total: "7.3.2008;129.;". Read are at most 49 characters of it, 14 of
-// each field; what has no second field has a total of 0. A file that cannot be read counts as empty
-// and is not overwritten with what was added. What cannot be written is not reported.
+// of the last change and the total: "7.3.2008;129.;". At most 49 characters of it are read, 14 of
+// each field. A line without a second field has a total of 0. A file that cannot be read counts as
+// empty and is not overwritten. A failed write is not reported.
 class BurnedTotal {
  public:
   explicit BurnedTotal(const SessionState& session) : session_(session) {}
@@ -40,13 +40,13 @@ class BurnedTotal {
   // kcal, as last read or added to; 0 before. Reading the file is up to the screens.
   float kcal() const { return kcal_; }
 
-  // Takes the total from the file, whatever day it is of. Returns its text as it stands there,
-  // empty when there is none. A user without the file gets an empty one.
+  // Takes the total from the file, whatever day it is of. Returns its text as it stands there, or
+  // an empty text if there is none. A user without the file gets an empty one.
   std::string Refresh();
 
-  // The same; then a file of another day is emptied. The old total stays known until the file is
-  // read again. Days are told apart by the first six characters of their dates, so that the same
-  // day of another year is the same day.
+  // Takes the total from the file as Refresh does, and then empties a file of another day. The
+  // old total stays known until the file is read again. Days are told apart by the first six
+  // characters of their dates, so that the same day of another year is the same day.
   std::string RefreshForToday();
 
   // Adds `burned` kcal, decimal text, to the total in the file and dates the file today, and tells

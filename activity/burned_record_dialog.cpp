@@ -4,17 +4,18 @@
 #include <utility>
 
 #include "base/transaction.h"
+#include "res/ids.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kDate = 709;
-constexpr int kActivity = 741;
-constexpr int kMinutes = 742;
-constexpr int kCalories = 743;
-constexpr int kFat = 744;
-constexpr int kOther = 745;
+constexpr int kDate = ID_RECORD_DATE;
+constexpr int kActivity = ID_BURNED_RECORD_ACTIVITY;
+constexpr int kMinutes = ID_BURNED_RECORD_MINUTES;
+constexpr int kCalories = ID_BURNED_RECORD_CALORIES;
+constexpr int kFat = ID_BURNED_RECORD_FAT;
+constexpr int kOther = ID_BURNED_RECORD_OTHER;
 
 constexpr std::size_t kTextLimit = 26;
 

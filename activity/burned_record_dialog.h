@@ -8,10 +8,11 @@
 #include "activity/burned_record.h"
 #include "base/dialog.h"
 #include "base/session.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kBurnedRecordResource = 10012;
+inline constexpr int kBurnedRecordResource = ID_BURNED_RECORD_DIALOG;
 
 class BurnedRecordDialog final : public Dialog {
  public:

@@ -30,8 +30,8 @@ struct DailyRequirement {
 // Brings `requirement` up to date. Limits in force give its values, cut to whole numbers (and to
 // the range of int). Otherwise every rule of the table that fits the profile overwrites what was
 // there, in the table's order. When none fits, or the lower calories of the limits are exactly 4,
-// the values stay as they were, save that the upper calories become 0. An age that is no number
-// counts as 0. Source of the table: the program's own recommendations by age, sex and way of life.
+// the values stay as they were, but the upper calories become 0. An age that is no number counts as
+// 0. Source of the table: the program's own recommendations by age, sex and way of life.
 void UpdateRequirement(const UserProfile& profile, const PersonalLimits& limits,
                        DailyRequirement& requirement);
 

@@ -1,5 +1,5 @@
-// One change of a file or folder within a deed that changes several. A transaction makes it, and
-// whoever finds the note of a deed that was cut off makes it again.
+// One change of a file or folder within a deed that changes several. A transaction makes it. A
+// program that finds the note of a deed that was cut off makes it again.
 
 #ifndef VELNOR_BASE_CHANGE_H_
 #define VELNOR_BASE_CHANGE_H_
@@ -26,13 +26,14 @@ struct Change {
   bool operator==(const Change&) const = default;
 };
 
-// Makes a change below the folder, which ends with a separator; made already, it stays as it is. A
-// file that was to be appended to and has been changed by somebody else since is left alone, and so
-// is one whose new bytes are gone. False when the system could not.
-bool CarryOut(const std::string& folder, const Change& change);
+// Makes a change below the folder, which ends with a separator. A change that was made already
+// stays as it is. A file that was to be appended to and that another program has changed since is
+// left alone. So is a file whose new bytes are gone. Returns false if the system could not.
+[[nodiscard]] bool CarryOut(const std::string& folder, const Change& change);
 
-// Takes back a folder that was made or a text that was appended. False when the system could not.
-bool TakeBack(const std::string& folder, const Change& change);
+// Takes back a folder that was made or a text that was appended. Returns false if the system could
+// not.
+[[nodiscard]] bool TakeBack(const std::string& folder, const Change& change);
 
 // The path of a file of the folder by its path in a note.
 std::string PathOf(const std::string& folder, std::string_view noted);

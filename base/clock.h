@@ -21,7 +21,7 @@ class Clock {
   virtual Moment Now() const = 0;
 };
 
-// Stands at the beginning of a day: for who needs no time.
+// A clock that stands at the beginning of a day. Used where the time of day does not matter.
 class StoppedClock final : public Clock {
  public:
   Moment Now() const override { return {"2000-01-01", "00:00:00"}; }

@@ -119,8 +119,8 @@ struct Utf8Form {
 constexpr Utf8Form kUtf8Forms[] = {
     {0x80, 0x00, 0, 0x0}, {0xE0, 0xC0, 1, 0x80}, {0xF0, 0xE0, 2, 0x800}, {0xF8, 0xF0, 3, 0x10000}};
 
-// Takes the sequence at the start of `bytes`, which are not empty, off them. Nothing when it is not
-// sound; then one byte is taken.
+// Takes the sequence at the start of `bytes`, which are not empty, off them. Returns nothing if it
+// is not sound; then one byte is taken.
 std::optional<char32_t> TakeCodePoint(std::string_view& bytes) {
   constexpr char32_t kLastCodePoint = 0x10FFFF;
   const auto first = static_cast<unsigned char>(bytes.front());

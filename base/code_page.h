@@ -31,8 +31,9 @@ bool IsUtf8(std::string_view bytes);
 // part of sound UTF-8 gives "?".
 std::string FromUtf8(std::string_view utf8);
 
-// The same with text in units of two bytes, the lower one first unless `high_byte_first`. A pair
-// of units gives one "?"; a second half alone and a byte left over at the end give nothing.
+// UTF-16 text in the code page, with the same stand-ins. The lower byte of a unit comes first
+// unless `high_byte_first`. A pair of units gives one "?"; a second half alone and a byte left over
+// at the end give nothing.
 std::string FromUtf16(std::string_view bytes, bool high_byte_first);
 
 }  // namespace velnor

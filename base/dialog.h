@@ -5,12 +5,13 @@
 #define VELNOR_BASE_DIALOG_H_
 
 #include "base/form.h"
+#include "res/ids.h"
 
 namespace velnor {
 
 // The ids of a dialog's default button and of its cancel button; Enter and Escape send them too.
-inline constexpr int kOkButton = 1;
-inline constexpr int kCancelButton = 2;
+inline constexpr int kOkButton = ID_OK;
+inline constexpr int kCancelButton = ID_CANCEL;
 
 // The keys that a dialog may take before the platform does, wherever they mean something of their
 // own in it.
@@ -20,15 +21,16 @@ class Dialog {
  public:
   virtual ~Dialog() = default;
 
-  // Called once, when the controls exist and nothing is shown yet. Where it leaves the keyboard
-  // focus, the focus stays; otherwise the first control that takes it gets it.
+  // Called once, when the controls exist and nothing is shown yet. A control that it gives the
+  // keyboard focus keeps it. If it gives the focus to none, the first control that takes it gets
+  // it.
   virtual void OnOpen(Form& form) = 0;
 
   // Called for every notification of a control. Unknown ids are ignored.
   virtual void OnCommand(Form& form, int id, int notification) = 0;
 
-  // Called when a key is pressed in the control `id`. False when the platform is to do with it what
-  // it does everywhere: Enter presses the default button, arrows move within a list.
+  // Called when a key is pressed in the control `id`. Returns false if the platform is to do with
+  // it what it does everywhere: Enter presses the default button, arrows move within a list.
   virtual bool OnKey(Form& /*form*/, int /*id*/, Key /*key*/) { return false; }
 };
 

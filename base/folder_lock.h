@@ -1,5 +1,5 @@
-// The lock of the start-up folder: whoever reads, computes and writes holds it meanwhile, so that
-// two programs on one folder take turns. Held by base/transaction.
+// The lock of the start-up folder. A deed that reads, computes and writes holds it all the while,
+// so that two programs on one folder take turns. Held by base/transaction.
 
 #ifndef VELNOR_BASE_FOLDER_LOCK_H_
 #define VELNOR_BASE_FOLDER_LOCK_H_
@@ -22,8 +22,8 @@ class FolderLock {
   FolderLock& operator=(const FolderLock&) = delete;
   ~FolderLock();
 
-  // False when another one kept it for longer than the patience lasts, or the folder is missing or
-  // not to be written.
+  // Returns false if another one kept it for longer than the patience lasts, or the folder is
+  // missing or not to be written.
   bool held() const { return handle_.has_value(); }
 
  private:

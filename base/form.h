@@ -52,23 +52,23 @@ class Form {
   // List boxes and combo boxes. Sorted ones put an item at its alphabetical place, letters compared
   // without regard to case. None of these announces anything.
   virtual int ItemCount(int id) const = 0;
-  // Both fill the list in one step, which is drawn once however many texts there are. The first
-  // replaces what the list holds and takes the selection with it, the second leaves both.
+  // Both fill the list in one step, so that it is drawn once. FillItems replaces what the list
+  // holds and ends the selection. AddItems leaves both.
   virtual void FillItems(int id, std::span<const std::string_view> texts) = 0;
   virtual void AddItems(int id, std::span<const std::string_view> texts) = 0;
   void AddItem(int id, std::string_view text) { AddItems(id, {&text, 1}); }
   virtual void ClearItems(int id) = 0;  // takes the selection with it
-  // The text of an item, counted from 0; empty when there is no such item.
+  // Returns the text of an item, counted from 0, or an empty text if there is no such item.
   virtual std::string ItemText(int id, int index) const = 0;
-  // Selects an item, counted from 0. As nothing here does, this does not announce itself.
+  // Selects an item, counted from 0. Nothing is announced.
   virtual void SelectItem(int id, int index) = 0;
-  // The place of the selected item, counted from 0; nothing when no item is selected.
+  // Returns the place of the selected item, counted from 0, or nothing if no item is selected.
   virtual std::optional<int> SelectedItem(int id) const = 0;
-  // The text of the selected item; nothing when no item is selected.
+  // Returns the text of the selected item, or nothing if no item is selected.
   virtual std::optional<std::string> SelectedText(int id) const = 0;
-  // Takes the selected item off a list box; without a selection nothing happens.
+  // Takes the selected item off a list box. Does nothing without a selection.
   virtual void RemoveSelectedItem(int id) = 0;
-  // Takes an item, counted from 0, off a list box; where there is none nothing happens.
+  // Takes an item, counted from 0, off a list box. Does nothing if there is no such item.
   virtual void RemoveItem(int id, int index) = 0;
 
   virtual void Focus(int id) = 0;
@@ -77,7 +77,7 @@ class Form {
   // Makes the button the one that a dialog's Enter key presses.
   virtual void SetDefaultButton(int id) = 0;
 
-  // Scrolls a multi-line edit; at its first and its last line it stops.
+  // Scrolls a multi-line edit. Scrolling stops at the first and the last line.
   virtual void Scroll(int id, ScrollStep step) = 0;
 
   virtual void Show(int key) = 0;

@@ -25,7 +25,7 @@ class MainWindow {
 
   // Asks for a repaint of the whole client area, background included, when the program is idle.
   virtual void Invalidate() = 0;
-  // The same without asking for the background to be erased first.
+  // Asks for a repaint without having the background erased first.
   virtual void InvalidateWithoutErasing() = 0;
   // Repaints before returning.
   virtual void PaintNow() = 0;
@@ -40,7 +40,7 @@ class MainWindow {
   // leaves none that gets them.
   virtual void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
 
-  // The same for a dialog that works on the data of the user who is logged in.
+  // Opens a dialog that works on the data of the user who is logged in.
   virtual void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) = 0;
   // Closes the open ones among these as their cancel buttons do, also one that waits for the answer
   // to a box of its own, which goes with it.
@@ -57,15 +57,15 @@ class MainWindow {
   virtual std::optional<std::string> ChooseFolder(std::string_view title) = 0;
 
   // Opens a text file that lies beside the program or in the start-up folder for reading. Returns
-  // false when there is none of that name or nothing opens it.
+  // false if there is none of that name or nothing opens it.
   virtual bool OpenGuideFile(std::string_view name) = 0;
 
   // Asks the platform to open a help file of the start-up folder. What a platform without such a
   // file, or without a viewer for it, does is its own affair.
   virtual void OpenHelp(std::string_view file_name) = 0;
 
-  // Opens a page, a file with its whole path, in the person's browser and returns at once. False
-  // when the platform knows no browser or cannot start it.
+  // Opens a page, a file with its whole path, in the person's browser and returns at once. Returns
+  // false if the platform knows no browser or cannot start it.
   [[nodiscard]] virtual bool OpenInBrowser(const std::string& path) = 0;
 };
 

@@ -1,6 +1,6 @@
 // The note of a deed: the changes of files that belong together, written down before the first of
-// them is made. Written and carried out by base/transaction; whoever finds one in the start-up
-// folder carries it out first of all.
+// them is made. Written and carried out by base/transaction; a program that finds one in the
+// start-up folder carries it out first of all.
 
 #ifndef VELNOR_BASE_NOTE_H_
 #define VELNOR_BASE_NOTE_H_

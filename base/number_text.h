@@ -12,10 +12,10 @@ namespace velnor {
 
 // The number at the start of `text`, as C `atof` reads it in the "C" locale: leading white space is
 // skipped, then an optional sign, decimal digits with an optional point, and an optional exponent
-// are read; whatever follows is ignored. "12.5 g" gives 12.5, "263,7" gives 263.
-// Text that does not begin with a number, empty text included, gives 0. Hexadecimal digits and the
-// words "inf" and "nan" are not numbers here: nobody means these when typing a weight.
-// A magnitude beyond the range of double gives infinity, one too small for it gives 0, both signed.
+// are read; whatever follows is ignored. "12.5 g" gives 12.5, "263,7" gives 263. Text that does not
+// begin with a number, empty text included, gives 0. Hexadecimal digits and the words "inf" and
+// "nan" are not numbers here: a typed weight never means them. A magnitude beyond the range of
+// double gives infinity, one too small for it gives 0, both signed.
 double ParseNumber(std::string_view text);
 
 // The whole number at the start of `text`, as C `atoi` reads it: leading white space, an optional

@@ -9,11 +9,12 @@
 
 #include "base/form.h"
 #include "base/user_folder.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kPathField = 801;
-inline constexpr int kBrowseButton = 802;
+inline constexpr int kPathField = ID_PATH;
+inline constexpr int kBrowseButton = ID_BROWSE;
 
 inline constexpr std::size_t kPathLimit = 1000;  // characters
 

@@ -31,15 +31,14 @@ class Screen {
   virtual void Paint(Canvas& canvas) const = 0;
 
   // Called after every painting. The answer is said in a box, once, and the home screen follows.
-  // Nothing when the screen stays.
+  // Returns nothing if the screen stays.
   virtual std::optional<Message> TakeRefusal() { return std::nullopt; }
 
-  // Called for what a control says. Returns false, having done nothing, when that is no event of
-  // the screen.
+  // Called for what a control says. Returns false, and does nothing, if that is no event of the
+  // screen.
   virtual bool OnControl(int /*id*/, int /*notification*/) { return false; }
 
-  // Called for a turn of the wheel. Returns false, having done nothing, when it is not the
-  // screen's.
+  // Called for a turn of the wheel. Returns false, and does nothing, if it is not the screen's.
   virtual bool OnWheel(bool /*down*/) { return false; }
 };
 
@@ -51,7 +50,7 @@ struct ControlEvent {
   void (S::*run)();
 };
 
-// Runs the event. Returns false when the table has none for it.
+// Runs the event. Returns false if the table has none for it.
 template <typename S>
 bool RunEvent(S& screen, std::span<const ControlEvent<S>> events, int id, int notification) {
   const auto event = std::ranges::find_if(events, [=](const ControlEvent<S>& row) {

@@ -22,7 +22,7 @@ inline constexpr ScreenId kHomeScreen = 0;
 
 struct SessionState {
   ScreenId screen = kHomeScreen;
-  // Nothing while nobody is logged in. A name chosen in the login dialog counts as logged in before
+  // Empty while nobody is logged in. A name chosen in the login dialog counts as logged in before
   // its OK: the header shows it, and files written from then on are that user's.
   std::optional<UserFolder> user = {};
   std::string base_folder = {};         // the start-up directory with a separator at its end
@@ -31,7 +31,7 @@ struct SessionState {
 
   // The path of a file in the start-up directory itself.
   std::string BaseFile(std::string_view file_name) const;
-  // The path of a file of the user who is logged in; nothing when nobody is.
+  // Returns the path of a file of the user who is logged in, or nothing if nobody is.
   std::optional<std::string> UserFile(std::string_view file_name) const;
 };
 

@@ -83,7 +83,7 @@ bool WriteNewFile(const std::string& path, std::string_view bytes) {
   File file = Open(path, "wb");
   if (!file) return false;
   if (WriteAndClose(std::move(file), bytes)) return true;
-  RemoveFile(path);
+  PassOver(RemoveFile(path));
   return false;
 }
 
@@ -94,7 +94,7 @@ std::string TemporaryPath(const std::string& path) {
 
 void RemoveLeftovers(const std::string& folder) {
   for (const FolderEntry& entry : ListFolder(folder).value_or(std::vector<FolderEntry>{})) {
-    if (!entry.is_folder && IsTemporaryName(entry.name)) RemoveFile(folder + entry.name);
+    if (!entry.is_folder && IsTemporaryName(entry.name)) PassOver(RemoveFile(folder + entry.name));
   }
 }
 
@@ -103,7 +103,7 @@ bool ReplaceFile(const std::string& path, std::string_view bytes) {
   const std::string temporary = TemporaryPath(path);
   if (IsWriteProtected(path) || !WriteNewFile(temporary, bytes)) return false;
   if (ReplaceByRename(temporary, path)) return true;
-  RemoveFile(temporary);
+  PassOver(RemoveFile(temporary));
   return false;
 }
 

@@ -15,13 +15,14 @@ namespace velnor {
 // A limit that every file keeps.
 inline constexpr std::size_t kWholeFile = static_cast<std::size_t>(-1);
 
-// The first `limit` bytes of a file, as they stand on disk; a missing file is an empty one. Nothing
-// when there is something that cannot be read, or when the folder is missing, which may come back
-// with the file in it: who goes on to rewrite it would destroy it. `path` is in the machine's own
-// code page, here and below.
+// The first `limit` bytes of a file, as they stand on disk, for a reader that goes on to rewrite
+// it. A missing file is an empty one. Returns nothing if the file cannot be read or its folder is
+// missing: the folder may come back with the file in it, and a rewrite would destroy that. `path`
+// is in the machine's own code page, here and below.
 std::optional<std::string> ReadFileToRewrite(const std::string& path, std::size_t limit);
 
-// The same for who only reads: what cannot be read gives empty text too.
+// The first `limit` bytes of a file, for a reader that will not rewrite it. A file that is missing
+// or cannot be read gives an empty text.
 std::string ReadFile(const std::string& path, std::size_t limit);
 
 // An open file, which is closed with the object.
@@ -30,8 +31,8 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-// Writes the bytes where the file is, brings them to the disk and closes it. False when the system
-// could not.
+// Writes the bytes where the file is, brings them to the disk and closes it. Returns false if the
+// system could not.
 [[nodiscard]] bool WriteAndClose(File file, std::string_view bytes);
 
 // The last byte of a file; nothing when it is empty, missing or cannot be read.
@@ -42,23 +43,23 @@ bool FileExists(const std::string& path);
 
 // Gives the file the bytes of `bytes` and no others. It holds its old bytes or its new ones, never
 // anything between: they are written to a file beside it, which then takes its place. A
-// write-protected file is not replaced. False when the old ones remain.
+// write-protected file is not replaced. Returns false if the old ones remain.
 [[nodiscard]] bool ReplaceFile(const std::string& path, std::string_view bytes);
 
-// For a write whose failure nobody is told, on purpose.
+// Names a write whose failure is passed over on purpose: nobody is told.
 inline void PassOver(bool /*written*/) {}
 
-// Makes a file of these bytes, which are on the disk then. False, and no such file, when the system
-// could not.
+// Makes a file of these bytes and brings them to the disk. Returns false if the system could not;
+// then there is no such file.
 [[nodiscard]] bool WriteNewFile(const std::string& path, std::string_view bytes);
 
-// What a file is called that this process writes beside `path` to take its place. No other process
-// has that name.
+// The name of the file that this process writes beside `path` before it takes its place. No other
+// process uses that name.
 std::string TemporaryPath(const std::string& path);
 
 // Removes from the folder (its path with a separator at the end) what processes that ended in the
-// middle of a write have left there. Who calls it holds the lock of the start-up folder, so that
-// nobody is writing.
+// middle of a write have left there. The caller holds the lock of the start-up folder, so no other
+// program is writing.
 void RemoveLeftovers(const std::string& folder);
 
 // `text` with every line end, LF or CR LF, as CR LF.
@@ -73,9 +74,9 @@ class LineReader {
   LineReader(std::string_view text, std::size_t limit)
       : rest_(text), limit_(limit), has_nul_(text.find('\0') != std::string_view::npos) {}
 
-  // The next piece without its line end; nothing at the end of the text.
+  // Returns the next piece without its line end, or nothing at the end of the text.
   std::optional<std::string_view> Next();
-  // The same with all its bytes, NULs and what follows them included.
+  // Returns the next piece with all its bytes, NULs and what follows them included.
   std::optional<std::string_view> NextWhole();
   // What has not been read yet.
   std::string_view rest() const { return rest_; }

@@ -20,8 +20,8 @@ std::string NotePath(const std::string& folder) { return folder + std::string(kN
 // with it the files it names.
 std::string KeptAside(const std::string& note) { return note + ".obcy"; }
 
-// Gives the note of another version a name under which nobody takes it for ours. False when it has
-// kept its own.
+// Gives the note of another version a name under which nobody takes it for ours. Returns false if
+// it has kept its own.
 bool PutAside(const std::string& note) {
   constexpr int kMostKept = 99;
   std::string aside = KeptAside(note);
@@ -56,7 +56,7 @@ std::optional<bool> IsWhole(const std::string& folder, const Note& note) {
   return true;
 }
 
-// False when there is a note whose changes could not all be made.
+// Returns false if there is a note whose changes could not all be made.
 bool FinishNote(const std::string& folder) {
   const std::string path = NotePath(folder);
   if (!IsThere(path)) return true;
@@ -103,6 +103,8 @@ void Transaction::MakeFolder(const std::string& path) {
 void Transaction::RemoveFolder(const std::string& path) {
   if (IsThere(path)) Put(ChangeKind::kRemoveFolder, path);
 }
+
+void Transaction::CommitUnreported() { PassOver(Commit()); }
 
 bool Transaction::Commit() {
   const bool done = has_begun_ && !has_failed_ && Prepare() && MakeAll();
@@ -202,14 +204,14 @@ bool Transaction::MakeWrittenDown() const {
   const auto refused = std::ranges::find_if_not(changes_, carry_out);
   if (refused == changes_.end()) {
     // One that stays is carried out once more, which changes nothing.
-    RemoveFile(NotePath(folder_));
+    PassOver(RemoveFile(NotePath(folder_)));
     return true;
   }
   return !TakeBackUpTo(*refused);
 }
 
-// Makes it as though nothing had been begun, after `refused` has been refused. False when that
-// cannot be done any more: then the note stands.
+// Makes it as though nothing had been begun, after `refused` has been refused. Returns false if
+// that cannot be done any more: then the note stands.
 bool Transaction::TakeBackUpTo(const Change& refused) const {
   for (const Change& change : changes_) {
     const bool can_be_taken_back = change.kind <= ChangeKind::kAppend;
@@ -225,7 +227,7 @@ bool Transaction::TakeBackUpTo(const Change& refused) const {
 
 void Transaction::DropNewFiles() const {
   for (const Change& change : changes_) {
-    if (!change.beside.empty()) RemoveFile(PathOf(folder_, change.beside));
+    if (!change.beside.empty()) PassOver(RemoveFile(PathOf(folder_, change.beside)));
   }
 }
 

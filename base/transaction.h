@@ -44,8 +44,8 @@ class Transaction {
   Transaction& operator=(const Transaction&) = delete;
   ~Transaction();
 
-  // False when the lock was not to be had, or a deed before this one cannot be finished: nothing
-  // that is read now can be relied on, and the commit will fail.
+  // Returns false if the lock was not to be had, or a deed before this one cannot be finished:
+  // nothing that is read now can be relied on, and the commit will fail.
   bool has_begun() const { return has_begun_; }
 
   // Gives the file these bytes and no others. They are written beside it at once.
@@ -57,13 +57,14 @@ class Transaction {
   void Remove(const std::string& path);
   // Afterwards there is such a folder. Comes before the files in it.
   void MakeFolder(const std::string& path);
-  // Afterwards there is no such folder, unless there is something in it then that nobody removes.
+  // Afterwards there is no such folder, unless something is left in it.
   void RemoveFolder(const std::string& path);
 
-  // Makes the changes. False when nothing has changed. Once only; frees the lock.
+  // Makes the changes and frees the lock. Returns false if nothing has changed. Called at most
+  // once.
   [[nodiscard]] bool Commit();
-  // The same where nobody is told of a failure: the screens show the files as they are.
-  void CommitUnreported() { static_cast<void>(Commit()); }
+  // Makes the changes and passes a failure over: the screens show the files as they are.
+  void CommitUnreported();
 
  private:
   Change* Put(ChangeKind kind, const std::string& path);
@@ -84,11 +85,11 @@ class Transaction {
   std::vector<Change> changes_;
 };
 
-// Makes up for what a deed that was cut off has left to do. Costs one look when there is none.
+// Finishes what a deed that was cut off has left to do. Costs one look when there is none.
 void FinishWhatWasBegun(const std::string& folder);
 
-// The same when a program starts, which clears away as well what cut-off writes have left in the
-// folder and in the folders in it.
+// Does the same when a program starts. Also clears away what cut-off writes have left in the folder
+// and in the folders in it.
 void OpenDataFolder(const std::string& folder);
 
 }  // namespace velnor

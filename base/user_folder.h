@@ -30,8 +30,8 @@ bool IsDeviceName(std::string_view name);
 
 class UserFolder {
  public:
-  // The folder of the user `name` in `base_folder`, a path with a separator at its end. Nothing
-  // when IsFolderName says no. Whether there is such a folder on the disk is not asked.
+  // The folder of the user `name` in `base_folder`, a path with a separator at its end. Returns
+  // nothing if IsFolderName says no. Whether there is such a folder on the disk is not asked.
   static std::optional<UserFolder> In(const std::string& base_folder, const std::string& name);
 
   const std::string& name() const { return name_; }

@@ -23,8 +23,8 @@ struct BmiResult {
 // weight of 0 no number.
 float ComputeBmi(std::string_view weight, std::string_view height);
 
-// The class of a BMI for the person's sex, 1 (far too little) to 9 (beyond all scales). Nothing
-// when the sex is not known or `bmi` is no number: then the class stays what it was.
+// The class of a BMI for the person's sex, 1 (far too little) to 9 (beyond all scales). Returns
+// nothing if the sex is not known or `bmi` is no number: then the class stays what it was.
 std::optional<int> ClassifyBmi(float bmi, const UserProfile& profile);
 
 // Pixels from the origin of the scale to the marker of a BMI below 57.

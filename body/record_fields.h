@@ -8,11 +8,12 @@
 
 #include "base/form.h"
 #include "base/number_text.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kRecordDate = 709;
-inline constexpr int kRecordOther = 716;
+inline constexpr int kRecordDate = ID_RECORD_DATE;
+inline constexpr int kRecordOther = ID_BODY_RECORD_OTHER;
 
 // Characters of a date or a figure that count.
 inline constexpr std::size_t kRecordTextLimit = 49;

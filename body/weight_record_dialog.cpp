@@ -9,14 +9,15 @@
 #include "body/record_fields.h"
 #include "body/weight_record.h"
 #include "charts/chart_file.h"
+#include "res/ids.h"
 #include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kWeight = 710;
-constexpr int kBmi = 711;
+constexpr int kWeight = ID_WEIGHT_RECORD_WEIGHT;
+constexpr int kBmi = ID_WEIGHT_RECORD_BMI;
 
 constexpr std::size_t kOtherLimit = 127;
 

@@ -8,10 +8,11 @@
 #include "body/bmi.h"
 #include "body/weight_record.h"
 #include "body/weight_text.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kWeightRecordResource = 10004;
+inline constexpr int kWeightRecordResource = ID_WEIGHT_RECORD_DIALOG;
 
 class WeightRecordDialog final : public Dialog {
  public:

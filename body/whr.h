@@ -31,8 +31,8 @@ struct WhrResult {
 // of 0 gives infinity, and with a waist of 0 no number.
 float ComputeWhr(std::string_view waist, std::string_view hip);
 
-// The class of a ratio for the person's sex; women are never told that they are the norm. Nothing
-// when the sex is not known or `whr` is no number: then the class stays what it was.
+// The class of a ratio for the person's sex; women are never told that they are the norm. Returns
+// nothing if the sex is not known or `whr` is no number: then the class stays what it was.
 std::optional<int> ClassifyWhr(float whr, const UserProfile& profile);
 
 }  // namespace velnor

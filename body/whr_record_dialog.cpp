@@ -7,15 +7,16 @@
 #include "base/transaction.h"
 #include "body/record_fields.h"
 #include "body/whr_record.h"
+#include "res/ids.h"
 #include "users/history.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kWaist = 713;
-constexpr int kHip = 714;
-constexpr int kWhr = 715;
+constexpr int kWaist = ID_WHR_RECORD_WAIST;
+constexpr int kHip = ID_WHR_RECORD_HIP;
+constexpr int kWhr = ID_WHR_RECORD_WHR;
 
 constexpr std::size_t kOtherLimit = 99;
 

@@ -6,10 +6,11 @@
 #include "base/dialog.h"
 #include "base/session.h"
 #include "body/whr.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kWhrRecordResource = 10005;
+inline constexpr int kWhrRecordResource = ID_WHR_RECORD_DIALOG;
 
 class WhrRecordDialog final : public Dialog {
  public:

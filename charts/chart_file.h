@@ -1,6 +1,6 @@
 // The chart series: small text files with one line a day, the newest last. A line is a date and the
-// day's figures, each closed by a semicolon. Written by whoever records a day's figures, read by
-// the charts.
+// day's figures, each closed by a semicolon. Written by the records and by the day's balance, read
+// by the charts.
 
 #ifndef VELNOR_CHARTS_CHART_FILE_H_
 #define VELNOR_CHARTS_CHART_FILE_H_

@@ -14,14 +14,15 @@ namespace velnor {
 // and tabs blanks.
 std::string EscapedText(std::string_view text);
 
-// The same of at most `limit` characters of the text, with an ellipsis where it was cut.
+// At most `limit` characters of the text, made safe in the same way, with an ellipsis where it was
+// cut.
 std::string EscapedText(std::string_view text, std::size_t limit);
 
 // Rounded to `decimals`, the thousands parted by thin blanks, a true minus before what is below
 // zero: "2 140". From ten million on in powers of ten, "1e30".
 std::string NumberText(double value, int decimals = 0);
 
-// The same with a plus before what is above zero.
+// A number as above, with a plus before what is above zero.
 std::string SignedNumberText(double value, int decimals = 0);
 
 // "1 day", "12 days".

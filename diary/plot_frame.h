@@ -88,7 +88,7 @@ ThinnedValues ThinOut(std::span<const DayValue> values, const PlotShape& shape,
 
 // A small mark at the top of the field, for what lies beyond it.
 void DrawBeyond(SvgPath& path, double x, const PlotPanel& panel);
-// The same at its bottom.
+// A small mark at the bottom of the field, for what lies below it.
 void DrawBelow(SvgPath& path, double x, const PlotPanel& panel);
 
 // "Nothing ..." in the middle of the field.

@@ -39,8 +39,8 @@ std::string DrawSharePlot(const PlotInput& input, std::span<const DiaryDay> days
 std::string DrawWeightPlot(const PlotInput& input, std::span<const DayValue> weights,
                            std::span<const DayValue> trend, std::optional<double> height);
 
-// The axis of that plot: around the trend, and the weights near it. Nothing when none lies in the
-// range.
+// The axis of that plot: around the trend, and the weights near it. Returns nothing if none lies in
+// the range.
 std::optional<ValueAxis> WeightAxis(const PlotShape& shape, const DayRange& range,
                                     std::span<const DayValue> weights,
                                     std::span<const DayValue> trend);

@@ -16,10 +16,10 @@ namespace velnor {
 inline constexpr std::size_t kTrendPoints = 21;
 inline constexpr std::size_t kLeastTrendPoints = 5;
 
-// The trend on the days of the weights, which go by day, one each. Nothing when there are too few.
-// Locally weighted linear regression with tricube weights over the nearest points, the line found
-// anew three times with bisquare weights, which take what lies six times the median distance away
-// out of it. Source: W. S. Cleveland, "Robust Locally Weighted Regression and Smoothing
+// The trend on the days of the weights, which go by day, one each. Returns nothing if there are too
+// few. Locally weighted linear regression with tricube weights over the nearest points, the line
+// found anew three times with bisquare weights, which take what lies six times the median distance
+// away out of it. Source: W. S. Cleveland, "Robust Locally Weighted Regression and Smoothing
 // Scatterplots", Journal of the American Statistical Association 74 (1979), 829-836.
 std::vector<DayValue> WeightTrend(std::span<const DayValue> weights);
 

@@ -8,18 +8,19 @@
 #include "base/transaction.h"
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kMainCategory = 732;
-constexpr int kSubcategory = 733;
-constexpr int kName = 734;
-constexpr int kMass = 735;
-constexpr int kProtein = 736;
-constexpr int kFat = 737;
-constexpr int kCarbohydrate = 738;
-constexpr int kCalories = 740;
+constexpr int kMainCategory = ID_ADD_PRODUCT_MAIN_CATEGORY;
+constexpr int kSubcategory = ID_ADD_PRODUCT_SUBCATEGORY;
+constexpr int kName = ID_ADD_PRODUCT_NAME;
+constexpr int kMass = ID_ADD_PRODUCT_MASS;
+constexpr int kProtein = ID_ADD_PRODUCT_PROTEIN;
+constexpr int kFat = ID_ADD_PRODUCT_FAT;
+constexpr int kCarbohydrate = ID_ADD_PRODUCT_CARBOHYDRATE;
+constexpr int kCalories = ID_ADD_PRODUCT_CALORIES;
 
 constexpr std::size_t kNameLimit = 149;
 constexpr std::size_t kNumberLimit = 29;

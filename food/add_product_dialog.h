@@ -10,15 +10,16 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "food/food_table.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kAddProductResource = 10010;
+inline constexpr int kAddProductResource = ID_ADD_PRODUCT_DIALOG;
 
 class AddProductDialog final : public Dialog {
  public:
-  // Adds to the file of own products and reloads those of `food` from it; calls `on_changed` when
-  // they may be others than before.
+  // Adds to the file of own products and reloads those of `food` from it. Calls `on_changed` when
+  // they may have changed.
   AddProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes,
                    std::function<void()> on_changed);
 

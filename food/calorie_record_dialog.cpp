@@ -1,20 +1,21 @@
 #include "food/calorie_record_dialog.h"
 
 #include "base/transaction.h"
+#include "res/ids.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kDate = 709;
-constexpr int kProtein = 717;
-constexpr int kFat = 718;
-constexpr int kCarbohydrate = 719;
-constexpr int kWeight = 721;
-constexpr int kKcal = 722;
-constexpr int kOther = 723;
-constexpr int kCarbohydrateExchange = 746;
-constexpr int kProteinFatExchange = 747;
+constexpr int kDate = ID_RECORD_DATE;
+constexpr int kProtein = ID_CALORIE_RECORD_PROTEIN;
+constexpr int kFat = ID_CALORIE_RECORD_FAT;
+constexpr int kCarbohydrate = ID_CALORIE_RECORD_CARBOHYDRATE;
+constexpr int kWeight = ID_CALORIE_RECORD_WEIGHT;
+constexpr int kKcal = ID_CALORIE_RECORD_KCAL;
+constexpr int kOther = ID_CALORIE_RECORD_OTHER;
+constexpr int kCarbohydrateExchange = ID_CALORIE_RECORD_CARBOHYDRATE_EXCHANGE;
+constexpr int kProteinFatExchange = ID_CALORIE_RECORD_PROTEIN_FAT_EXCHANGE;
 
 constexpr std::size_t kTextLimit = 99;
 

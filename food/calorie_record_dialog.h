@@ -7,10 +7,11 @@
 #include "base/session.h"
 #include "food/calorie_record.h"
 #include "food/nutrition.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kCalorieRecordResource = 10006;
+inline constexpr int kCalorieRecordResource = ID_CALORIE_RECORD_DIALOG;
 
 // Characters of a total that the record takes.
 inline constexpr std::size_t kCalorieTotalLimit = 29;

@@ -48,14 +48,15 @@ class DayBalance {
 
   // Starts a new day when the balance is not of today, its first line compared over the length of
   // today's date: the balance then holds the date alone and the exchange files, where there are
-  // any, nothing. False when that is needed and cannot be done.
+  // any, nothing. Returns false if that is needed and cannot be done.
   [[nodiscard]] bool StartDayIfNew();
 
   // Makes the exchange files that are missing. One that cannot be made counts as 0 all the same.
   void MakeExchangeFiles();
 
   // The day's totals; nothing eaten yet gives zeros, and a line without a number counts as 0.
-  // Nothing when the files are of another day and cannot be started afresh, or cannot be read.
+  // Returns nothing if the files are of another day and cannot be started afresh, or cannot be
+  // read.
   std::optional<DayTotals> ReadTotals();
 
   // The energy in the balance as it stands there, whatever day it is of, in kcal: the second line.

@@ -35,9 +35,9 @@ class FoodListPanel {
   // refused with a message, but only after the line and the day's totals were written. A balance
   // that cannot be written is reported; what was not written is not on the list either.
   void Add(const std::string& product);
-  // The same with a product that was chosen by its row and not by its name. Its name may stand for
-  // another one, or for none, so what its line takes off again is what was added with it. False
-  // when it could not be written.
+  // Puts a product on the list that was chosen by its row and not by its name. Its name may stand
+  // for another one, or for none, so what its line takes off again is what was added with it.
+  // Returns false if it could not be written.
   [[nodiscard]] bool AddChosen(const WeighedFood& food);
   // Takes the selected food off the list and off the day. Without a selection nothing happens.
   void Remove();
@@ -47,7 +47,8 @@ class FoodListPanel {
   // Nothing has been eaten today: clears the day and empties the list.
   void ClearDay();
 
-  // Empties the list and puts `nothing` in its fields; the day stays as it is.
+  // Empties the list and puts `nothing` in its fields, those of the exchanges included: a login
+  // leaves nothing of the user before. The day stays as it is.
   void Empty(std::string_view nothing);
 
   // What the records of the list are made of: its totals as they are shown, each cut to `limit`
@@ -62,7 +63,7 @@ class FoodListPanel {
     DayTotals amounts;
   };
 
-  // What both have in common. False when the day keeps what it held.
+  // What both have in common. Returns false if the day keeps what it held.
   bool Put(const WeighedFood& food);
   DayTotals AmountsOf(const std::string& line, const ListedFood& listed) const;
   void Forget(const std::string& line);

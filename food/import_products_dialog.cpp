@@ -10,12 +10,13 @@
 #include "base/transaction.h"
 #include "food/product_rules.h"
 #include "food/user_product_file.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kMainCategory = 803;
-constexpr int kSubcategory = 804;
+constexpr int kMainCategory = ID_IMPORT_MAIN_CATEGORY;
+constexpr int kSubcategory = ID_IMPORT_SUBCATEGORY;
 
 // The category that is chosen when the dialog opens: the one for what belongs to no other.
 constexpr std::string_view kUsualMainCategory = "other";

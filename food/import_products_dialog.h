@@ -14,15 +14,16 @@
 #include "base/session.h"
 #include "food/food_table.h"
 #include "food/product_import.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kImportProductsResource = 10023;
+inline constexpr int kImportProductsResource = ID_IMPORT_DIALOG;
 
 class ImportProductsDialog final : public Dialog {
  public:
   // Adds to the file of own products and reloads those of `food` from it; calls `on_changed` when
-  // they may be others than before.
+  // they may have changed.
   ImportProductsDialog(FoodTable& food, const SessionState& session, MainWindow& window,
                        MessageBoxes& message_boxes, std::function<void()> on_changed);
 

@@ -62,7 +62,7 @@ inline constexpr std::string_view kBelowTrace = "<0.1";
 inline constexpr std::size_t kCounterWeightLimit = 7;
 // Characters of a chosen product's name that it keeps.
 inline constexpr std::size_t kCounterNameLimit = 99;
-// The same of the products overview.
+// Characters of a weight that the products overview weighs with.
 inline constexpr std::size_t kOverviewWeightLimit = 4;
 // Characters of a figure of the counter, its weight included, that goes on the food list.
 inline constexpr std::size_t kListedFigureLimit = 30;

@@ -47,8 +47,8 @@ class ProductPicker : public Screen {
   void OnSubcategoryChosen();
   // The user chose a product: shows its mass and its values per that mass, as the table has them.
   void OnProductChosen();
-  // The products are others than before: lists those of the chosen subcategory again. The selection
-  // stays while its product is there.
+  // Called when the products have changed: lists those of the chosen subcategory again. The
+  // selection stays while its product is there.
   void OnProductsChanged();
   // The weight has a new text, from the user or from the program: shows what it holds. Until a
   // product has been chosen there is nothing to weigh and nothing changes.
@@ -71,7 +71,9 @@ class ProductPicker : public Screen {
   const PickerControls& controls_;
   Form& form_;
   std::string chosen_name_;
-  std::optional<SelectedProduct> selected_;  // nothing until the first choice
+  // Copied, since the table of user products can be reloaded under it. Empty until the first
+  // choice.
+  std::optional<SelectedProduct> selected_;
 };
 
 }  // namespace velnor

@@ -35,7 +35,7 @@ std::vector<std::string_view> ListProducts(const FoodTable& food, Matching match
 
 // The product that `name` stands for: of several matching built-in rows the last; the user's
 // products are looked through, by the same rule of the last, only when no built-in row matches.
-// Null when nothing matches. The record lives as long as the tables are not reloaded.
+// Returns null if nothing matches. The record lives as long as the tables are not reloaded.
 const ProductRecord* FindProduct(const FoodTable& food, Matching matching, std::string_view name);
 
 // The product that a line of the food list names, by the same rules of the last and of the user's

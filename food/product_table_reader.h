@@ -52,7 +52,7 @@ class TableReader {
 
 // The bytes of a table as text of code page 1250. UTF-8 is known by its mark or by being sound,
 // text in units of two bytes by its mark; what is neither is taken for code page 1250 already.
-// Nothing when it holds a NUL: then it is no text.
+// Returns nothing if it holds a NUL: then it is no text.
 std::optional<std::string> TableText(std::string_view bytes);
 
 // `text` without blanks and control characters at its ends, one blank for every row of them within.

@@ -9,14 +9,15 @@
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "food/food_list.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kQuery = 810;
-constexpr int kMatches = 811;
-constexpr int kWeight = 812;
-constexpr int kFigures = 813;
+constexpr int kQuery = ID_QUICK_ADD_QUERY;
+constexpr int kMatches = ID_QUICK_ADD_MATCHES;
+constexpr int kWeight = ID_QUICK_ADD_WEIGHT;
+constexpr int kFigures = ID_QUICK_ADD_FIGURES;
 
 constexpr std::size_t kQueryLimit = 148;
 constexpr std::size_t kShownMatches = 100;  // nobody reads on; typing another letter is quicker

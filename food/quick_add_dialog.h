@@ -13,10 +13,11 @@
 #include "food/food_list_panel.h"
 #include "food/food_table.h"
 #include "food/quick_find.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kQuickAddResource = 10020;
+inline constexpr int kQuickAddResource = ID_QUICK_ADD_DIALOG;
 
 class QuickAddDialog final : public Dialog {
  public:

@@ -2,14 +2,15 @@
 
 #include "base/transaction.h"
 #include "food/recipe_record.h"
+#include "res/ids.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kDate = 709;
-constexpr int kName = 724;
-constexpr int kRecipe = 725;
+constexpr int kDate = ID_RECORD_DATE;
+constexpr int kName = ID_RECIPE_RECORD_NAME;
+constexpr int kRecipe = ID_RECIPE_RECORD_RECIPE;
 
 constexpr std::size_t kNameLimit = 99;
 constexpr std::size_t kRecipeLimit = 499;

@@ -9,10 +9,11 @@
 #include "base/dialog.h"
 #include "base/session.h"
 #include "food/food_list_panel.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kRecipeRecordResource = 10007;
+inline constexpr int kRecipeRecordResource = ID_RECIPE_RECORD_DIALOG;
 
 class RecipeRecordDialog final : public Dialog {
  public:

@@ -5,11 +5,12 @@
 
 #include "base/transaction.h"
 #include "food/user_product_file.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kNames = 739;
+constexpr int kNames = ID_REMOVE_PRODUCT_NAMES;
 
 }  // namespace
 

@@ -10,15 +10,16 @@
 #include "base/message_boxes.h"
 #include "base/session.h"
 #include "food/food_table.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kRemoveProductResource = 10011;
+inline constexpr int kRemoveProductResource = ID_REMOVE_PRODUCT_DIALOG;
 
 class RemoveProductDialog final : public Dialog {
  public:
   // Removes from the file of own products and reloads those of `food` from it; calls `on_changed`
-  // when they may be others than before.
+  // when they may have changed.
   RemoveProductDialog(FoodTable& food, const SessionState& session, MessageBoxes& message_boxes,
                       std::function<void()> on_changed);
 

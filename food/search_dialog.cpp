@@ -3,14 +3,15 @@
 #include <memory>
 
 #include "food/product_search.h"
+#include "res/ids.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kQuery = 728;
-constexpr int kResults = 729;
-constexpr int kFind = 730;
-constexpr int kReset = 731;
+constexpr int kQuery = ID_SEARCH_QUERY;
+constexpr int kResults = ID_SEARCH_RESULTS;
+constexpr int kFind = ID_SEARCH_FIND;
+constexpr int kReset = ID_SEARCH_RESET;
 
 constexpr std::size_t kQueryLimit = 148;
 constexpr std::string_view kNotFound = "-------- not found --------";

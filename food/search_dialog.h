@@ -6,10 +6,11 @@
 #include "base/dialog.h"
 #include "base/main_window.h"
 #include "food/food_table.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kSearchResource = 10009;
+inline constexpr int kSearchResource = ID_SEARCH_DIALOG;
 
 class SearchDialog final : public Dialog {
  public:

@@ -26,7 +26,7 @@ inline constexpr std::string_view kUsualProductMass = "100";
 [[nodiscard]] bool AddUserProduct(Transaction& deed, const std::string& path,
                                   const ProductRecord& product);
 
-// The same with many products.
+// Adds many products.
 [[nodiscard]] bool AddUserProducts(Transaction& deed, const std::string& path,
                                    std::span<const ProductRecord> products);
 

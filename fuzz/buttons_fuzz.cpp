@@ -19,8 +19,8 @@
 
 #include "base/number_text.h"
 #include "fuzz/day.h"
-#include "fuzz/dialog_templates.h"
 #include "shell/screens.h"
+#include "tests/support/resource_script.h"
 
 namespace velnor {
 namespace {

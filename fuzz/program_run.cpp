@@ -9,8 +9,8 @@
 #include <iterator>
 #include <utility>
 
-#include "fuzz/dialog_templates.h"
 #include "shell/screens.h"
+#include "tests/support/resource_script.h"
 #include "users/backup.h"
 #include "users/user_files.h"
 
@@ -182,9 +182,7 @@ void ProgramRun::OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) {
   OpenedDialog& opened = dialogs_.emplace_back();
   opened.resource_id = resource_id;
   opened.dialog = std::move(dialog);
-  for (const DialogControl& control : DialogTemplate(resource_id)) {
-    opened.form.AddControl(control.id, control.control_class, control.style);
-  }
+  opened.form.AddDialogControls(resource_id);
   opened.form.SetListener([&opened](int id, int notification) {
     opened.dialog->OnCommand(opened.form, id, notification);
   });

@@ -43,8 +43,8 @@ bool IsCut(const std::string& path, std::string_view shown);
 
 // Gives the file the bytes of `text` and no others. `shown` is what LoadReport gave when the person
 // began to work on the text; bytes of the file that are not in it were never seen by anybody, and
-// are added to the file at RestPath first. A missing file is not made. False when the file stays as
-// it was.
+// are added to the file at RestPath first. A missing file is not made. Returns false if the file
+// stays as it was.
 [[nodiscard]] bool SaveReport(const std::string& folder, const std::string& path,
                               std::string_view shown, std::string_view text);
 

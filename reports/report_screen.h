@@ -47,7 +47,8 @@ class ReportScreen final : public Screen {
     std::string bytes;
   };
 
-  // The path of the current screen's report; nothing when it shows none, or nobody is logged in.
+  // Returns the path of the current screen's report, or nothing if the screen shows none or nobody
+  // is logged in.
   std::optional<std::string> Path() const;
   void ShowFile();
 

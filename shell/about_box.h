@@ -4,10 +4,11 @@
 #define VELNOR_SHELL_ABOUT_BOX_H_
 
 #include "base/dialog.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kAboutBoxResource = 10000;
+inline constexpr int kAboutBoxResource = ID_ABOUT_DIALOG;
 
 class AboutBox final : public Dialog {
  public:

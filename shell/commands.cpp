@@ -8,6 +8,7 @@
 #include "base/text_file.h"
 #include "food/add_product_dialog.h"
 #include "food/remove_product_dialog.h"
+#include "res/ids.h"
 #include "shell/about_box.h"
 #include "shell/parts.h"
 #include "shell/screens.h"
@@ -89,25 +90,26 @@ void SayNotAvailable(Parts& parts) {
   parts.message_boxes.Show({.text = "Function not yet available"});
 }
 
+// A command that is a bare number has no menu item.
 // clang-format off
 constexpr CommandRow kCommands[] = {
-    {200, OpenLogin,         kWithoutUser},
-    {201, LogOut,            kWithUser},
-    {202, OpenUsers,         kAlways},
-    {203, Exit,              kAlways},
-    {204, OpenProfile,       kWithUser},
-    {211, SayNotAvailable,   kWithUser},
-    {220, SayNotAvailable,   kWithUser},
-    {222, SayNotAvailable,   kWithUser},
-    {223, SayNotAvailable,   kWithUser},
-    {230, SayNotAvailable,   kWithUser},
-    {234, SayNotAvailable,   kWithUser},
-    {235, SayNotAvailable,   kWithUser},
-    {237, SayNotAvailable,   kWithUserAndAfterLogout},
-    {240, OpenAddProduct,    kAlwaysButKeptAtLogout},
-    {241, OpenRemoveProduct, kAlwaysButKeptAtLogout},
-    {250, OpenAboutBox,      kAlways},
-    {251, OpenHelp,          kAlways},
+    {ID_LOGIN,          OpenLogin,         kWithoutUser},
+    {ID_LOGOUT,         LogOut,            kWithUser},
+    {ID_USERS,          OpenUsers,         kAlways},
+    {ID_EXIT,           Exit,              kAlways},
+    {ID_PROFILE,        OpenProfile,       kWithUser},
+    {211,               SayNotAvailable,   kWithUser},
+    {220,               SayNotAvailable,   kWithUser},
+    {222,               SayNotAvailable,   kWithUser},
+    {223,               SayNotAvailable,   kWithUser},
+    {230,               SayNotAvailable,   kWithUser},
+    {234,               SayNotAvailable,   kWithUser},
+    {235,               SayNotAvailable,   kWithUser},
+    {237,               SayNotAvailable,   kWithUserAndAfterLogout},
+    {ID_ADD_PRODUCT,    OpenAddProduct,    kAlwaysButKeptAtLogout},
+    {ID_REMOVE_PRODUCT, OpenRemoveProduct, kAlwaysButKeptAtLogout},
+    {ID_ABOUT,          OpenAboutBox,      kAlways},
+    {251,               OpenHelp,          kAlways},
 };
 // clang-format on
 

@@ -21,12 +21,12 @@ struct CommandRow {
 // All of them, by id.
 std::span<const CommandRow> Commands();
 
-// Carries out the menu command `id`, be it that of a screen or one of these. Returns false, having
-// done nothing, when `id` is no command: such an id belongs to a control.
 // Logs the user out without a word: greys the menu, closes the dialogs that work on the user's data
 // and shows the home screen.
 void EndSession(Parts& parts);
 
+// Carries out the menu command `id`, be it that of a screen or one of these. Returns false, and
+// does nothing, if `id` is no command: such an id belongs to a control.
 bool RunCommand(Parts& parts, int id);
 
 }  // namespace velnor

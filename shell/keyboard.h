@@ -24,7 +24,7 @@ struct KeyPress {
   bool operator==(const KeyPress&) const = default;
 };
 
-// Carries out the command of the key. Returns false, having done nothing, when it has none.
+// Carries out the command of the key. Returns false, and does nothing, if it has none.
 bool RunKey(Parts& parts, const KeyPress& press);
 
 // The button that Enter presses while the control `focused_key` of `screen` has the focus: in a

@@ -32,8 +32,8 @@ std::span<const OwnMenuItem> OwnMenuItems();
 
 bool CanBeChosen(const OwnMenuItem& item, const SessionState& session);
 
-// Carries out the item `id` if it can be chosen. Returns false, having done nothing, when no item
-// has that id.
+// Carries out the item `id` if it can be chosen. Returns false, and does nothing, if no item has
+// that id.
 bool RunOwnMenuItem(Parts& parts, int id, std::span<const OwnMenuItem> items = OwnMenuItems());
 
 }  // namespace velnor

@@ -31,7 +31,7 @@ class Program {
   void OnCommand(int id, int notification);
 
   // The wheel was turned; `movement` is negative when it was turned towards the user. Returns false
-  // when the current screen does nothing with it.
+  // if the current screen does nothing with it.
   bool OnMouseWheel(std::int32_t movement);
 
   // The three steps of every repaint. First all controls are hidden, the current screen is brought

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/form.h"
+#include "res/ids.h"
 #include "shell/parts.h"
 
 namespace velnor {
@@ -29,26 +30,26 @@ constexpr ScreenRow Row(ScreenId id, int command, std::string_view background,
 // clang-format off
 constexpr ScreenRow kScreens[] = {
     Row<&Parts::home_screen>(0, 0, "TLO", kNeverTouched),
-    Row<&Parts::bmi_screen>(1, 221, "BMI2", kWithUser),
-    Row<&Parts::whr_screen>(2, 224, "WHR", kWithUser),
-    Row<&Parts::overview_screen>(3, 236, "POS", kAlways),
-    Row<&Parts::report_screen>(4, 210, "BCG", kWithUser),   // weight
-    Row<&Parts::report_screen>(5, 214, "BCG", kWithUser),   // WHR
-    Row<&Parts::requirement_screen>(6, 232, "ZAAP", kWithUser),
-    Row<&Parts::counter_screen>(7, 231, "POS", kWithUser),
-    Row<&Parts::report_screen>(8, 212, "BCG", kWithUser),   // eaten calories
-    Row<&Parts::report_screen>(9, 213, "BCG", kWithUser),   // recipes
-    Row<&Parts::burned_screen>(10, 238, "SPAL", kWithUserButKeptAtRemoval),
-    Row<&Parts::report_screen>(11, 215, "BCG", kWithUser),  // burned calories
-    Row<&Parts::balance_screen>(12, 233, "BILANS", kWithUser),
-    Row<&Parts::weight_chart>(13, 270, "BCG", kWithUser),
-    Row<&Parts::calorie_chart>(14, 271, "BCG", kWithUser),
-    Row<&Parts::protein_chart>(15, 272, "BCG", kWithUser),
-    Row<&Parts::fat_chart>(16, 273, "BCG", kWithUser),
-    Row<&Parts::carbohydrate_chart>(17, 274, "BCG", kWithUser),
-    Row<&Parts::bmr_screen>(18, 225, "SPAL", kWithUser),
-    Row<&Parts::energy_screen>(19, 239, "SPAL", kWithUser),
-    Row<&Parts::exchanges_screen>(20, 252, "POS", kNeverTouched),
+    Row<&Parts::bmi_screen>(1, ID_BMI, "BMI2", kWithUser),
+    Row<&Parts::whr_screen>(2, ID_WHR, "WHR", kWithUser),
+    Row<&Parts::overview_screen>(3, 236, "POS", kAlways),  // no menu item
+    Row<&Parts::report_screen>(4, ID_WEIGHT_REPORT, "BCG", kWithUser),
+    Row<&Parts::report_screen>(5, ID_WHR_REPORT, "BCG", kWithUser),
+    Row<&Parts::requirement_screen>(6, ID_REQUIREMENT, "ZAAP", kWithUser),
+    Row<&Parts::counter_screen>(7, ID_COUNTER, "POS", kWithUser),
+    Row<&Parts::report_screen>(8, ID_CALORIE_REPORT, "BCG", kWithUser),
+    Row<&Parts::report_screen>(9, ID_RECIPE_REPORT, "BCG", kWithUser),
+    Row<&Parts::burned_screen>(10, ID_BURNED, "SPAL", kWithUserButKeptAtRemoval),
+    Row<&Parts::report_screen>(11, ID_BURNED_REPORT, "BCG", kWithUser),
+    Row<&Parts::balance_screen>(12, ID_BALANCE, "BILANS", kWithUser),
+    Row<&Parts::weight_chart>(13, ID_WEIGHT_CHART, "BCG", kWithUser),
+    Row<&Parts::calorie_chart>(14, ID_CALORIE_CHART, "BCG", kWithUser),
+    Row<&Parts::protein_chart>(15, ID_PROTEIN_CHART, "BCG", kWithUser),
+    Row<&Parts::fat_chart>(16, ID_FAT_CHART, "BCG", kWithUser),
+    Row<&Parts::carbohydrate_chart>(17, ID_CARBOHYDRATE_CHART, "BCG", kWithUser),
+    Row<&Parts::bmr_screen>(18, ID_BMR, "SPAL", kWithUser),
+    Row<&Parts::energy_screen>(19, ID_ENERGY, "SPAL", kWithUser),
+    Row<&Parts::exchanges_screen>(20, ID_EXCHANGES, "POS", kNeverTouched),
 };
 // clang-format on
 

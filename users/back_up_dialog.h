@@ -9,10 +9,11 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "res/ids.h"
 
 namespace velnor {
 
-inline constexpr int kBackUpResource = 10021;
+inline constexpr int kBackUpResource = ID_BACK_UP_DIALOG;
 
 class BackUpDialog final : public Dialog {
  public:

@@ -31,7 +31,8 @@ inline constexpr std::size_t kKeptPresses = 20;
 // Every folder below is named with a separator at its end, every copy without one.
 
 // The people whose folders lie in `folder`: those of the list of users there who have a folder, and
-// everybody else whose folder holds a file of a user. In the order of the list, the others behind it.
+// everybody else whose folder holds a file of a user. In the order of the list, the others behind
+// it.
 std::vector<std::string> PeopleIn(const std::string& folder);
 
 // Whether there is something that can be restored: a list of users, or a person's folder.
@@ -50,11 +51,11 @@ std::optional<CopySize> MakeCopy(const std::string& from, const std::string& to,
 
 // The copy of the day `date` ("2026-11-21") in `folder`, unless it is there; older ones that are no
 // longer kept go, but for a day that is not the newest: the clock has been set back then, and may
-// be wrong. False when there is none of that day now.
+// be wrong. Returns false if there is none of that day now.
 [[nodiscard]] bool MakeDailyCopy(const std::string& folder, std::string_view date);
 
 // The copy before a press, under the moment, or under a second after it that no copy has: of one
-// person, or of everything when `person` is empty. False when it could not be made.
+// person, or of everything when `person` is empty. Returns false if it could not be made.
 [[nodiscard]] bool MakeCopyBefore(const std::string& folder, const Moment& moment,
                                   std::string_view about, std::string_view person);
 

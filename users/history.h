@@ -23,9 +23,9 @@ namespace velnor {
                               const UserFolder& user);
 
 // Makes the history of a user who has none from the two chart series: the totals of each day as
-// kImported, the weights of each day as kWeight, without a time. Lines whose date is none are left
-// out. Does nothing when there is a history, or when the folder is missing. What could not be read
-// or written is tried again at the next login.
+// kImported, the weights of each day as kWeight, without a time. Lines without a sound date are
+// left out. Does nothing when there is a history, or when the folder is missing. What could not be
+// read or written is tried again at the next login.
 void BeginHistory(const SessionState& session, const UserFolder& user);
 
 }  // namespace velnor

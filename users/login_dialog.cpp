@@ -3,13 +3,14 @@
 #include <string>
 #include <utility>
 
+#include "res/ids.h"
 #include "users/user_files.h"
 #include "users/user_registry.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kUsers = 700;
+constexpr int kUsers = ID_USER_LIST;
 
 constexpr std::string_view kNobody =
     "CAUTION!!\nThere`s no users\nIf You want to log in\nfirst have add at least 1 user.";

@@ -10,11 +10,12 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "res/ids.h"
 #include "users/profile.h"
 
 namespace velnor {
 
-inline constexpr int kLoginResource = 10002;
+inline constexpr int kLoginResource = ID_LOGIN_DIALOG;
 
 class LoginDialog final : public Dialog {
  public:

@@ -37,7 +37,8 @@ using ProfileLines = std::array<std::string, 5>;
 // At most 99 characters of each line; missing lines, and those of a missing file, are empty.
 ProfileLines ReadProfileLines(const std::string& path);
 
-// The same for who goes on to rewrite them. Nothing when there is a file that cannot be read.
+// The lines of a profile that is read in order to be rewritten. Returns nothing if there is a file
+// that cannot be read.
 std::optional<ProfileLines> ReadProfileLinesToRewrite(const std::string& path);
 
 // The profile that a login takes from the lines: age and height only when they read as a whole

@@ -8,16 +8,17 @@
 
 #include "base/file_calls.h"
 #include "base/transaction.h"
+#include "res/ids.h"
 #include "users/user_files.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kAge = 704;
-constexpr int kHeight = 705;
-constexpr int kSex = 706;
-constexpr int kLifeStyle = 707;
-constexpr int kOther = 708;
+constexpr int kAge = ID_PROFILE_AGE;
+constexpr int kHeight = ID_PROFILE_HEIGHT;
+constexpr int kSex = ID_PROFILE_SEX;
+constexpr int kLifeStyle = ID_PROFILE_LIFE_STYLE;
+constexpr int kOther = ID_PROFILE_OTHER;
 
 // What a line of the profile file can hold beside its end.
 constexpr std::size_t kTypedLimit = 98;

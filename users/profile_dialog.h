@@ -7,11 +7,12 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "res/ids.h"
 #include "users/profile.h"
 
 namespace velnor {
 
-inline constexpr int kProfileResource = 10003;
+inline constexpr int kProfileResource = ID_PROFILE_DIALOG;
 
 class ProfileDialog final : public Dialog {
  public:

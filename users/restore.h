@@ -25,8 +25,8 @@ struct ReadCopy {
   std::vector<Person> people;
 };
 
-// Reads the copy in `folder` (a path with a separator at its end). Nothing when there is none, or
-// when something of it cannot be read.
+// Reads the copy in `folder` (a path with a separator at its end). Returns nothing if there is
+// none, or when something of it cannot be read.
 std::optional<ReadCopy> ReadCopyIn(const std::string& folder);
 
 // The names of its people, parted by ", ".

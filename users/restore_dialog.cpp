@@ -9,12 +9,13 @@
 #include <utility>
 
 #include "base/path_field.h"
+#include "res/ids.h"
 #include "users/restore.h"
 
 namespace velnor {
 namespace {
 
-constexpr int kCopies = 811;
+constexpr int kCopies = ID_RESTORE_COPIES;
 
 constexpr std::string_view kTitleOfChoice = "Choose the folder that is a copy";
 constexpr std::string_view kNoPath = "Choose a copy first.";

@@ -12,11 +12,12 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "res/ids.h"
 #include "users/backup.h"
 
 namespace velnor {
 
-inline constexpr int kRestoreResource = 10022;
+inline constexpr int kRestoreResource = ID_RESTORE_DIALOG;
 
 class RestoreDialog final : public Dialog {
  public:

@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view kForbiddenSigns = " +-\\./:|`;\"~><!@#$%^&*()\t";
 
 // The path of a file of the user called `user`, as it was typed: without a name, of the start-up
-// folder itself. Nothing when it would lie anywhere else.
+// folder itself. Returns nothing if it would lie anywhere else.
 std::optional<std::string> TypedPath(const SessionState& session, const std::string& user,
                                      std::string_view file_name) {
   if (user.empty()) return session.BaseFile(file_name);

@@ -25,12 +25,12 @@ struct UserRegistry {
   bool operator==(const UserRegistry&) const = default;
 };
 
-// What the bytes of such a list say. Lines may end with CR LF, LF or CR; what follows a NUL among
-// the names is not read. Empty lines, names longer than kUserNameLimit and names that are no plain
-// folder name are left out.
+// What the bytes of such a list say. Lines may end with CR LF, LF or CR. What follows a NUL among
+// the names is not read. Empty lines, names longer than kUserNameLimit and names that IsFolderName
+// refuses are left out.
 UserRegistry ParseUserRegistry(const std::string& text);
 
-// The same of a file. A missing one gives no names; nothing comes of one that cannot be read.
+// Reads the list from its file. A missing one gives no names. Returns nothing if it cannot be read.
 std::optional<UserRegistry> ReadUserRegistry(const std::string& path);
 
 // What the file of such a list holds.
@@ -41,7 +41,7 @@ std::size_t CountForbiddenSigns(std::string_view name);
 
 // The name that keeps `name` from being a user's: one of `registered`, or that of a folder that is
 // there, which differs from it in small and capital letters alone. The platform knows one folder
-// for both. Nothing when there is none, or when `name` itself is registered.
+// for both. Returns nothing if there is none, or when `name` itself is registered.
 std::optional<std::string> FindNamesake(const SessionState& session,
                                         const std::vector<std::string>& registered,
                                         const std::string& name);

@@ -6,6 +6,7 @@
 
 #include "base/file_calls.h"
 #include "base/transaction.h"
+#include "res/ids.h"
 #include "users/profile.h"
 #include "users/user_files.h"
 #include "users/user_registry.h"
@@ -13,10 +14,10 @@
 namespace velnor {
 namespace {
 
-constexpr int kUsers = 700;
-constexpr int kName = 701;
-constexpr int kAdd = 702;
-constexpr int kRemove = 703;
+constexpr int kUsers = ID_USER_LIST;
+constexpr int kName = ID_USERS_NAME;
+constexpr int kAdd = ID_USERS_ADD;
+constexpr int kRemove = ID_USERS_REMOVE;
 
 constexpr std::size_t kTypedLimit = 127;
 

@@ -11,12 +11,13 @@
 #include "base/main_window.h"
 #include "base/message_boxes.h"
 #include "base/session.h"
+#include "res/ids.h"
 #include "users/safety_copies.h"
 #include "users/user_registry.h"
 
 namespace velnor {
 
-inline constexpr int kUsersResource = 10001;
+inline constexpr int kUsersResource = ID_USERS_DIALOG;
 
 class UsersDialog final : public Dialog {
  public:

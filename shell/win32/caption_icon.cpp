@@ -2,10 +2,12 @@
 
 #include <initializer_list>
 
+#include "res/ids.h"
+
 namespace velnor {
 namespace {
 
-constexpr int kIconResource = 900;
+constexpr int kIconResource = ID_ICON;
 
 // What the platform calls the class of dialogs and message boxes.
 constexpr char kDialogClass[] = "#32770";

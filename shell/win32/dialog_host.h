@@ -22,7 +22,8 @@ HWND OpenModelessDialog(HINSTANCE instance, HWND owner, int resource_id,
                         std::unique_ptr<Dialog> dialog, std::function<void(HWND)> on_close);
 
 // Offers a message that was taken off the queue to the dialog `window`, if it is a key that dialogs
-// may take and was pressed in one of its controls. False when the dialog leaves it to the platform.
+// may take and was pressed in one of its controls. Returns false if the dialog leaves it to the
+// platform.
 bool OfferKey(HWND window, const MSG& message);
 
 }  // namespace velnor

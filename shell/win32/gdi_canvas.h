@@ -23,7 +23,7 @@ class MemoryPicture {
   ~MemoryPicture() { Discard(); }
 
   // The context, for a picture of that size in pixels with whatever was drawn into it before. It
-  // serves until the next call with another size. Null when the system refuses one.
+  // serves until the next call with another size. Returns null if the system refuses one.
   HDC Begin(int width, int height);
 
  private:

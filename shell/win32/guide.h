@@ -11,7 +11,7 @@ namespace velnor {
 
 // Opens the file of that name beside the program or, when there is none, in the current folder:
 // with the program that the person has for such files, else with the platform's editor. Returns
-// false when neither folder has it or nothing opens it.
+// false if neither folder has it or nothing opens it.
 bool OpenGuideFile(HWND owner, std::string_view name);
 
 }  // namespace velnor

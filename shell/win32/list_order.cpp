@@ -8,7 +8,7 @@ namespace {
 
 // Bytes that compare as the box compares the texts they were made from: words, letters without
 // regard to case. They cost one look at each text, comparing the texts some twelve looks at each of
-// some thousand. Empty when the platform gives none.
+// some thousand. Returns an empty text if the platform gives none.
 std::string SortKey(LCID locale, const std::string& text) {
   const int length = static_cast<int>(text.size()) + 1;
   std::wstring wide(text.size() + 1, L'\0');

@@ -15,8 +15,8 @@
 namespace velnor {
 
 // `texts`, in code page 1250 and up to a NUL each, in the order in which the empty list box `list`
-// would show them. Nothing when only the box knows: where it compares two different texts as equal,
-// as "Figs" and "figs", or where the platform gives no answer.
+// would show them. Returns nothing if only the box knows: where it compares two different texts as
+// equal, as "Figs" and "figs", or where the platform gives no answer.
 std::optional<std::vector<std::string>> OrderOfList(HWND list,
                                                     std::span<const std::string_view> texts);
 

@@ -25,7 +25,7 @@ class ScreenKeys {
   // The frame follows the focus as long as that is moved by keys; a click takes it off. `picture`
   // is what the window shows around its controls.
   void UpdateFrame(HDC picture);
-  // The same after the window has been painted, over the frame or beside it.
+  // Draws the frame again after the window has been painted.
   void RedrawFrame(HDC picture);
 
  private:

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "res/ids.h"
 #include "shell/win32/accessible_names.h"
 #include "shell/win32/caption_icon.h"
 #include "shell/win32/dialog_host.h"
@@ -15,7 +16,7 @@
 namespace velnor {
 namespace {
 
-constexpr int kMenuResource = 501;
+constexpr int kMenuResource = ID_MENU;
 
 constexpr int kWidth = 800;
 constexpr int kHeight = 600;

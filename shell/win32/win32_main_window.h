@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -33,7 +34,7 @@ class Win32MainWindow final : public MainWindow {
   Win32MainWindow(const Win32MainWindow&) = delete;
   Win32MainWindow& operator=(const Win32MainWindow&) = delete;
 
-  // Registers the class, creates the window and shows it. False when the system refuses.
+  // Registers the class, creates the window and shows it. Returns false if the system refuses.
   bool Open(int show_command);
 
   // Serves messages until the window is closed; returns the exit code.

@@ -51,11 +51,14 @@ constexpr ListMessages kComboBoxMessages = {CB_GETCOUNT,     CB_INITSTORAGE, CB_
                                             CB_RESETCONTENT, CB_GETCURSEL,   CB_SETCURSEL,
                                             CB_GETLBTEXTLEN, CB_GETLBTEXT};
 
-const ListMessages& MessagesOf(HWND control) {
+bool IsComboBox(HWND control) {
   char name[16] = {};
   GetClassNameA(control, name, sizeof name);
-  return lstrcmpiA(name, ClassName(ControlClass::kComboBox)) == 0 ? kComboBoxMessages
-                                                                  : kListBoxMessages;
+  return lstrcmpiA(name, ClassName(ControlClass::kComboBox)) == 0;
+}
+
+const ListMessages& MessagesOf(HWND control) {
+  return IsComboBox(control) ? kComboBoxMessages : kListBoxMessages;
 }
 
 // A list box that scrolls sideways has to be told how wide its widest item is.
@@ -83,8 +86,6 @@ bool IsShown(HWND control) { return (GetWindowLongA(control, GWL_STYLE) & WS_VIS
 
 LPARAM ToParameter(const char* text) { return reinterpret_cast<LPARAM>(text); }
 
-bool IsListBox(HWND list) { return &MessagesOf(list) == &kListBoxMessages; }
-
 bool IsSorted(HWND list_box) { return (GetWindowLongA(list_box, GWL_STYLE) & LBS_SORT) != 0; }
 
 // Adds texts to a list, which keeps a sorted list's order. An empty sorted list box gets them in
@@ -96,7 +97,7 @@ void Append(HWND list, std::span<const std::string_view> texts) {
   for (const std::string_view text : texts) bytes += text.size() + 1;
   SendMessageA(list, messages.reserve, texts.size(), static_cast<LPARAM>(bytes));
   std::optional<std::vector<std::string>> ordered;
-  if (IsListBox(list) && IsSorted(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
+  if (!IsComboBox(list) && IsSorted(list) && SendMessageA(list, LB_GETCOUNT, 0, 0) == 0) {
     ordered = OrderOfList(list, texts);
   }
   if (ordered) {
@@ -116,7 +117,7 @@ void Append(HWND list, std::span<const std::string_view> texts) {
 // box, which drops down later.
 class DrawnAtTheEnd {
  public:
-  explicit DrawnAtTheEnd(HWND list) : list_(IsListBox(list) && IsShown(list) ? list : nullptr) {
+  explicit DrawnAtTheEnd(HWND list) : list_(!IsComboBox(list) && IsShown(list) ? list : nullptr) {
     if (list_ != nullptr) SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
   }
   DrawnAtTheEnd(const DrawnAtTheEnd&) = delete;

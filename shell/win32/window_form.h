@@ -72,7 +72,7 @@ class MainForm final : public WindowForm {
  public:
   explicit MainForm(HWND main_window) : WindowForm(main_window) {}
 
-  // Creates all controls of the table, hidden. False when the system refuses one.
+  // Creates all controls of the table, hidden. Returns false if the system refuses one.
   bool CreateControls(HINSTANCE instance, GdiResources& resources);
 
   void Show(int key) override;

@@ -46,14 +46,14 @@ void CountBmi(Scene& scene) {
 // --- people
 
 void AddUser(Scene& scene) {
-  FakeForm& users = scene.Dialog(202, {.edits = {701}, .lists = {700}});
+  FakeForm& users = scene.Dialog(202);
   users.SetText(701, "Eve");
   users.Press(702);
   users.Press(1);
 }
 
 void RemoveUser(Scene& scene) {
-  FakeForm& users = scene.Dialog(202, {.edits = {701}, .lists = {700}});
+  FakeForm& users = scene.Dialog(202);
   ChooseIfThere(users, 700, "Bob");
   users.SetText(701, "Bob");
   users.Press(703);
@@ -71,7 +71,7 @@ void ArrangeBobBeforeHisFirstMeal(Scene& scene) {
 }
 
 void ChangeHeight(Scene& scene) {
-  FakeForm& profile = scene.Dialog(204, {.edits = {704, 705}, .combos = {706, 707, 708}});
+  FakeForm& profile = scene.Dialog(204);
   profile.SetText(705, "171");
   profile.Press(1);
 }
@@ -128,8 +128,7 @@ void OpenWeightChart(Scene& scene) { scene.Open(270); }
 // --- products
 
 void AddProduct(Scene& scene) {
-  FakeForm& dialog =
-      scene.Dialog(240, {.edits = {734, 735, 736, 737, 738, 740}, .combos = {732, 733}});
+  FakeForm& dialog = scene.Dialog(240);
   dialog.Choose(732, "fruits");
   dialog.Choose(733, "fresh");
   dialog.SetText(734, "Apple Pie");
@@ -141,7 +140,7 @@ void AddProduct(Scene& scene) {
 }
 
 void RemoveProduct(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(241, {.lists = {739}});
+  FakeForm& dialog = scene.Dialog(241);
   ChooseIfThere(dialog, 739, "old eel");
   dialog.Press(1);
 }
@@ -149,7 +148,7 @@ void RemoveProduct(Scene& scene) {
 // --- records
 
 void SaveWeight(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(103, {.edits = {709, 710, 711, 716}});
+  FakeForm& dialog = scene.Dialog(103);
   dialog.Press(1);
 }
 
@@ -174,17 +173,17 @@ void CountWhr(Scene& scene) {
 }
 
 void SaveWhr(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(107, {.edits = {709, 713, 714, 715, 716}});
+  FakeForm& dialog = scene.Dialog(107);
   dialog.Press(1);
 }
 
 void SaveCalories(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(145, {.edits = {709, 721, 722, 717, 718, 719, 746, 747, 723}});
+  FakeForm& dialog = scene.Dialog(145);
   dialog.Press(1);
 }
 
 void SaveRecipe(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(147, {.edits = {709, 724, 725}});
+  FakeForm& dialog = scene.Dialog(147);
   dialog.SetText(724, "strawberries");
   dialog.SetText(725, "Eat it.\r\nSlowly.");
   dialog.Press(1);
@@ -223,7 +222,7 @@ void AddBurned(Scene& scene) { scene.form().Press(177); }
 void ClearBurned(Scene& scene) { scene.form().Press(179); }
 
 void SaveBurned(Scene& scene) {
-  FakeForm& dialog = scene.Dialog(162, {.edits = {709, 741, 742, 743, 744, 745}});
+  FakeForm& dialog = scene.Dialog(162);
   dialog.Press(1);
 }
 

@@ -83,25 +83,13 @@ void Scene::Restart() {
   Start();
 }
 
-FakeForm& Scene::Dialog(int command, const Controls& controls) {
-  window_.opened.reset();
-  dialog_ = FakeForm();
-  for (const int id : controls.edits) {
-    dialog_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-  }
-  for (const int id : controls.lists) {
-    dialog_.AddControl(id, ControlClass::kListBox,
-                       control_style::kListNotify | control_style::kSortedList);
-  }
-  for (const int id : controls.combos) {
-    dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-  }
+FakeForm& Scene::Dialog(int command) {
   OpenDialog(command, dialog_);
   return dialog_;
 }
 
 void Scene::LogIn(const std::string& name) {
-  FakeForm& login = Dialog(200, {.lists = {700}});
+  FakeForm& login = Dialog(200);
   if (std::ranges::find(login.Items(700), name) == login.Items(700).end()) return;
   login.Choose(700, name);
   login.Press(1);

@@ -47,13 +47,8 @@ class Scene : public DayTest {
   // Ends the program, if one runs, and starts one.
   void Restart();
 
-  // The dialog that `command` opens, with controls of these ids.
-  struct Controls {
-    std::vector<int> edits = {};
-    std::vector<int> lists = {};
-    std::vector<int> combos = {};
-  };
-  FakeForm& Dialog(int command, const Controls& controls);
+  // The dialog that `command` opens, or the button of this id on the current screen.
+  FakeForm& Dialog(int command);
 
   void LogIn(const std::string& name);
   // The person opens the screen, types and presses.

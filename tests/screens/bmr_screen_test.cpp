@@ -173,10 +173,8 @@ TEST_F(BmrScreenTest, ItsWeightIsOfferedForTheReportToo) {
   CountWith("70", kCountBmi);
   Open(kOpenBmr);
   CountWith("71.5", kCount);
+  Open(kOpenBmi);
   FakeForm dialog;
-  for (const int id : {709, 710, 711, 716}) {
-    dialog.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-  }
   OpenDialog(103, dialog);
   EXPECT_EQ(dialog.Text(710), "71.5");
   EXPECT_EQ(dialog.Text(711), "22.8571");

@@ -22,16 +22,7 @@ class BodyTest : public ProgramTest {
  protected:
   // Registers `name` alone with this profile (age, height, sex, life style, other) and logs in.
   void LogIn(const std::string& profile, const std::string& name = "Ann") {
-    std::filesystem::create_directory(folder_.path() + name);
-    folder_.Write("users.ASC", name);
-    folder_.Write(name + "/info.ASC", profile);
-    if (!program_) Start();
-    FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
-    OpenDialog(200, login);
-    login.Choose(700, name);
-    login.Press(1);
-    boxes_.TakeTexts();
+    ProgramTest::LogIn(name, profile);
   }
 
   void LogOut() {

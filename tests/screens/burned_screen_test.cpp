@@ -43,7 +43,6 @@ class BurnedScreenTest : public ProgramTest {
   }
   void LogIn(const std::string& name) {
     FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
     OpenDialog(200, login);
     login.Choose(700, name);
     login.Press(1);
@@ -255,12 +254,7 @@ TEST_F(BurnedScreenTest, TheTotalIsTheUsersTheCountStays) {
 
 class BurnedRecordDialogTest : public BurnedScreenTest {
  protected:
-  BurnedRecordDialogTest() {
-    for (const int id : {709, 741, 742, 743, 744, 745}) {
-      dialog_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-    }
-    Open(kOpenActivities);
-  }
+  BurnedRecordDialogTest() { Open(kOpenActivities); }
   Texts Entries() const {
     return {dialog_.Text(709), dialog_.Text(741), dialog_.Text(742),
             dialog_.Text(743), dialog_.Text(744), dialog_.Text(745)};

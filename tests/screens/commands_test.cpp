@@ -8,6 +8,7 @@
 
 #include "shell/about_box.h"
 #include "shell/menu_states.h"
+#include "tests/support/expected_screens.h"
 #include "tests/support/program_fixture.h"
 
 namespace velnor {
@@ -17,17 +18,14 @@ using CommandsTest = ProgramTest;
 using Log = std::vector<std::string>;
 
 TEST_F(CommandsTest, EveryScreenHasItsCommand) {
-  const std::map<int, ScreenId> expected = {{221, 1},  {224, 2},  {236, 3},  {210, 4},  {214, 5},
-                                            {232, 6},  {231, 7},  {212, 8},  {213, 9},  {238, 10},
-                                            {215, 11}, {233, 12}, {270, 13}, {271, 14}, {272, 15},
-                                            {273, 16}, {274, 17}, {225, 18}, {239, 19}, {252, 20}};
   Program& program = Start();
   EXPECT_EQ(program.session().screen, 0);
-  for (const auto& [command, screen] : expected) {
+  for (const ExpectedScreen& expected : ExpectedScreens()) {
+    if (expected.command == 0) continue;
     window_.log.clear();
-    program.OnCommand(command, 0);
-    EXPECT_EQ(program.session().screen, screen) << command;
-    EXPECT_EQ(window_.log, (Log{"invalidate"})) << command;
+    program.OnCommand(expected.command, 0);
+    EXPECT_EQ(program.session().screen, expected.screen) << expected.command;
+    EXPECT_EQ(window_.log, (Log{"invalidate"})) << expected.command;
   }
 }
 
@@ -124,60 +122,26 @@ TEST_F(CommandsTest, TheProgramStartsWithTheLoggedOutMenu) {
   EXPECT_EQ(window_.menu, expected.menu);
 }
 
-// The state of every id that has a place in the menu or once had one; '.' where it was left alone.
-std::map<int, char> StatesAfter(MenuState state) {
-  FakeMainWindow window;
-  ApplyMenuState(state, window);
-  std::map<int, char> states;
-  for (const int id : {200, 201, 202, 203, 204, 210, 211, 212, 213, 214, 215, 220, 221,
-                       222, 223, 224, 225, 230, 231, 232, 233, 234, 235, 236, 237, 238,
-                       239, 240, 241, 250, 251, 252, 270, 271, 272, 273, 274}) {
-    const auto found = window.menu.find(id);
-    states[id] = found == window.menu.end() ? '.' : found->second ? 'E' : 'g';
+// What the menu state with that place in the tables does to every item; what it leaves alone, and
+// what is no item, is missing.
+std::map<int, bool> ExpectedMenu(std::size_t state) {
+  std::map<int, bool> menu;
+  const auto add = [&menu, state](int id, MenuItemStates states) {
+    if (states[state] != '.') menu[id] = states[state] == 'E';
+  };
+  for (const ExpectedScreen& screen : ExpectedScreens()) add(screen.command, screen.states);
+  for (const ExpectedCommand& command : ExpectedCommands()) add(command.id, command.states);
+  return menu;
+}
+
+TEST(MenuStatesTest, EveryStateEnablesAndGreysWhatTheTablesSay) {
+  const MenuState states[] = {MenuState::kLoggedOut, MenuState::kLoggedIn, MenuState::kAfterLogout,
+                              MenuState::kUserRemoved};
+  for (std::size_t i = 0; i < std::size(states); ++i) {
+    FakeMainWindow window;
+    ApplyMenuState(states[i], window);
+    EXPECT_EQ(window.menu, ExpectedMenu(i)) << "state " << i;
   }
-  for (const auto& [id, enabled] : window.menu) EXPECT_TRUE(states.contains(id)) << id;
-  return states;
-}
-
-std::map<int, char> States(const std::map<std::string, std::vector<int>>& by_state) {
-  std::map<int, char> states;
-  for (const auto& [letter, ids] : by_state) {
-    for (const int id : ids) states[id] = letter[0];
-  }
-  return states;
-}
-
-TEST(MenuStatesTest, AtStartOnlyWhatNeedsNobodyCanBeChosen) {
-  EXPECT_EQ(StatesAfter(MenuState::kLoggedOut),
-            States({{"E", {200, 202, 203, 236, 240, 241, 250, 251}},
-                    {"g", {201, 204, 210, 211, 212, 213, 214, 215, 220, 221, 222, 223, 224, 225,
-                           230, 231, 232, 233, 234, 235, 237, 238, 239, 270, 271, 272, 273, 274}},
-                    {".", {252}}}));
-}
-
-TEST(MenuStatesTest, LoggedInEverythingButLoginCanBeChosen) {
-  EXPECT_EQ(StatesAfter(MenuState::kLoggedIn),
-            States({{"E", {201, 202, 203, 204, 210, 211, 212, 213, 214, 215, 220, 221,
-                           222, 223, 224, 225, 230, 231, 232, 233, 234, 235, 236, 237,
-                           238, 239, 240, 241, 250, 251, 270, 271, 272, 273, 274}},
-                    {"g", {200}},
-                    {".", {252}}}));
-}
-
-TEST(MenuStatesTest, LogoutLeavesTheDatabaseItemsAloneAndKeeps237) {
-  EXPECT_EQ(StatesAfter(MenuState::kAfterLogout),
-            States({{"E", {200, 202, 203, 236, 237, 250, 251}},
-                    {"g", {201, 204, 210, 211, 212, 213, 214, 215, 220, 221, 222, 223, 224, 225,
-                           230, 231, 232, 233, 234, 235, 238, 239, 270, 271, 272, 273, 274}},
-                    {".", {240, 241, 252}}}));
-}
-
-TEST(MenuStatesTest, RemovingTheUserLeavesTheActivitiesAlone) {
-  EXPECT_EQ(StatesAfter(MenuState::kUserRemoved),
-            States({{"E", {200, 202, 203, 236, 240, 241, 250, 251}},
-                    {"g", {201, 204, 210, 211, 212, 213, 214, 215, 220, 221, 222, 223, 224, 225,
-                           230, 231, 232, 233, 234, 235, 237, 239, 270, 271, 272, 273, 274}},
-                    {".", {238, 252}}}));
 }
 
 TEST(MenuStatesTest, LoginThenLogoutLeavesTheDatabaseItemsEnabled) {

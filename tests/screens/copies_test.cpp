@@ -24,8 +24,6 @@ constexpr const char* kNoCopy =
 class CopiesTest : public DayTest {
  protected:
   static constexpr int kOpenWeightReport = 210;
-  static constexpr int kOpenBalance = 232;
-  static constexpr int kClearDay = 165;
 
   Tree CopyCalled(const std::string& name) const {
     return TreeBelow(folder_.path() + "kopie zapasowe/" + name);
@@ -42,12 +40,6 @@ class CopiesTest : public DayTest {
     return presses;
   }
   void OpenOwn(int item) {
-    dialog_ = FakeForm();
-    dialog_.AddControl(801, ControlClass::kEdit, control_style::kPlain);
-    dialog_.AddControl(811, ControlClass::kListBox, control_style::kListNotify);
-    for (const int id : {1, 2, 802}) {
-      dialog_.AddControl(id, ControlClass::kButton, control_style::kPlain);
-    }
     ASSERT_TRUE(RunOwnMenuItem(program_->parts(), item));
     window_.UseForm(dialog_);
     window_.opened->OnOpen(dialog_);
@@ -193,6 +185,7 @@ TEST_F(BackUpTest, TheSecondOfADayGetsANumberAndQuotesAreNoPartOfAPath) {
   const TemporaryFolder disk;
   const std::string folder = disk.path().substr(0, disk.path().size() - 1);
   Confirm(folder);
+  OpenOwn(kBackUpItem);
   EXPECT_NE(Confirm('"' + folder + '"').front().find("Velnor 2000-01-01 (2)"), std::string::npos);
 }
 
@@ -302,6 +295,7 @@ TEST_F(RestoreDialogTest, ACopyMadeElsewhereIsGivenByItsPath) {
   OpenOwn(kBackUpItem);
   Confirm(disk.path());
   const Tree copied = TreeBelow(folder_.path() + "Ann");
+  Open(kOpenCounter);
   AddStrawberries("50");
   OpenOwn(kRestoreItem);
   window_.folder_to_choose = disk.path() + "Velnor 2000-01-01";

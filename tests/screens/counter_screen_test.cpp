@@ -238,6 +238,7 @@ TEST_F(CounterScreenTest, EachPickerKeepsItsOwnChoice) {
   form_.Choose(108, "milk preserves");
   form_.Choose(110, "milk");
   form_.Choose(109, "goat milk");
+  ProgramTest::Open(231);
   form_.Type(kWeight, "250");
   EXPECT_EQ(Values()[0], "70.");
 }

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "tests/support/legibility.h"
-#include "tests/support/picture.h"
+#include "tests/support/resource_script.h"
 
 namespace velnor {
 namespace {
@@ -79,7 +79,7 @@ Item ReadItem(const std::vector<std::string>& words) {
 // The templates of the resource script, by their numbers.
 std::map<int, Layout> ReadLayouts() {
   std::map<int, Layout> layouts;
-  std::istringstream script(ReadResource("velnor.rc"));
+  std::istringstream script(ResourceScript());
   Layout* current = nullptr;
   bool among_items = false;
   for (std::string line; std::getline(script, line);) {

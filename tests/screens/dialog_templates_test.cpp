@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/picture.h"
+#include "tests/support/resource_script.h"
 
 namespace velnor {
 namespace {
@@ -26,7 +26,7 @@ std::string FirstWord(const std::string& line) {
 // The templates of the resource script, by their numbers.
 std::map<int, Template> ReadTemplates() {
   std::map<int, Template> templates;
-  std::istringstream script(ReadResource("velnor.rc"));
+  std::istringstream script(ResourceScript());
   Template* current = nullptr;
   for (std::string line; std::getline(script, line);) {
     const std::string word = FirstWord(line);

@@ -2,11 +2,14 @@
 
 #include "tests/support/fake_form.h"
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "shell/screens.h"
 
 namespace velnor {
 namespace {
@@ -17,6 +20,7 @@ class FakeFormTest : public testing::Test {
  protected:
   FakeFormTest() {
     form_.AddMainWindowControls();
+    for (const ControlRow& row : MainWindowControls()) form_.Show(row.key);
     form_.SetListener([this](int id, int notification) { heard_.emplace_back(id, notification); });
   }
 
@@ -162,6 +166,54 @@ TEST_F(FakeFormTest, AMultiLineEditStopsAtItsFirstAndLastLine) {
 TEST_F(FakeFormTest, ATextEndsAtANul) {
   form_.SetText(119, std::string_view("one\0two", 7));
   EXPECT_EQ(form_.ReadText(119, kWholeText), "one");
+}
+
+TEST_F(FakeFormTest, WhatIsNotShownCannotBeReached) {
+  form_.AddItem(126, "figs");
+  form_.HideAll();
+  EXPECT_NONFATAL_FAILURE(form_.Press(127), "does not show 127");
+  EXPECT_NONFATAL_FAILURE(form_.Type(128, "1"), "does not show 128");
+  EXPECT_NONFATAL_FAILURE(form_.Choose(126, "figs"), "does not show 126");
+  EXPECT_NONFATAL_FAILURE(form_.MoveFocusTo(128), "does not show 128");
+  EXPECT_EQ(heard_, Notifications{});
+  EXPECT_EQ(form_.Text(128), "");
+  EXPECT_EQ(form_.SelectedText(126), std::nullopt);
+}
+
+TEST_F(FakeFormTest, AFailureNamesTheScreenAndTheControl) {
+  form_.HideAll();
+  for (const int key : ShownKeys(*FindScreen(12))) form_.Show(key);
+  EXPECT_NONFATAL_FAILURE(form_.Press(127), "the main window, screen 12 does not show 127");
+  form_.Press(165);
+  EXPECT_EQ(heard_, (Notifications{{165, kButtonClicked}}));
+}
+
+TEST_F(FakeFormTest, EitherOfTwoControlsWithOneIdCanBePressed) {
+  for (const int key : {149, SecondControl(149)}) {
+    form_.HideAll();
+    form_.Show(key);
+    form_.Press(149);
+  }
+  EXPECT_EQ(heard_, (Notifications{{149, kButtonClicked}, {149, kButtonClicked}}));
+}
+
+TEST_F(FakeFormTest, WhatThereIsNotCannotBeReached) {
+  EXPECT_NONFATAL_FAILURE(form_.Press(128), "no such control: 128");      // an edit
+  EXPECT_NONFATAL_FAILURE(form_.Press(702), "no such control: 702");      // of a dialog
+  EXPECT_NONFATAL_FAILURE(form_.Type(129, "1"), "no such control: 129");  // a static
+  EXPECT_NONFATAL_FAILURE(form_.Choose(127, "figs"), "no such control: 127");
+  EXPECT_NONFATAL_FAILURE(static_cast<void>(form_.Items(99)), "no control 99");
+  EXPECT_EQ(heard_, Notifications{});
+}
+
+TEST_F(FakeFormTest, ADialogHasTheControlsOfItsTemplateUntilItIsClosed) {
+  FakeForm dialog;
+  dialog.AddDialogControls(10007);
+  dialog.Type(725, "Thaw.");
+  EXPECT_EQ(dialog.Text(725), "Thaw.");
+  EXPECT_NONFATAL_FAILURE(dialog.Type(127, "1"), "dialog 10007 has no such control: 127");
+  dialog.Close();
+  EXPECT_NONFATAL_FAILURE(dialog.Press(1), "dialog 10007, which is closed");
 }
 
 }  // namespace

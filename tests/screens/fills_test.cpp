@@ -2,7 +2,6 @@
 // waiting for seconds.
 
 #include <array>
-#include <initializer_list>
 
 #include "tests/support/people_fixture.h"
 
@@ -13,12 +12,7 @@ constexpr int kOpenCounter = 231;
 constexpr int kOpenOverview = 236;
 constexpr int kOpenBurned = 238;
 
-class FillsTest : public PeopleTest {
- protected:
-  static void AddLists(FakeForm& form, std::initializer_list<int> ids) {
-    for (const int id : ids) form.AddControl(id, ControlClass::kListBox, kSorted);
-  }
-};
+class FillsTest : public PeopleTest {};
 
 TEST_F(FillsTest, APickerFillsEveryListOnceAChoice) {
   Start();
@@ -47,9 +41,8 @@ TEST_F(FillsTest, TheActivitiesAreFilledOnceAPainting) {
 
 TEST_F(FillsTest, ASearchFillsItsResultsOnce) {
   FakeForm dialog;
-  AddLists(dialog, {729});
-  dialog.AddControl(728, ControlClass::kEdit, control_style::kPlain);
   Start();
+  Open(kOpenOverview);
   OpenDialog(149, dialog);
   dialog.SetText(728, "a");
   dialog.Press(730);
@@ -61,10 +54,7 @@ TEST_F(FillsTest, TheDialogsOfOwnProductsFillTheirListsOnce) {
   folder_.Write("data.txt",
                 "fruits;fresh;figs;100;74;1;0;19;\r\nfruits;fresh;dates;100;74;1;0;19;\r\n");
   FakeForm add;
-  AddLists(add, {732, 733});
-  add.AddControl(735, ControlClass::kEdit, control_style::kPlain);
   FakeForm remove;
-  AddLists(remove, {739});
   Start();
   OpenDialog(240, add);
   EXPECT_EQ(add.Fills(732), 1);

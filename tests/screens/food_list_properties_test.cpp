@@ -92,7 +92,7 @@ TEST_F(FoodListPropertiesTest, WhateverIsPressedTheFiguresAgree) {
   OpenCounter();
   std::mt19937 random(20'261'116);
   for (int round = 0; round < 10; ++round) {
-    form_.Press(165);  // the day afresh
+    ClearDay();
     for (int presses = 1; presses <= 25; ++presses) {
       const unsigned choice = random() % 16;
       if (choice == 0) {
@@ -142,7 +142,7 @@ TEST_F(FoodListPropertiesTest, AddingAndTakingOffAgainChangesNothing) {
   OpenCounter();
   std::mt19937 random(5'032'026);
   for (int round = 0; round < 60; ++round) {
-    if (round % 10 == 0) form_.Press(165);
+    if (round % 10 == 0) ClearDay();
     AddSomething(random);
     const Figures before = Read();
     const std::vector<std::string> lines = form_.Items(kList);

@@ -232,7 +232,6 @@ TEST_F(FoodListTest, AProductThatIsGoneLeavesItsWeightOnly) {
   form_.Press(kAdd);
   EXPECT_EQ(Totals().at(1), "237.");
   FakeForm remove;
-  remove.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
   OpenDialog(241, remove);
   remove.Choose(739, "apple pie");
   remove.Press(1);
@@ -329,7 +328,7 @@ TEST_F(FoodListTest, WhatCannotBeSavedIsNotOnTheList) {
   EXPECT_EQ(boxes_.TakeTexts(), kNotSaved);
   form_.Press(kClearList);
   EXPECT_EQ(boxes_.TakeTexts(), kNotSaved);
-  form_.Press(165);
+  ClearDay();
   EXPECT_EQ(boxes_.TakeTexts(), kNotSaved);
   EXPECT_EQ(form_.Items(kList), (Texts{"frozen strawberries  250.0g"}));
   EXPECT_EQ(Totals(), (Texts{"250.", "70.", "1.75", "1.", "13.5"}));

@@ -13,7 +13,6 @@ using Texts = std::vector<std::string>;
 
 constexpr int kSaveReport = 145;
 constexpr int kSaveFood = 147;
-constexpr std::uint32_t kPlain = control_style::kPlain;
 
 const std::string kRule = std::string(120, '-') + "\r\n";
 const std::string kLongRule = '\t' + std::string(86, '*') + "\r\n";
@@ -21,13 +20,8 @@ const std::string kShortRule = "\t\t\t" + std::string(35, '*') + "\r\n";
 
 class FoodRecordDialogsTest : public DayTest {
  protected:
-  void Open(int button, const std::vector<int>& edits) {
-    dialog_ = {};
-    for (const int id : edits) dialog_.AddControl(id, ControlClass::kEdit, kPlain);
-    OpenDialog(button, dialog_);
-  }
-  void OpenReport() { Open(kSaveReport, {709, 721, 722, 717, 718, 719, 746, 747, 723}); }
-  void OpenRecipe() { Open(kSaveFood, {709, 724, 725}); }
+  void OpenReport() { OpenDialog(kSaveReport, dialog_); }
+  void OpenRecipe() { OpenDialog(kSaveFood, dialog_); }
   // The recipe file with that name, totals, composition and recipe.
   static std::string Recipe(const std::string& name, const std::string& totals,
                             const std::string& composition, const std::string& recipe) {

@@ -26,11 +26,7 @@ const std::string kReport = "2 products were added, 1 left out: line 4: no name 
 class ImportProductsTest : public testing::Test {
  protected:
   ImportProductsTest() {
-    form_.AddControl(801, ControlClass::kEdit, control_style::kPlain);
-    form_.AddControl(802, ControlClass::kButton, control_style::kPlain);
-    for (const int id : {803, 804}) {
-      form_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
+    form_.AddDialogControls(kImportProductsResource);
     form_.SetListener(
         [this](int id, int notification) { dialog_.OnCommand(form_, id, notification); });
     dialog_.OnOpen(form_);

@@ -72,29 +72,15 @@ class InvariantsTest : public DayTest {
     form_ = FakeForm();
     form_.AddMainWindowControls();
     Start(DateText(day % 28 + 1, 1 + day / 28 % 12, 2026));
-    OpenForm(200, {}, {700});
+    OpenForm(200);
     dialog_.Choose(700, "Ann");
     dialog_.Press(1);
   }
 
-  void OpenForm(int command, const std::vector<int>& edits, const std::vector<int>& lists = {},
-                const std::vector<int>& combos = {}) {
-    window_.opened.reset();
-    dialog_ = FakeForm();
-    for (const int id : edits) {
-      dialog_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-    }
-    for (const int id : lists) {
-      dialog_.AddControl(id, ControlClass::kListBox, control_style::kSortedList);
-    }
-    for (const int id : combos) {
-      dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
-    OpenDialog(command, dialog_);
-  }
+  void OpenForm(int command) { OpenDialog(command, dialog_); }
   // Opens a dialog, types into some of its fields and presses OK.
   void FillIn(int command, const std::vector<int>& edits) {
-    OpenForm(command, edits);
+    OpenForm(command);
     for (const int id : edits) {
       if (random_() % 3 == 0) dialog_.SetText(id, Any(kTyped));
     }
@@ -118,7 +104,7 @@ class InvariantsTest : public DayTest {
     Remove(form_.ItemText(kList, static_cast<int>(random_() % static_cast<unsigned>(count))));
   }
   void AddProduct() {
-    OpenForm(240, {734, 735, 736, 737, 738, 740}, {}, {732, 733});
+    OpenForm(240);
     dialog_.Choose(732, "fruits");
     dialog_.Choose(733, "fresh");
     dialog_.SetText(734, own_product_);
@@ -156,7 +142,7 @@ class InvariantsTest : public DayTest {
     FillIn(204, {704, 705});
   }
   void AddUser() {
-    OpenForm(202, {701}, {700});
+    OpenForm(202);
     const std::string name(1 + random_() % 130, static_cast<char>('a' + random_() % 26));
     dialog_.SetText(701, random_() % 2 == 0 ? name : Any(kTyped));
     dialog_.Press(702);
@@ -188,7 +174,7 @@ class InvariantsTest : public DayTest {
     } else if (choice == 16) {
       SaveRecords();
     } else if (choice == 17) {
-      form_.Press(165);
+      ClearDay();
     } else {
       StartOn(++day_);
     }

@@ -12,6 +12,7 @@
 
 #include "shell/screens.h"
 #include "shell/tab_order.h"
+#include "tests/support/expected_screens.h"
 #include "tests/support/program_fixture.h"
 
 namespace velnor {
@@ -23,9 +24,6 @@ using Log = std::vector<std::string>;
 
 constexpr int kOverviewFind = SecondControl(149);
 const std::string kProfileLines = "35\n170\nwomen\nlow\nnone\n";
-const Keys kScreenCommands = {221, 224, 236, 210, 214, 232, 231, 212, 213, 238,
-                              215, 233, 270, 271, 272, 273, 274, 225, 239, 252};
-
 bool IsField(const ControlRow& row) {
   return row.control_class == ControlClass::kEdit || row.control_class == ControlClass::kComboBox ||
          row.control_class == ControlClass::kListBox;
@@ -100,7 +98,9 @@ TEST_F(KeyboardTest, EnterInAFieldPressesTheMainButton) {
   const std::map<int, int> main_buttons = {{221, 102}, {224, 106}, {232, 174}, {231, 127},
                                            {238, 161}, {225, 176}, {239, 182}};
   Program& program = Start();
-  for (const int command : kScreenCommands) {
+  for (const ExpectedScreen& screen : ExpectedScreens()) {
+    const int command = screen.command;
+    if (command == 0) continue;
     Open(command);
     const auto main = main_buttons.find(command);
     for (const int key : form_.ShownKeys()) {
@@ -164,14 +164,18 @@ TEST(NumberFieldsTest, AreTheFieldsOfOneLine) {
 }
 
 TEST_F(KeyboardTest, DialogsTakeNumbersWhereTheyReadSome) {
-  const std::map<int, std::set<int>> fields = {
-      {240, {735, 736, 737, 738, 740}},  // a new product
-      {204, {704, 705}},                 // the profile
-      {103, {710, 711}},                 // records of the body
-      {107, {713, 714, 715}},
+  struct {
+    int screen, command;
+    std::set<int> fields;
+  } const dialogs[] = {
+      {231, 240, {735, 736, 737, 738, 740}},  // a new product
+      {231, 204, {704, 705}},                 // the profile
+      {221, 103, {710, 711}},                 // records of the body
+      {224, 107, {713, 714, 715}},
   };
   LogIn("Ann", kProfileLines);
-  for (const auto& [command, ids] : fields) {
+  for (const auto& [screen, command, ids] : dialogs) {
+    Open(screen);
     FakeForm form;
     OpenDialog(command, form);
     EXPECT_EQ(form.NumberFields(), ids) << command;
@@ -182,7 +186,9 @@ TEST_F(KeyboardTest, DialogsTakeNumbersWhereTheyReadSome) {
 // title of a report and the weight's text on one of its two screens differ.
 TEST_F(KeyboardTest, EveryFieldIsNamedForWhatIsPaintedBesideIt) {
   LogIn("Ann", kProfileLines);
-  for (const int command : kScreenCommands) {
+  for (const ExpectedScreen& screen : ExpectedScreens()) {
+    const int command = screen.command;
+    if (command == 0) continue;
     const RecordingCanvas canvas = Open(command);
     for (const int key : form_.ShownKeys()) {
       const ControlRow& row = RowOf(key);

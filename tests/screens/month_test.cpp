@@ -43,26 +43,11 @@ class MonthTest : public DayTest {
     program.Start();
   }
 
-  // Opens a dialog of these edits, combo boxes and sorted lists.
-  void OpenDialogOf(int command, const std::vector<int>& edits, const std::vector<int>& combos = {},
-                    const std::vector<int>& lists = {}) {
-    dialog_ = {};
-    for (const int id : edits) {
-      dialog_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-    }
-    for (const int id : combos) {
-      dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
-    for (const int id : lists) {
-      dialog_.AddControl(id, ControlClass::kListBox, control_style::kSortedList);
-    }
-    OpenDialog(command, dialog_);
-  }
-  void OpenProfile() { OpenDialogOf(204, {704, 705}, {706, 707, 708}); }
+  void OpenProfile() { OpenDialog(204, dialog_); }
   void Press(int button) { dialog_.Press(button); }
 
   Texts LogInAs(const Person& person) {
-    OpenDialogOf(200, {}, {}, {700});
+    OpenDialog(200, dialog_);
     dialog_.Choose(700, person.name);
     Press(kOkButton);
     return boxes_.TakeTexts();
@@ -107,7 +92,7 @@ class MonthTest : public DayTest {
 
 void MonthTest::MakePeople() {
   StartOn(Day::DateOf(1));
-  OpenDialogOf(202, {701}, {}, {700});
+  OpenDialog(202, dialog_);
   for (const Person& person : kPeople) {
     dialog_.SetText(701, person.name);
     Press(702);
@@ -174,10 +159,10 @@ void MonthTest::Eat(const Day& day) {
 }
 
 void MonthTest::SaveMeal(const Day& day) {
-  OpenDialogOf(145, {709, 721, 722, 717, 718, 719, 746, 747, 723});
+  OpenDialog(145, dialog_);
   dialog_.SetText(723, day.Mark());
   Press(kOkButton);
-  OpenDialogOf(147, {709, 724, 725});
+  OpenDialog(147, dialog_);
   dialog_.SetText(724, day.Mark());
   dialog_.SetText(725, "Thaw.\r\nEat, " + day.Mark());
   Press(kOkButton);
@@ -190,7 +175,7 @@ void MonthTest::Move(const Day& day) {
   form_.Press(161);
   form_.Press(177);
   EXPECT_EQ(form_.Text(180), day.Burned());
-  OpenDialogOf(162, {709, 741, 742, 743, 744, 745});
+  OpenDialog(162, dialog_);
   dialog_.SetText(745, day.Mark());
   Press(kOkButton);
 }
@@ -200,7 +185,7 @@ void MonthTest::Weigh(const std::string& weight, const std::string& other) {
   form_.Type(101, weight);
   form_.Press(102);
   Repaint();
-  OpenDialogOf(103, {709, 710, 711, 716});
+  OpenDialog(103, dialog_);
   dialog_.SetText(716, other);
   Press(kOkButton);
 }
@@ -211,7 +196,7 @@ void MonthTest::Measure(const Day& day) {
   form_.Type(105, std::to_string(day.unit));
   form_.Press(106);
   Repaint();
-  OpenDialogOf(107, {709, 713, 714, 715, 716});
+  OpenDialog(107, dialog_);
   dialog_.SetText(716, day.Mark());
   Press(kOkButton);
   Open(225);
@@ -346,26 +331,30 @@ void MonthTest::CheckDialogs(const Day& day) {
   const auto& profile = day.person.profile;
   EXPECT_EQ(shown({704, 705, 706, 707, 708}), Texts(profile.begin(), profile.end()));
   // Whose day was counted in another run has nothing to save yet.
-  const std::pair<int, std::vector<int>> records[] = {{145, {709, 723}},
-                                                      {147, {709, 724, 725}},
-                                                      {103, {709, 710, 711, 716}},
-                                                      {107, {709, 713, 714, 715, 716}},
-                                                      {162, {709, 741, 742, 743, 744, 745}}};
-  for (const auto& [command, edits] : records) {
-    OpenDialogOf(command,
-                 command == 145 ? std::vector{709, 721, 722, 717, 718, 719, 746, 747, 723} : edits);
+  struct {
+    int screen, command;
+    std::vector<int> edits;
+  } const records[] = {{231, 145, {709, 723}},
+                       {231, 147, {709, 724, 725}},
+                       {221, 103, {709, 710, 711, 716}},
+                       {224, 107, {709, 713, 714, 715, 716}},
+                       {238, 162, {709, 741, 742, 743, 744, 745}}};
+  for (const auto& [screen, command, edits] : records) {
+    Open(screen);
+    OpenDialog(command, dialog_);
     Texts expected(edits.size(), "");
     expected.front() = day.Date();
     EXPECT_EQ(shown(edits), expected) << command;
     Press(kCancelButton);
   }
-  OpenDialogOf(240, {734, 735, 736, 737, 738, 740}, {732, 733});
+  OpenDialog(240, dialog_);
   EXPECT_EQ(dialog_.ItemCount(732), 22);
-  OpenDialogOf(241, {}, {}, {739});
+  OpenDialog(241, dialog_);
   EXPECT_EQ(dialog_.ItemCount(739), 0);
-  OpenDialogOf(149, {728}, {}, {729});
+  Open(231);
+  OpenDialog(149, dialog_);
   EXPECT_EQ(dialog_.ItemCount(729), 0);
-  OpenDialogOf(202, {701}, {}, {700});
+  OpenDialog(202, dialog_);
   EXPECT_EQ(dialog_.Items(700), (Texts{"Ann", "Bob", "Zoe"}));
   EXPECT_EQ(boxes_.TakeTexts(), Texts{});
 }

@@ -41,13 +41,10 @@ class Day : public ProgramTest {
   }
 
   QuickAddDialog& OpenQuickAdd() {
-    form.AddControl(810, ControlClass::kEdit, control_style::kPlain);
-    form.AddControl(811, ControlClass::kListBox, control_style::kListNotify);
-    form.AddControl(812, ControlClass::kEdit, control_style::kPlain);
-    form.AddControl(813, ControlClass::kStatic, control_style::kPlain);
-    for (const int id : {1, 2}) form.AddControl(id, ControlClass::kButton, control_style::kPlain);
-    QuickAddDialog& opened =
-        dialog.emplace(food_, program_->parts().food_list, clock, folder_.path() + "Ann/dziennik.csv");
+    form = FakeForm();
+    form.AddDialogControls(kQuickAddResource);
+    QuickAddDialog& opened = dialog.emplace(food_, program_->parts().food_list, clock,
+                                            folder_.path() + "Ann/dziennik.csv");
     form.SetListener(
         [this](int id, int notification) { dialog->OnCommand(form, id, notification); });
     opened.OnOpen(form);

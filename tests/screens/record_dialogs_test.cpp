@@ -23,16 +23,12 @@ const std::string kFiftyLetters(50, 'x');
 
 class RecordDialogTest : public BodyTest {
  protected:
-  RecordDialogTest() {
-    for (const int id : {kDate, kWeight, kBmi, kOther}) AddEdit(weight_, id);
-    for (const int id : {kDate, kWaist, kHip, kWhr, kOther}) AddEdit(whr_, id);
-  }
   void OpenWeight() {
-    weight_.SetText(kBmi, "");
+    if (program_->session().screen != 1) Open(kOpenBmi);
     OpenDialog(103, weight_);
   }
   void OpenWhr() {
-    whr_.SetText(kWhr, "");
+    if (program_->session().screen != 2) Open(kOpenWhr);
     OpenDialog(107, whr_);
   }
   Texts WeightFields() const {
@@ -48,11 +44,6 @@ class RecordDialogTest : public BodyTest {
 
   FakeForm weight_;
   FakeForm whr_;
-
- private:
-  static void AddEdit(FakeForm& form, int id) {
-    form.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-  }
 };
 
 // --- body weight

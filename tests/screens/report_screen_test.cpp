@@ -7,60 +7,10 @@
 #include <vector>
 
 #include "base/text_file.h"
-#include "tests/support/program_fixture.h"
+#include "tests/screens/report_fixture.h"
 
 namespace velnor {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-constexpr int kClear = 151;
-constexpr int kSave = 152;
-constexpr const char* kSureToClear =
-    "Are You sure You want erase report?\nAll data will be LOST!\nADVICE: You can select and copy "
-    "whole text to another file.";
-constexpr const char* kSureToSave = "Do You want save changes?\nThere`ll be no chance to cancel!";
-
-struct ReportOnScreen {
-  ScreenId screen;
-  int command;
-  const char* title;
-  const char* file_name;
-};
-constexpr ReportOnScreen kReports[] = {
-    {4, 210, "Reports overview - WEIGHT", "waga.ASC"},
-    {5, 214, "Reports overview - WHR", "whr.ASC"},
-    {8, 212, "Reports overview - CALORIE", "mirvo.ASC"},
-    {9, 213, "Reports overview - RECIPES", "zestaw.ASC"},
-    {11, 215, "Reports overview - BURNED CALORIES", "cwiczenia.ASC"},
-};
-constexpr int kOpenCalorie = 212;
-
-class ReportScreenTest : public ProgramTest {
- protected:
-  void LogIn(const std::string& name = "Ann") {
-    std::filesystem::create_directory(folder_.path() + name);
-    folder_.Write("users.ASC", "Ann\r\nBob");
-    folder_.Write(name + "/info.ASC", "35\r\n180\r\nmen\r\nlow\r\nnone");
-    if (!program_) Start();
-    FakeForm login;
-    login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
-    OpenDialog(200, login);
-    login.Choose(700, name);
-    login.Press(1);
-    boxes_.TakeTexts();
-    window_.log.clear();
-  }
-  std::string Write(const std::string& file_name, std::string_view bytes) const {
-    return folder_.Write("Ann/" + file_name, bytes);
-  }
-  std::string Read(const std::string& file_name) const { return folder_.Read("Ann/" + file_name); }
-  std::string Shown() const { return form_.Text(119); }
-  // A window whose PaintNow paints, as the real one's does.
-  void PaintWhenAsked() {
-    window_.on_paint_now = [this] { Repaint(); };
-  }
-};
 
 std::string Lines(int count) {
   std::string text;
@@ -70,10 +20,10 @@ std::string Lines(int count) {
 
 TEST_F(ReportScreenTest, EveryScreenPaintsItsTitleAndShowsItsFile) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, std::string("record in ") + report.file_name + "\r\n");
   }
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     const RecordingCanvas canvas = Open(report.command);
     EXPECT_EQ(program_->session().screen, report.screen);
     EXPECT_EQ(std::vector<DrawnText>(canvas.texts.begin() + 3, canvas.texts.end()),
@@ -100,7 +50,7 @@ TEST_F(ReportScreenTest, AMissingOrEmptyReportShowsAnEmptyEdit) {
 
 TEST_F(ReportScreenTest, ShowsAtMostTheLimitOnEveryScreen) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     for (const std::size_t size : {1U, 29'998U, 29'999U, 30'000U, 30'001U, 200'000U}) {
       Write(report.file_name, std::string(size, 'x'));
       Open(report.command);
@@ -115,7 +65,7 @@ TEST_F(ReportScreenTest, LinesThatEndWithLfStandOneBelowTheOther) {
   Open(kOpenCalorie);
   EXPECT_EQ(Shown(), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC"), "one\ntwo\r\nthree\n\nlast");
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "one\r\ntwo\r\nthree\r\n\r\nlast");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
 }
@@ -177,13 +127,13 @@ TEST_F(ReportScreenTest, TheSixButtonsScroll) {
 
 TEST_F(ReportScreenTest, SaveWritesTheTextAndRepaints) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, "old\r\n");
     Open(report.command);
     window_.log.clear();
     const std::string text = std::string("new\r\n") + report.title;
     form_.SetText(119, text);
-    form_.Press(kSave);
+    form_.Press(kSaveChanges);
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
@@ -204,7 +154,7 @@ TEST_F(ReportScreenTest, SaveAnsweredWithNoChangesNothing) {
   window_.log.clear();
   form_.SetText(119, "new");
   boxes_.answer = Answer::kNo;
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   EXPECT_EQ(Shown(), "new");
@@ -216,7 +166,7 @@ TEST_F(ReportScreenTest, SavingAMissingReportWritesNothing) {
   Open(kOpenCalorie);
   window_.log.clear();
   form_.SetText(119, "new");
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "(missing)");
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToSave}));
   EXPECT_EQ(window_.log, (Texts{"invalidate"}));
@@ -231,7 +181,7 @@ TEST_F(ReportScreenTest, SavesWhatWasWrittenBeforeARepaintUnderTheBox) {
     Write("mirvo.ASC", "old\r\nappended\r\n");
     Repaint();
   };
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "new\r\n");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "appended\r\n");
 }
@@ -243,7 +193,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherReportsText) 
   Write("mirvo.ASC", "calories\r\n");
   Open(210);
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), "calories\r\n");
   EXPECT_EQ(Read("waga.ASC"), "weight\r\n");
 }
@@ -257,7 +207,7 @@ TEST_F(ReportScreenTest, SavingBeforeTheScreenIsPaintedSavesNoOtherUsersText) {
   LogIn();
   Write("mirvo.ASC", "of Ann\r\n");
   program_->OnCommand(kOpenCalorie, kButtonClicked);
-  form_.Press(kSave);
+  program_->OnCommand(kSaveChanges, kButtonClicked);  // a press on its way
   EXPECT_EQ(Read("mirvo.ASC"), "of Ann\r\n");
 }
 
@@ -265,7 +215,7 @@ TEST_F(ReportScreenTest, ACutReportSaysWhereTheRestIs) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   EXPECT_EQ(Open(kOpenCalorie).texts.size(), 4U);
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Read("mirvo.ASC"), std::string(29'999, 'x'));
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "never seen");
   EXPECT_EQ(Repaint().texts.back(),
@@ -278,11 +228,11 @@ TEST_F(ReportScreenTest, ACutReportSaysWhereTheRestIs) {
 
 TEST_F(ReportScreenTest, ClearErasesTheReportAndRepaints) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) {
+  for (const ReportOnScreen& report : kReportScreens) {
     Write(report.file_name, Lines(100));
     Open(report.command);
     window_.log.clear();
-    form_.Press(kClear);
+    form_.Press(kClearReport);
     ASSERT_EQ(boxes_.shown.size(), 1U);
     EXPECT_EQ(boxes_.shown[0].caption, "Velnor calorie counter");
     EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
@@ -302,7 +252,7 @@ TEST_F(ReportScreenTest, ClearAnsweredWithNoChangesNothing) {
   Open(kOpenCalorie);
   window_.log.clear();
   boxes_.answer = Answer::kNo;
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(boxes_.TakeTexts(), (Texts{kSureToClear}));
   EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
   EXPECT_EQ(window_.log, Texts{});
@@ -311,126 +261,32 @@ TEST_F(ReportScreenTest, ClearAnsweredWithNoChangesNothing) {
 TEST_F(ReportScreenTest, ClearMakesAMissingReport) {
   LogIn();
   Open(kOpenCalorie);
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(Read("mirvo.ASC"), "");
 }
 
 TEST_F(ReportScreenTest, OnOtherScreensClearAndSaveDoNothing) {
   LogIn();
-  for (const ReportOnScreen& report : kReports) Write(report.file_name, "old\r\n");
+  for (const ReportOnScreen& report : kReportScreens) Write(report.file_name, "old\r\n");
   Write("wykwag.txt", "1.11.2026;70;\r\n2.11.2026;71;\r\n3.11.2026;72;\r\n");
   for (const int command : {221, 224, 236, 232, 231, 238, 233, 270, 225, 239, 252}) {
     Open(command);
     window_.log.clear();
     form_.SetText(119, "new");
-    form_.Press(kClear);
-    form_.Press(kSave);
+    for (const int id : {kClearReport, kSaveChanges}) program_->OnCommand(id, kButtonClicked);
     EXPECT_EQ(boxes_.TakeTexts(), Texts{}) << command;
     EXPECT_EQ(window_.log, Texts{}) << command;
   }
-  for (const ReportOnScreen& report : kReports) EXPECT_EQ(Read(report.file_name), "old\r\n");
-}
-
-class UnsavedReportTest : public ReportScreenTest {
- protected:
-  // Ann has typed over a report that nobody may write, and pressed "Save changes".
-  void TypeWhatCannotBeSaved() {
-    LogIn();
-    path_ = Write("mirvo.ASC", "old\r\n");
-    std::filesystem::permissions(path_, std::filesystem::perms{0444});
-    Open(kOpenCalorie);
-    form_.SetText(119, "typed");
-    form_.Press(kSave);
-    Repaint();
-    Repaint();
-  }
-  void LetItBeWritten() const { std::filesystem::permissions(path_, std::filesystem::perms{0644}); }
-
-  std::string path_;
-};
-
-TEST_F(UnsavedReportTest, StaysUntilItIsSaved) {
-  TypeWhatCannotBeSaved();
-  EXPECT_EQ(Shown(), "typed");
-  form_.SetText(119, "typed on");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on");
-  form_.Press(kSave);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on");
-  EXPECT_EQ(Read("mirvo.ASC"), "old\r\n");
-  LetItBeWritten();
-  form_.Press(kSave);
-  EXPECT_EQ(Read("mirvo.ASC"), "typed on");
-  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");
-  form_.SetText(119, "changed");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed on") << "saved: a repaint reloads again";
-}
-
-TEST_F(UnsavedReportTest, StaysThoughTheFileGrowsMeanwhile) {
-  TypeWhatCannotBeSaved();
-  LetItBeWritten();
-  Write("mirvo.ASC", Read("mirvo.ASC") + "a record\r\n");
-  Repaint();
-  EXPECT_EQ(Shown(), "typed");
-  form_.Press(kSave);
-  EXPECT_EQ(Read("mirvo.ASC"), "typed");
-  EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "a record\r\n");
-}
-
-TEST_F(UnsavedReportTest, StaysThroughARepaintUnderTheBox) {
-  LogIn();
-  path_ = Write("mirvo.ASC", "old\r\n");
-  std::filesystem::permissions(path_, std::filesystem::perms{0444});
-  Open(kOpenCalorie);
-  form_.SetText(119, "typed");
-  boxes_.while_open = [&] { Repaint(); };
-  form_.Press(kSave);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed");
-}
-
-TEST_F(UnsavedReportTest, GoesWhenTheReportIsReloadedFromTheMenu) {
-  TypeWhatCannotBeSaved();
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "old\r\n");
-  form_.SetText(119, "changed");
-  Repaint();
-  EXPECT_EQ(Shown(), "old\r\n");
-}
-
-TEST_F(UnsavedReportTest, GoesWhenTheReportIsCleared) {
-  TypeWhatCannotBeSaved();
-  form_.Press(kClear);
-  Repaint();
-  EXPECT_EQ(Shown(), "typed") << "nor could it be cleared";
-  LetItBeWritten();
-  form_.Press(kClear);
-  Repaint();
-  EXPECT_EQ(Shown(), "");
-}
-
-TEST_F(UnsavedReportTest, IsNotShownInAnotherReportOrToAnotherUser) {
-  TypeWhatCannotBeSaved();
-  Open(210);
-  EXPECT_EQ(Shown(), "");
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "old\r\n");
-  TypeWhatCannotBeSaved();
-  program_->OnCommand(201, kButtonClicked);
-  LogIn("Bob");
-  Open(kOpenCalorie);
-  EXPECT_EQ(Shown(), "");
+  for (const ReportOnScreen& report : kReportScreens) EXPECT_EQ(Read(report.file_name), "old\r\n");
 }
 
 TEST_F(ReportScreenTest, ClearingTakesTheRestAndItsLineWithIt) {
   LogIn();
   Write("mirvo.ASC", std::string(29'999, 'x') + "never seen");
   Open(kOpenCalorie);
-  form_.Press(kSave);
+  form_.Press(kSaveChanges);
   EXPECT_EQ(Repaint().texts.size(), 5U);
-  form_.Press(kClear);
+  form_.Press(kClearReport);
   EXPECT_EQ(Repaint().texts.size(), 4U);
   EXPECT_EQ(Read("mirvo.ASC"), "");
   EXPECT_EQ(Read("mirvo.ASC.rest.txt"), "(missing)");

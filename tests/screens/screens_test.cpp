@@ -2,11 +2,11 @@
 
 #include "shell/screens.h"
 
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "tests/support/expected_screens.h"
 #include "tests/support/program_fixture.h"
 
 namespace velnor {
@@ -14,54 +14,14 @@ namespace {
 
 using ScreensTest = ProgramTest;
 
-constexpr int kOverviewFind = SecondControl(149);
-
-struct ExpectedScreen {
-  int command;  // 0: the screen after start
-  const char* background;
-  std::set<int> controls;
-};
-
-// By screen number.
-const std::map<ScreenId, ExpectedScreen>& ExpectedScreens() {
-  static const std::set<int> reports = {119, 151, 152, 153, 154, 155, 156, 157, 158};
-  static const std::map<ScreenId, ExpectedScreen> screens = {
-      {0, {0, "TLO", {}}},
-      {1, {221, "BMI2", {101, 102, 103}}},
-      {2, {224, "WHR", {104, 105, 106, 107}}},
-      {3,
-       {236,
-        "POS",
-        {108, 109, 110, 111, 112, 113, 114, 115, 116, 117, 118, kOverviewFind, 185, 186}}},
-      {4, {210, "BCG", reports}},
-      {5, {214, "BCG", reports}},
-      {6, {232, "ZAAP", {120, 121, 122, 123, 166, 167, 168, 169, 170, 171, 172, 173, 174, 175}}},
-      {7, {231, "POS", {124, 125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135, 136, 137,
-                        138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 149, 183, 184}}},
-      {8, {212, "BCG", reports}},
-      {9, {213, "BCG", reports}},
-      {10, {238, "SPAL", {159, 160, 161, 162, 163, 164, 177, 179, 180}}},
-      {11, {215, "BCG", reports}},
-      {12, {233, "BILANS", {165}}},
-      {13, {270, "BCG", {}}},
-      {14, {271, "BCG", {}}},
-      {15, {272, "BCG", {}}},
-      {16, {273, "BCG", {}}},
-      {17, {274, "BCG", {}}},
-      {18, {225, "SPAL", {101, 176}}},
-      {19, {239, "SPAL", {181, 182}}},
-      {20, {252, "POS", {}}},
-  };
-  return screens;
-}
-
 TEST_F(ScreensTest, EveryScreenHasItsBackgroundHeaderAndControls) {
   Start();
   const std::vector<DrawnText> header = {{"user: NONE", {10, 2}, {14, 0, false}, {0, 0, 0}},
                                          {kTestDate, {720, 2}, {14, 0, false}, {0, 0, 0}}};
   const DrawnLine rule = {{{4, 20}, {790, 20}}, {{0, 0, 0}, 1}};
   ASSERT_EQ(Screens().size(), ExpectedScreens().size());
-  for (const auto& [screen, expected] : ExpectedScreens()) {
+  for (const ExpectedScreen& expected : ExpectedScreens()) {
+    const ScreenId screen = expected.screen;
     if (expected.command != 0) program_->OnCommand(expected.command, kButtonClicked);
     EXPECT_EQ(program_->session().screen, screen);
     const RecordingCanvas canvas = Repaint();
@@ -103,7 +63,8 @@ TEST_F(ScreensTest, TheWheelScrollsReportsOneLineWhateverTheDistance) {
   Program& program = Start();
   std::string lines;
   for (int i = 0; i < 100; ++i) lines += "line\r\n";
-  for (const auto& [screen, expected] : ExpectedScreens()) {
+  for (const ExpectedScreen& expected : ExpectedScreens()) {
+    const ScreenId screen = expected.screen;
     ShowScreen(program.parts(), screen);
     form_.SetText(119, lines);
     const bool is_report = screen == 4 || screen == 5 || screen == 8 || screen == 9 || screen == 11;

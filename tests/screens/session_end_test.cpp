@@ -32,17 +32,13 @@ class SessionEndTest : public PeopleTest {
   // All six, in the order of their commands below.
   void OpenDialogsOfTheSession() {
     for (std::size_t i = 0; i < kCommands.size(); ++i) {
-      FakeForm& form = forms_[i];
-      for (const int id : {704, 705, 709}) form.AddControl(id, ControlClass::kEdit, 0);
-      for (const int id : {706, 707, 708}) {
-        form.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-      }
-      OpenDialog(kCommands[i], form);
+      Open(kCommands[i].screen);
+      OpenDialog(kCommands[i].command, forms_[i]);
     }
   }
   void ExpectAllClosed() const {
     for (std::size_t i = 0; i < kCommands.size(); ++i) {
-      EXPECT_EQ(std::ranges::count(forms_[i].Log(), "close"), 1) << kCommands[i];
+      EXPECT_EQ(std::ranges::count(forms_[i].Log(), "close"), 1) << kCommands[i].command;
     }
   }
   std::map<std::string, std::string> Files() const {
@@ -54,8 +50,13 @@ class SessionEndTest : public PeopleTest {
     return files;
   }
 
-  // The profile and the five records.
-  static constexpr std::array kCommands = {kProfile, 103, 107, 145, 147, 162};
+  // The profile and the five records, and the screens where they can be opened.
+  struct Way {
+    int screen;
+    int command;
+  };
+  static constexpr std::array<Way, 6> kCommands = {
+      {{221, kProfile}, {221, 103}, {224, 107}, {231, 145}, {231, 147}, {238, 162}}};
   std::array<FakeForm, kCommands.size()> forms_;
 };
 
@@ -87,12 +88,12 @@ TEST_F(SessionEndTest, RemovingTheUserClosesThemToo) {
 TEST_F(SessionEndTest, ANameChosenInALoginThatStayedOpenClosesThemToo) {
   program_->OnCommand(kLogOut, kButtonClicked);
   OpenLogin();
-  FakeForm first;
-  first.AddControl(700, ControlClass::kListBox, kSorted);
   const std::shared_ptr<Dialog> stays = window_.opened;
-  LogIn("Zoe");
+  FakeForm other;
+  OpenDialog(200, other);
+  other.Choose(700, "Zoe");
+  other.Press(1);
   OpenDialogsOfTheSession();
-  login_.SetListener([&](int id, int what) { stays->OnCommand(login_, id, what); });
   login_.Choose(700, "Ann");
   ExpectAllClosed();
 }

@@ -13,9 +13,11 @@ namespace velnor {
 class DayTest : public ProgramTest {
  protected:
   static constexpr int kOpenCounter = 231;
+  static constexpr int kOpenBalance = 233;
   static constexpr int kAdd = 127;
   static constexpr int kRemove = 136;
   static constexpr int kClearList = 146;
+  static constexpr int kClearDay = 165;
   static constexpr int kList = 134;
 
   void OpenCounter() {
@@ -45,6 +47,12 @@ class DayTest : public ProgramTest {
   void Remove(const std::string& line) {
     form_.Choose(kList, line);
     form_.Press(kRemove);
+  }
+  // Clears the day on its own screen, and returns to the counter.
+  void ClearDay() {
+    Open(kOpenBalance);
+    form_.Press(kClearDay);
+    Open(kOpenCounter);
   }
   // Weight, kcal, protein, fat, carbohydrate.
   std::vector<std::string> Totals() const { return Shown(137, 141); }

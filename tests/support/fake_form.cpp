@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/screens.h"
+#include "tests/support/resource_script.h"
 
 namespace velnor {
 namespace {
@@ -42,15 +43,24 @@ void FakeForm::AddMainWindowControls() {
     AddControl(row.key, row.control_class, row.style);
     if (row.limit > 0) LimitText(row.id(), row.limit);
   }
+  HideAll();
+}
+
+void FakeForm::AddDialogControls(int resource_id) {
+  resource_id_ = resource_id;
+  for (const DialogControl& control : DialogTemplate(resource_id)) {
+    AddControl(control.id, control.control_class, control.style);
+  }
 }
 
 void FakeForm::AddControl(int key, ControlClass control_class, std::uint32_t style) {
-  controls_[key] = {.control_class = control_class, .style = style, .text = {}, .items = {}};
+  controls_[key] = {.control_class = control_class, .style = style};
+  controls_[key].shown = true;
 }
 
 void FakeForm::Choose(int id, const std::string& item) {
-  Control* const control = Find(id);
-  ASSERT_NE(control, nullptr) << "no control " << id;
+  Control* const control = Reach(id, {ControlClass::kListBox, ControlClass::kComboBox});
+  if (control == nullptr) return;
   const auto found = std::ranges::find(control->items, item);
   ASSERT_NE(found, control->items.end()) << "control " << id << " has no item " << item;
   control->selection = static_cast<int>(found - control->items.begin());
@@ -58,8 +68,9 @@ void FakeForm::Choose(int id, const std::string& item) {
 }
 
 void FakeForm::Type(int id, const std::string& text) {
-  Control* const control = Find(id);
-  ASSERT_NE(control, nullptr) << "no control " << id;
+  Control* const control = Reach(id, {ControlClass::kEdit});
+  if (control == nullptr) return;
+  ASSERT_EQ(control->style & control_style::kReadOnly, 0U) << "control " << id << " is read-only";
   // Typing changes the text character by character, and each change is announced.
   for (std::size_t length = 0; length <= std::min(text.size(), control->limit); ++length) {
     control->text = text.substr(0, length);
@@ -68,11 +79,16 @@ void FakeForm::Type(int id, const std::string& text) {
   }
 }
 
-void FakeForm::Press(int id) { Notify(id, kButtonClicked); }
+void FakeForm::Press(int id) {
+  if (Reach(id, {ControlClass::kButton}) != nullptr) Notify(id, kButtonClicked);
+}
 
 void FakeForm::PressEnter() { Press(default_button_); }
 
 void FakeForm::MoveFocusTo(int id) {
+  const Control* const reached = Reach(id, {ControlClass::kButton, ControlClass::kComboBox,
+                                            ControlClass::kEdit, ControlClass::kListBox});
+  if (reached == nullptr) return;
   const auto is_edit = [this](int key) {
     const Control* const control = Find(key);
     return control != nullptr && control->control_class == ControlClass::kEdit;
@@ -82,9 +98,9 @@ void FakeForm::MoveFocusTo(int id) {
   if (is_edit(id)) Notify(id, kEditEntered);
 }
 
-const std::vector<std::string>& FakeForm::Items(int id) const { return Find(id)->items; }
+const std::vector<std::string>& FakeForm::Items(int id) const { return Existing(id).items; }
 
-int FakeForm::Fills(int id) const { return Find(id)->fills; }
+int FakeForm::Fills(int id) const { return Existing(id).fills; }
 
 std::set<int> FakeForm::ShownKeys() const {
   std::set<int> keys;
@@ -194,7 +210,7 @@ void FakeForm::Scroll(int id, ScrollStep step) {
   control->first_line = std::clamp(control->first_line + (down ? lines : -lines), 0, last);
 }
 
-int FakeForm::FirstVisibleLine(int id) const { return Find(id)->first_line; }
+int FakeForm::FirstVisibleLine(int id) const { return Existing(id).first_line; }
 
 void FakeForm::Show(int key) {
   Control* const control = Find(key);
@@ -206,7 +222,41 @@ void FakeForm::HideAll() {
   for (auto& [key, control] : controls_) control.shown = false;
 }
 
-void FakeForm::Close() { log_.emplace_back("close"); }
+void FakeForm::Close() {
+  log_.emplace_back("close");
+  closed_ = true;
+}
+
+FakeForm::Control* FakeForm::Reach(int id, std::initializer_list<ControlClass> kinds) {
+  if (closed_) {
+    ADD_FAILURE() << "control " << id << " of " << Name() << ", which is closed";
+    return nullptr;
+  }
+  Control* hidden = nullptr;
+  for (const int key : {id, SecondControl(id)}) {
+    Control* const control = Find(key);
+    if (control == nullptr || std::ranges::find(kinds, control->control_class) == kinds.end()) {
+      continue;
+    }
+    if (control->shown) return control;
+    hidden = control;
+  }
+  ADD_FAILURE() << Name() << (hidden == nullptr ? " has no such control: " : " does not show ")
+                << id;
+  return nullptr;
+}
+
+std::string FakeForm::Name() const {
+  if (resource_id_ != 0) return "dialog " + std::to_string(resource_id_);
+  std::string name = "the main window, screen";
+  for (const ScreenRow& screen : Screens()) {
+    const std::vector<int> keys = ::velnor::ShownKeys(screen);
+    if (std::set<int>(keys.begin(), keys.end()) == ShownKeys()) {
+      name += ' ' + std::to_string(screen.id);
+    }
+  }
+  return name;
+}
 
 FakeForm::Control* FakeForm::Find(int key) {
   const auto found = controls_.find(key);
@@ -216,6 +266,14 @@ FakeForm::Control* FakeForm::Find(int key) {
 const FakeForm::Control* FakeForm::Find(int key) const {
   const auto found = controls_.find(key);
   return found == controls_.end() ? nullptr : &found->second;
+}
+
+const FakeForm::Control& FakeForm::Existing(int id) const {
+  static const Control kNone = {.control_class = ControlClass::kStatic, .style = 0};
+  const Control* const control = Find(id);
+  if (control != nullptr) return *control;
+  ADD_FAILURE() << Name() << " has no control " << id;
+  return kNone;
 }
 
 void FakeForm::Notify(int id, int notification) {

@@ -1,12 +1,14 @@
 // Controls that behave as the platform's do, without a window: sorted lists compare letters without
 // regard to case, a refill loses the selection, and notifications come where the platform sends
 // them: from the user's own choices, and from every new text of a single-line edit. Lines of
-// multi-line edits are never too wide, so they break at CR LF only.
+// multi-line edits are never too wide, so they break at CR LF only. It is as strict as the
+// platform: what a person could not do to the window fails the test.
 
 #ifndef VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
 #define VELNOR_TESTS_SUPPORT_FAKE_FORM_H_
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -25,14 +27,17 @@ class FakeForm final : public Form {
 
   FakeForm() = default;
 
-  // All controls of the main window.
+  // All controls of the main window, hidden until its screens show them.
   void AddMainWindowControls();
+  // The controls of a dialog's template, which are all shown.
+  void AddDialogControls(int resource_id);
   void AddControl(int key, ControlClass control_class, std::uint32_t style);
   // Who hears of notifications.
   void SetListener(Listener listener) { listener_ = std::move(listener); }
 
-  // What a person does. An item that the list does not have, or a control that does not exist,
-  // fails the test.
+  // What a person does. The test fails, and nothing happens, when the control does not exist, is
+  // not shown, is of another kind, stands in a dialog that was closed, or cannot be changed; also
+  // when the list does not have the item.
   void Choose(int id, const std::string& item);
   void Type(int id, const std::string& text);
   void Press(int id);
@@ -79,8 +84,8 @@ class FakeForm final : public Form {
   struct Control {
     ControlClass control_class;
     std::uint32_t style;
-    std::string text;
-    std::vector<std::string> items;
+    std::string text = {};
+    std::vector<std::string> items = {};
     int fills = 0;
     int selection = -1;
     std::size_t limit = std::string::npos;  // of what can be typed
@@ -91,11 +96,20 @@ class FakeForm final : public Form {
     void Insert(const std::string& item);
   };
 
+  // The control that a person reaches under this id. Null, with a failure of the test, when there
+  // is none of that kind.
+  Control* Reach(int id, std::initializer_list<ControlClass> kinds);
+  // Which window this is: "dialog 10002", or "the main window" with the screens that look so.
+  std::string Name() const;
   Control* Find(int key);
   const Control* Find(int key) const;
+  // A control that there is not fails the test; the one returned then is empty.
+  const Control& Existing(int id) const;
   void Notify(int id, int notification);
 
   std::map<int, Control> controls_;
+  int resource_id_ = 0;  // of a dialog; 0: this is the main window
+  bool closed_ = false;
   int focused_ = 0;
   int default_button_ = kOkButton;
   std::set<int> number_fields_;

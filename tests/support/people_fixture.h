@@ -3,7 +3,6 @@
 #ifndef VELNOR_TESTS_SUPPORT_PEOPLE_FIXTURE_H_
 #define VELNOR_TESTS_SUPPORT_PEOPLE_FIXTURE_H_
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,29 +12,9 @@ namespace velnor {
 
 class PeopleTest : public ProgramTest {
  protected:
-  static constexpr std::uint32_t kSorted = control_style::kListNotify | control_style::kSortedList;
-
-  void OpenUsers() {
-    users_ = {};
-    users_.AddControl(700, ControlClass::kListBox, kSorted);
-    users_.AddControl(701, ControlClass::kEdit, control_style::kPlain);
-    OpenDialog(202, users_);
-  }
-  void OpenLogin() {
-    login_ = {};
-    login_.AddControl(700, ControlClass::kListBox, kSorted);
-    OpenDialog(200, login_);
-  }
-  void OpenProfile() {
-    profile_ = {};
-    for (const int id : {704, 705}) {
-      profile_.AddControl(id, ControlClass::kEdit, control_style::kPlain);
-    }
-    for (const int id : {706, 707, 708}) {
-      profile_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
-    OpenDialog(204, profile_);
-  }
+  void OpenUsers() { OpenDialog(202, users_); }
+  void OpenLogin() { OpenDialog(200, login_); }
+  void OpenProfile() { OpenDialog(204, profile_); }
   std::vector<std::string> Add(const std::string& name) {
     users_.SetText(701, name);
     users_.Press(702);

@@ -1,6 +1,9 @@
 #include "tests/support/program_fixture.h"
 
+#include <algorithm>
 #include <filesystem>
+
+#include "shell/screens.h"
 
 namespace velnor {
 
@@ -17,6 +20,8 @@ void FakeMainWindow::CloseSessionDialogs() {
 }
 
 void FakeMainWindow::UseForm(FakeForm& form) {
+  form = FakeForm();
+  form.AddDialogControls(opened_resource);
   const auto of_session = std::ranges::find(session_dialogs, opened, &SessionDialog::dialog);
   if (of_session != session_dialogs.end()) of_session->form = &form;
   const std::weak_ptr<Dialog> dialog = opened;
@@ -63,7 +68,13 @@ RecordingCanvas ProgramTest::Open(int command) {
 }
 
 void ProgramTest::OpenDialog(int command, FakeForm& form) {
-  program_->OnCommand(command, kButtonClicked);
+  window_.opened.reset();
+  if (std::ranges::find(MainWindowControls(), command, &ControlRow::id) !=
+      MainWindowControls().end()) {
+    form_.Press(command);
+  } else {
+    program_->OnCommand(command, kButtonClicked);
+  }
   ASSERT_NE(window_.opened, nullptr) << "command " << command << " opened no dialog";
   window_.UseForm(form);
   window_.opened->OnOpen(form);
@@ -75,7 +86,6 @@ void ProgramTest::LogIn(const std::string& name, const std::string& profile) {
   folder_.Write(name + "/info.ASC", profile);
   if (!program_) Start();
   FakeForm login;
-  login.AddControl(700, ControlClass::kListBox, control_style::kSortedList);
   OpenDialog(200, login);
   login.Choose(700, name);
   login.Press(1);

@@ -33,6 +33,7 @@ class FakeMainWindow final : public MainWindow {
   void OpenDialog(int resource_id, std::unique_ptr<Dialog> dialog) override {
     log.push_back("open " + std::to_string(resource_id));
     opened = std::move(dialog);
+    opened_resource = resource_id;
   }
   void OpenSessionDialog(int resource_id, std::unique_ptr<Dialog> dialog) override;
   void CloseSessionDialogs() override;
@@ -57,7 +58,7 @@ class FakeMainWindow final : public MainWindow {
     return has_browser;
   }
 
-  // The dialog opened last has these controls.
+  // The dialog opened last has these controls: those of its template, as new.
   void UseForm(FakeForm& form);
 
   bool has_browser = true;
@@ -68,6 +69,7 @@ class FakeMainWindow final : public MainWindow {
   std::string guide;               // the file that can be opened as the guide
   std::map<int, bool> menu;        // command to whether it can be chosen
   std::shared_ptr<Dialog> opened;  // the last one
+  int opened_resource = 0;         // its template
 
   // Those of the session, as far as they are open; forms of those that are belong to the test.
   struct SessionDialog {
@@ -120,8 +122,8 @@ class ProgramTest : public testing::Test {
   RecordingCanvas Repaint();
   // Chooses the command and repaints.
   RecordingCanvas Open(int command);
-  // Chooses the command, or presses the button, that opens a dialog over `form`, whose controls the
-  // test has added.
+  // Chooses the command, or presses the button, that opens a dialog over `form`, which becomes one
+  // of its controls.
   void OpenDialog(int command, FakeForm& form);
   // Logs `name` in, whose folder is made when it is missing and whose profile gets these five
   // lines; starts the program when nothing has. Boxes of the login are not kept.

@@ -1,4 +1,4 @@
-// The dialogs over the user's own products: adding, removing, finding.
+// The dialog that adds a product of the user's own.
 
 #include <filesystem>
 #include <string>
@@ -11,8 +11,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr std::uint32_t kPlain = control_style::kPlain;
-
 const std::string kTooShort = "ATTENTION! The name of product must be 4-signs long miniumum!";
 const std::string kIncomplete = "Product wasn`t added to database\nSome data are incorrect";
 const std::string kLetters =
@@ -22,15 +20,6 @@ const std::string kAdded = "New product was added to database";
 
 class AddProductTest : public ProgramTest {
  protected:
-  AddProductTest() {
-    for (const int id : {734, 735, 736, 737, 738, 740}) {
-      dialog_.AddControl(id, ControlClass::kEdit, kPlain);
-    }
-    for (const int id : {732, 733}) {
-      dialog_.AddControl(id, ControlClass::kComboBox, control_style::kDropDownList);
-    }
-  }
-
   void Open() {
     Start();
     OpenDialog(240, dialog_);
@@ -119,6 +108,7 @@ TEST_F(AddProductTest, TheListsThatShowItsSubcategoryGetItAndKeepTheirSelection)
   for (const auto& screen : screens) {
     EXPECT_EQ(form_.Items(screen.products).front(), "aaa pie") << screen.command;
     EXPECT_EQ(form_.SelectedText(screen.products), "apples") << screen.command;
+    ProgramTest::Open(screen.command);
     form_.Choose(screen.main_category, "fish");
   }
   FillIn("Aab Pie");
@@ -135,7 +125,6 @@ TEST_F(AddProductTest, WhatCanBeTypedCanBeRemovedAgain) {
   EXPECT_EQ(folder_.Read("data.txt"), "fruits;fresh;" + std::string(59, 'n') + ";100;237;" +
                                           std::string(29, '1') + ";11;34.0;\r\n");
   FakeForm remove;
-  remove.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
   OpenDialog(241, remove);
   remove.Choose(739, std::string(59, 'n'));
   remove.Press(1);
@@ -292,198 +281,6 @@ TEST_F(AddProductTest, CloseClosesAndAddsNothing) {
   dialog_.Press(2);
   EXPECT_EQ(dialog_.Log(), (Texts{"close"}));
   EXPECT_EQ(folder_.Read("data.txt"), "(missing)");
-}
-
-class RemoveProductTest : public ProgramTest {
- protected:
-  RemoveProductTest() {
-    dialog_.AddControl(739, ControlClass::kListBox,
-                       control_style::kListNotify | control_style::kSortedList);
-  }
-  void Open() {
-    Start();
-    OpenDialog(241, dialog_);
-  }
-
-  FakeForm dialog_;
-};
-
-const std::string kFig = "fruits;fresh;figs;100;74;1;0;19;\r\n";
-const std::string kPie = "fruits;fresh;apple pie;100;237;1.9;11;34.0;\r\n";
-
-TEST_F(RemoveProductTest, ListsTheNamesInAlphabeticalOrder) {
-  folder_.Write("data.txt", kFig + kPie + kPie + "abc\r\n");
-  Open();
-  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie", "apple pie", "figs"}));
-}
-
-TEST_F(RemoveProductTest, AMissingFileOpensWithAnEmptyList) {
-  Open();
-  EXPECT_EQ(dialog_.ItemCount(739), 0);
-}
-
-TEST_F(RemoveProductTest, AsksAndRemovesBothOfTwoButOneEntry) {
-  folder_.Write("data.txt", kPie + kFig + kPie);
-  Open();
-  dialog_.Choose(739, "apple pie");
-  dialog_.Press(1);
-  ASSERT_EQ(boxes_.shown.size(), 1U);
-  EXPECT_EQ(boxes_.shown[0].text, "Are You sure??");
-  EXPECT_EQ(boxes_.shown[0].buttons, MessageButtons::kYesNo);
-  EXPECT_EQ(boxes_.shown[0].owner, MessageOwner::kMainWindow);
-  EXPECT_EQ(folder_.Read("data.txt"), kFig);
-  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie", "figs"}));
-  FakeForm reopened;
-  reopened.AddControl(739, ControlClass::kListBox, control_style::kSortedList);
-  OpenDialog(241, reopened);
-  EXPECT_EQ(reopened.Items(739), (Texts{"figs"}));
-}
-
-TEST_F(RemoveProductTest, TheProductIsGoneFromTheListsAtOnce) {
-  folder_.Write("data.txt", kPie);
-  Open();
-  dialog_.Choose(739, "apple pie");
-  dialog_.Press(1);
-  ProgramTest::Open(231);
-  form_.Choose(124, "fruits");
-  form_.Choose(125, "fresh");
-  EXPECT_EQ(form_.ItemCount(126), 29);
-}
-
-// The dialog behind the question can be used.
-TEST_F(RemoveProductTest, WhatIsSelectedWhenTheQuestionIsAnsweredGoes) {
-  folder_.Write("data.txt", kPie + kFig);
-  Open();
-  dialog_.Choose(739, "apple pie");
-  boxes_.while_open = [this] { dialog_.Choose(739, "figs"); };
-  dialog_.Press(1);
-  EXPECT_EQ(folder_.Read("data.txt"), kPie);
-  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie"}));
-}
-
-TEST_F(RemoveProductTest, AListThatShowsItLosesItAndItsSelection) {
-  folder_.Write("data.txt", kPie + kFig);
-  Open();
-  ProgramTest::Open(231);
-  form_.Choose(124, "fruits");
-  form_.Choose(125, "fresh");
-  form_.Choose(126, "apple pie");
-  dialog_.Choose(739, "figs");
-  dialog_.Press(1);
-  EXPECT_EQ(form_.SelectedText(126), "apple pie");
-  dialog_.Choose(739, "apple pie");
-  dialog_.Press(1);
-  EXPECT_EQ(form_.SelectedText(126), std::nullopt);
-  EXPECT_EQ(std::ranges::count(form_.Items(126), "apple pie"), 0);
-  EXPECT_EQ(form_.Text(129), "237");
-}
-
-TEST_F(RemoveProductTest, NoRemovesNothing) {
-  folder_.Write("data.txt", kPie);
-  Open();
-  boxes_.answer = Answer::kNo;
-  dialog_.Choose(739, "apple pie");
-  dialog_.Press(1);
-  EXPECT_EQ(folder_.Read("data.txt"), kPie);
-  EXPECT_EQ(dialog_.Items(739), (Texts{"apple pie"}));
-}
-
-TEST_F(RemoveProductTest, WithNothingSelectedItAsksAndRemovesNothing) {
-  folder_.Write("data.txt", kPie);
-  Open();
-  dialog_.Press(1);
-  EXPECT_TRUE(boxes_.shown.empty());
-  EXPECT_EQ(folder_.Read("data.txt"), kPie);
-}
-
-TEST_F(RemoveProductTest, CloseCloses) {
-  Open();
-  dialog_.Press(2);
-  EXPECT_EQ(dialog_.Log(), (Texts{"close"}));
-}
-
-class SearchTest : public ProgramTest {
- protected:
-  SearchTest() {
-    dialog_.AddControl(728, ControlClass::kEdit, kPlain);
-    dialog_.AddControl(729, ControlClass::kListBox,
-                       control_style::kListNotify | control_style::kSortedList);
-    dialog_.AddControl(730, ControlClass::kButton, kPlain);
-    dialog_.AddControl(731, ControlClass::kButton, kPlain);
-  }
-  void Open() {
-    Start();
-    OpenDialog(149, dialog_);
-  }
-  void Find(const std::string& query) {
-    dialog_.SetText(728, query);
-    dialog_.Press(730);
-  }
-
-  FakeForm dialog_;
-};
-
-TEST_F(SearchTest, OpensInTheQuery) {
-  Open();
-  EXPECT_EQ(dialog_.Log(), (Texts{"focus 728"}));
-}
-
-TEST_F(SearchTest, FindsAndMovesTheFocusToTheButton) {
-  Open();
-  Find("frozen strawberries");
-  EXPECT_EQ(dialog_.Items(729), (Texts{"fruits --> frozen --> frozen strawberries"}));
-  EXPECT_EQ(dialog_.Log(), (Texts{"focus 728", "focus 730"}));
-}
-
-TEST_F(SearchTest, ResultsAddUpUntilReset) {
-  Open();
-  Find("frozen strawberries");
-  Find("frozen strawberries");
-  Find("Frozen");
-  EXPECT_EQ(dialog_.Items(729),
-            (Texts{"-------- not found --------", "fruits --> frozen --> frozen strawberries",
-                   "fruits --> frozen --> frozen strawberries"}));
-  dialog_.Press(731);
-  EXPECT_EQ(dialog_.ItemCount(729), 0);
-  EXPECT_EQ(dialog_.Text(728), "");
-  EXPECT_EQ(dialog_.Log().back(), "focus 730");
-}
-
-TEST_F(SearchTest, AnEmptyQueryFindsNothing) {
-  Open();
-  Find("");
-  EXPECT_EQ(dialog_.Items(729), (Texts{"-------- not found --------"}));
-}
-
-TEST_F(SearchTest, ReadsAHundredAndFortyEightCharacters) {
-  const std::string name(140, 'q');
-  folder_.Write("data.txt", "m;s;" + name + ";\n");
-  Open();
-  Find("s " + name);
-  EXPECT_EQ(dialog_.Items(729), (Texts{"[B] m --> s --> " + name}));
-  dialog_.Press(731);
-  Find(std::string(148, 'z') + name);
-  EXPECT_EQ(dialog_.Items(729), (Texts{"-------- not found --------"}));
-}
-
-TEST_F(SearchTest, ShowsTheUsersProductsAsTheirs) {
-  folder_.Write("data.txt", kPie);
-  Open();
-  Find("apple pie");
-  EXPECT_EQ(dialog_.Items(729).front(), "[B] fruits --> fresh --> apple pie");
-}
-
-TEST_F(SearchTest, ChoosingAResultDoesNothing) {
-  Open();
-  Find("frozen strawberries");
-  dialog_.Choose(729, "fruits --> frozen --> frozen strawberries");
-  EXPECT_EQ(dialog_.ItemCount(729), 1);
-}
-
-TEST_F(SearchTest, CloseCloses) {
-  Open();
-  dialog_.Press(2);
-  EXPECT_EQ(dialog_.Log().back(), "close");
 }
 
 }  // namespace

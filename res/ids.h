@@ -1,0 +1,132 @@
+// The numbers that the resource file and the program share. Both include this, so each stands once:
+// a resource compiler knows no other constants than these. The file of a dialog or a screen wraps
+// its own in constants of C++.
+
+#ifndef VELNOR_RES_IDS_H_
+#define VELNOR_RES_IDS_H_
+
+// What stands alone.
+#define ID_MENU 501
+#define ID_ICON 900
+
+// Commands of the menu bar.
+#define ID_LOGIN 200
+#define ID_LOGOUT 201
+#define ID_USERS 202
+#define ID_EXIT 203
+#define ID_PROFILE 204
+#define ID_WEIGHT_REPORT 210
+#define ID_CALORIE_REPORT 212
+#define ID_RECIPE_REPORT 213
+#define ID_WHR_REPORT 214
+#define ID_BURNED_REPORT 215
+#define ID_BMI 221
+#define ID_WHR 224
+#define ID_BMR 225
+#define ID_COUNTER 231
+#define ID_REQUIREMENT 232
+#define ID_BALANCE 233
+#define ID_BURNED 238
+#define ID_ENERGY 239
+#define ID_ADD_PRODUCT 240
+#define ID_REMOVE_PRODUCT 241
+#define ID_ABOUT 250
+#define ID_EXCHANGES 252
+#define ID_WEIGHT_CHART 270
+#define ID_CALORIE_CHART 271
+#define ID_PROTEIN_CHART 272
+#define ID_FAT_CHART 273
+#define ID_CARBOHYDRATE_CHART 274
+
+// The buttons that every dialog has; Enter and Escape send them.
+#define ID_OK 1
+#define ID_CANCEL 2
+
+// Dialogs, each with its controls.
+#define ID_ABOUT_DIALOG 10000
+
+#define ID_USERS_DIALOG 10001
+#define ID_LOGIN_DIALOG 10002
+#define ID_USER_LIST 700  // of both
+#define ID_USERS_NAME 701
+#define ID_USERS_ADD 702
+#define ID_USERS_REMOVE 703
+
+#define ID_PROFILE_DIALOG 10003
+#define ID_PROFILE_AGE 704
+#define ID_PROFILE_HEIGHT 705
+#define ID_PROFILE_SEX 706
+#define ID_PROFILE_LIFE_STYLE 707
+#define ID_PROFILE_OTHER 708
+
+#define ID_RECORD_DATE 709        // of every record
+#define ID_BODY_RECORD_OTHER 716  // of weight and WHR
+
+#define ID_WEIGHT_RECORD_DIALOG 10004
+#define ID_WEIGHT_RECORD_WEIGHT 710
+#define ID_WEIGHT_RECORD_BMI 711
+
+#define ID_WHR_RECORD_DIALOG 10005
+#define ID_WHR_RECORD_WAIST 713
+#define ID_WHR_RECORD_HIP 714
+#define ID_WHR_RECORD_WHR 715
+
+#define ID_CALORIE_RECORD_DIALOG 10006
+#define ID_CALORIE_RECORD_PROTEIN 717
+#define ID_CALORIE_RECORD_FAT 718
+#define ID_CALORIE_RECORD_CARBOHYDRATE 719
+#define ID_CALORIE_RECORD_WEIGHT 721
+#define ID_CALORIE_RECORD_KCAL 722
+#define ID_CALORIE_RECORD_OTHER 723
+#define ID_CALORIE_RECORD_CARBOHYDRATE_EXCHANGE 746
+#define ID_CALORIE_RECORD_PROTEIN_FAT_EXCHANGE 747
+
+#define ID_RECIPE_RECORD_DIALOG 10007
+#define ID_RECIPE_RECORD_NAME 724
+#define ID_RECIPE_RECORD_RECIPE 725
+
+#define ID_SEARCH_DIALOG 10009
+#define ID_SEARCH_QUERY 728
+#define ID_SEARCH_RESULTS 729
+#define ID_SEARCH_FIND 730
+#define ID_SEARCH_RESET 731
+
+#define ID_ADD_PRODUCT_DIALOG 10010
+#define ID_ADD_PRODUCT_MAIN_CATEGORY 732
+#define ID_ADD_PRODUCT_SUBCATEGORY 733
+#define ID_ADD_PRODUCT_NAME 734
+#define ID_ADD_PRODUCT_MASS 735
+#define ID_ADD_PRODUCT_PROTEIN 736
+#define ID_ADD_PRODUCT_FAT 737
+#define ID_ADD_PRODUCT_CARBOHYDRATE 738
+#define ID_ADD_PRODUCT_CALORIES 740
+
+#define ID_REMOVE_PRODUCT_DIALOG 10011
+#define ID_REMOVE_PRODUCT_NAMES 739
+
+#define ID_BURNED_RECORD_DIALOG 10012
+#define ID_BURNED_RECORD_ACTIVITY 741
+#define ID_BURNED_RECORD_MINUTES 742
+#define ID_BURNED_RECORD_CALORIES 743
+#define ID_BURNED_RECORD_FAT 744
+#define ID_BURNED_RECORD_OTHER 745
+
+#define ID_QUICK_ADD_DIALOG 10020
+#define ID_QUICK_ADD_QUERY 810
+#define ID_QUICK_ADD_MATCHES 811
+#define ID_QUICK_ADD_WEIGHT 812
+#define ID_QUICK_ADD_FIGURES 813
+
+#define ID_PATH 801  // of the dialogs that ask for a file or a folder
+#define ID_BROWSE 802
+
+#define ID_BACK_UP_DIALOG 10021
+
+#define ID_RESTORE_DIALOG 10022
+#define ID_RESTORE_COPIES 811
+
+#define ID_IMPORT_DIALOG 10023
+#define ID_IMPORT_MAIN_CATEGORY 803
+#define ID_IMPORT_SUBCATEGORY 804
+
+#endif  // VELNOR_RES_IDS_H_
