@@ -5,6 +5,7 @@
 
 #include "base/change.h"
 #include "base/note.h"
+#include "shell/own_menu.h"
 
 namespace velnor {
 namespace {
@@ -76,6 +77,20 @@ void ChangeHeight(Scene& scene) {
   profile.Press(1);
 }
 
+// The copy of the day was made by the login. Since then a food has come, the report has gone, and so
+// has Bob's place on the list.
+void SpoilAnnsDay(Scene& scene) {
+  EatTwice(scene);
+  scene.RemoveFile("Ann/waga.ASC");
+  scene.WriteFile("users.ASC", "Ann");
+}
+
+void RestoreTheDay(Scene& scene) {
+  FakeForm& restore = scene.OwnDialog(kRestoreItem);
+  restore.SetText(801, scene.Path("kopie zapasowe/2026-11-16"));
+  restore.Press(1);
+}
+
 // --- limits
 
 void OpenRequirement(Scene& scene) {
@@ -94,7 +109,17 @@ void ClearLimits(Scene& scene) { scene.form().Press(175); }
 
 // --- the day
 
+// For actions that copy all files of Ann's: these have nothing that the others do not show, and every
+// one costs a hundred points.
+void KeepFewFiles(Scene& scene) {
+  for (const char* const file :
+       {"whr.ASC", "mirvo.ASC", "zestaw.ASC", "cwiczenia.ASC", "zapot.ASC", "erg.txt"}) {
+    scene.RemoveFile(std::string("Ann/") + file);
+  }
+}
+
 void MakeItYesterday(Scene& scene) {
+  KeepFewFiles(scene);
   scene.WriteFile("Ann/bilans.ASC", kYesterday);
   scene.WriteFile("Ann/wykoda.txt", "15.11.2026;1800.;70.;60.;200.;\r\n");
 }
@@ -103,6 +128,11 @@ void ForgetTheDay(Scene& scene) {
   for (const char* const file : {"bilans.ASC", "z1.ASC", "z2.ASC", "wykoda.txt"}) {
     scene.RemoveFile(std::string("Ann/") + file);
   }
+}
+
+void ForgetAlmostAll(Scene& scene) {
+  KeepFewFiles(scene);
+  ForgetTheDay(scene);
 }
 
 void RemoveFood(Scene& scene) {
@@ -203,6 +233,7 @@ void ClearReport(Scene& scene) { scene.form().Press(151); }
 
 // More than is shown: what is behind it is kept in a file of its own.
 void LengthenReport(Scene& scene) {
+  KeepFewFiles(scene);
   scene.WriteFile("Ann/waga.ASC", std::string(29'000, '=') + std::string(1'000, '-'));
   scene.WriteFile("Ann/waga.ASC.rest.txt", "kept before");
 }
@@ -267,6 +298,9 @@ std::span<const Action> Actions() {
   static const Saying kNotSaved = {kDayNotSaved, kDay};
   static const Saying kNotListed = {kUsersNotWritten, {"users.ASC"}};
   static const Saying kAdded = {"New product was added to database", {"data.txt"}};
+  static const Saying kRestored = {
+      "The copy is restored. Please log in.",
+      {"Ann/bilans.ASC", "Ann/dziennik.csv", "Ann/waga.ASC", "users.ASC"}};
   // clang-format off
   static const Action kActions[] = {
       {.name = "add a user", .act = AddUser, .says_on_failure = {kNotListed}},
@@ -275,7 +309,7 @@ std::span<const Action> Actions() {
       {.name = "remove a user with the folder", .arrange = ArrangeBobBeforeHisFirstMeal,
        .act = RemoveUser, .says_on_failure = {kNotListed}},
       {.name = "log in on a new day", .arrange = MakeItYesterday, .act = LogAnnIn},
-      {.name = "log in for the first time", .arrange = ForgetTheDay, .act = LogAnnIn},
+      {.name = "log in for the first time", .arrange = ForgetAlmostAll, .act = LogAnnIn},
       {.name = "change the profile", .enter = LogAnnIn, .act = ChangeHeight},
       {.name = "set limits", .enter = OpenRequirement, .act = SetLimits},
       {.name = "clear the limits", .enter = OpenRequirement, .act = ClearLimits},
@@ -289,7 +323,7 @@ std::span<const Action> Actions() {
        .says_on_failure = {kNotSaved}},
       {.name = "open the balance for the first time", .arrange = ForgetTheDay, .enter = LogAnnIn,
        .act = OpenBalance},
-      {.name = "clear the day", .enter = EnterBalance, .act = ClearDay,
+      {.name = "clear the day", .arrange = KeepFewFiles, .enter = EnterBalance, .act = ClearDay,
        .says_on_failure = {kNotSaved}},
       {.name = "open a chart for the first time", .arrange = ForgetTheWeights, .enter = LogAnnIn,
        .act = OpenWeightChart},
@@ -313,9 +347,11 @@ std::span<const Action> Actions() {
       {.name = "add burned calories", .enter = CountBurned, .act = AddBurned},
       {.name = "clear the burned calories", .enter = CountBurned, .act = ClearBurned},
       {.name = "save the burned calories", .enter = CountBurned, .act = SaveBurned},
+      {.name = "restore a copy", .arrange = KeepFewFiles, .enter = SpoilAnnsDay, .act = RestoreTheDay,
+       .says_on_success = {kRestored}},
       {.name = "start over a deed cut off", .enter = CutADeedOff, .act = OpenTheFolder},
       {.name = "paint over a deed cut off", .enter = CutADeedOff, .act = LookAtTheScreen},
-      {.name = "clear a report", .enter = OpenReport, .act = ClearReport},
+      {.name = "clear a report", .arrange = KeepFewFiles, .enter = OpenReport, .act = ClearReport},
       {.name = "clear a report and what was kept", .arrange = LengthenReport, .enter = OpenReport,
        .act = ClearReport},
   };

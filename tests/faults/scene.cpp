@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "base/text_file.h"
+#include "shell/own_menu.h"
 #include "users/backup.h"
 
 namespace velnor {
@@ -85,6 +86,13 @@ void Scene::Restart() {
 
 FakeForm& Scene::Dialog(int command) {
   OpenDialog(command, dialog_);
+  return dialog_;
+}
+
+FakeForm& Scene::OwnDialog(int item) {
+  RunOwnMenuItem(program_->parts(), item);
+  window_.UseForm(dialog_);
+  window_.opened->OnOpen(dialog_);
   return dialog_;
 }
 

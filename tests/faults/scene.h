@@ -49,6 +49,8 @@ class Scene : public DayTest {
 
   // The dialog that `command` opens, or the button of this id on the current screen.
   FakeForm& Dialog(int command);
+  // The one that an item of the menu of our own opens.
+  FakeForm& OwnDialog(int item);
 
   void LogIn(const std::string& name);
   // The person opens the screen, types and presses.
