@@ -60,7 +60,7 @@ const Habit* EatingHabits::Find(std::string_view name) const {
 int DayNumber(std::string_view date) {
   if (!IsIsoDate(date)) return -1;
   const std::chrono::year_month_day day(
-      std::chrono::year(ParseInteger(date.substr(0, 4))),
+      std::chrono::year{ParseInteger(date.substr(0, 4))},
       std::chrono::month(static_cast<unsigned>(ParseInteger(date.substr(5, 2)))),
       std::chrono::day(static_cast<unsigned>(ParseInteger(date.substr(8, 2)))));
   const auto days = std::chrono::sys_days(day).time_since_epoch().count();

@@ -14,7 +14,7 @@
 namespace velnor {
 
 // Bytes of a table. It is many times what the slots of the user's products could hold.
-inline constexpr std::size_t kImportLimit = 8 * 1024 * 1024;
+inline constexpr std::size_t kImportLimit = std::size_t{8} * 1024 * 1024;
 
 // Where a product is filed.
 struct ProductCategory {

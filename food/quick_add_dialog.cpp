@@ -23,7 +23,7 @@ constexpr std::size_t kQueryLimit = 148;
 constexpr std::size_t kShownMatches = 100;  // nobody reads on; typing another letter is quicker
 
 // Fifty years of many foods a day; more would take long to read.
-constexpr std::size_t kHistoryLimit = 64 * 1024 * 1024;
+constexpr std::size_t kHistoryLimit = std::size_t{64} * 1024 * 1024;
 
 struct Step {
   Key key;

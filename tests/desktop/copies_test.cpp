@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/desktop/driver.h"
+#include "tests/desktop/keyboard_fixture.h"
 
 namespace velnor::desktop {
 namespace {
@@ -13,8 +14,8 @@ using Texts = std::vector<std::string>;
 
 constexpr WPARAM kBackUpItem = 0x120;
 constexpr WPARAM kRestoreItem = 0x130;
-constexpr int kCounter = 231;
-constexpr int kBalance = 233;
+constexpr int kOpenCounter = 231;
+constexpr int kOpenBalance = 233;
 constexpr int kClearDay = 165;
 constexpr const char* kProfile = "35\r\n170\r\nwomen\r\nlow\r\nnone";
 
@@ -32,7 +33,7 @@ void LogIn(const App& app) {
 }
 
 void AddFood(const App& app) {
-  app.main().Command(kCounter);
+  app.main().Command(kOpenCounter);
   app.Settle();
   ASSERT_TRUE(app.main().Choose(124, "fruits"));
   ASSERT_TRUE(app.main().Choose(125, "frozen"));
@@ -68,7 +69,7 @@ TEST_F(Copies, ADayClearedByMistakeIsBroughtBack) {
   const auto balance = folder_.Read("Ann/bilans.ASC");
   const auto history = folder_.Read("Ann/dziennik.csv");
   const auto series = folder_.Read("Ann/wykoda.txt");
-  app.main().Command(kBalance);
+  app.main().Command(kOpenBalance);
   app.Settle();
   app.main().Command(kClearDay);
   app.Settle();
@@ -93,7 +94,7 @@ TEST_F(Copies, ADayClearedByMistakeIsBroughtBack) {
   EXPECT_EQ(folder_.Read("Ann/bilans.ASC"), balance);
   EXPECT_EQ(folder_.Read("Ann/dziennik.csv"), history);
   EXPECT_EQ(folder_.Read("Ann/wykoda.txt"), series);
-  EXPECT_FALSE(app.MenuStates().at(kBalance));  // nobody is logged in any more
+  EXPECT_FALSE(app.MenuStates().at(kOpenBalance));  // nobody is logged in any more
   LogIn(app);
   EXPECT_EQ(folder_.Read("Ann/bilans.ASC"), balance);
 }
@@ -136,6 +137,34 @@ TEST_F(Copies, TheFolderPickerOpensAndChangesNothing) {
   app.Settle();
   EXPECT_TRUE(IsWindowEnabled(app.main().handle()));
   EXPECT_EQ(dialog.Text(801), "as typed");
+}
+
+TEST_F(KeyboardOfAnn, EverythingIsCopiedAndBroughtBackWithoutTheMouse) {
+  ChooseFromContextMenu(kBackUpItem);
+  const Window back_up = Popup();
+  EXPECT_EQ(back_up.FocusedId(), 801);
+  EXPECT_TRUE(TypeInto(back_up, 801, "."));  // the start-up folder
+  PressKey(VK_RETURN);
+  EXPECT_NE(AnswerBox(back_up).find(" files were copied and read back."), std::string::npos);
+  ASSERT_TRUE(IsClosed(back_up));
+
+  ChooseFromContextMenu(kRestoreItem);
+  const Window restore = Popup();
+  EXPECT_EQ(restore.FocusedId(), 811);
+  PressKey(VK_DOWN);
+  EXPECT_TRUE(
+      WaitUntil([&] { return restore.Text(801).find("kopie zapasowe") != std::string::npos; }));
+  EXPECT_TRUE(TabTo(restore, 801));
+  EXPECT_TRUE(TabTo(restore, 802));
+  EXPECT_TRUE(TabTo(restore, IDOK));
+  PressKey(VK_SPACE);
+  EXPECT_NE(AnswerBox(restore).find("are replaced by those of the copy"), std::string::npos);
+  EXPECT_EQ(AnswerBox(restore), "The copy is restored. Please log in.");
+  ASSERT_TRUE(IsClosed(restore));
+
+  ChooseFromContextMenu(kRestoreItem);
+  const Window again = Popup();
+  ASSERT_TRUE(Closes(again, VK_ESCAPE));
 }
 
 }  // namespace
