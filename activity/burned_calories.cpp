@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 #include "activity/activity_table.h"
 #include "base/file_calls.h"
@@ -109,14 +110,13 @@ std::string BurnedTotal::Add(std::string_view burned, std::string_view activity,
   if (line.is_readable) {
     const UserFolder& user = *session_.user;
     deed.Replace(user.File(kBurnedFile), session_.date_text + kFieldEnd + total + kFieldEnd);
-    TellHistory(deed, session_, user,
-                {.kind = HistoryKind::kBurned,
-                 .name = std::string(activity),
-                 .amount = ParseNumber(minutes),
-                 .unit = "min",
-                 .kcal = ParseNumber(total) - ParseNumber(line.kcal)});
+    HistoryEntry entry = {.kind = HistoryKind::kBurned,
+                          .name = std::string(activity),
+                          .amount = ParseNumber(minutes),
+                          .unit = "min",
+                          .kcal = ParseNumber(total) - ParseNumber(line.kcal)};
+    if (TellHistory(deed, session_, user, std::move(entry))) deed.CommitUnreported();
   }
-  deed.CommitUnreported();
   return total;
 }
 
@@ -129,10 +129,9 @@ void BurnedTotal::Clear() {
   if (!line.is_readable) return;
   const bool is_of_today = !line.is_empty && !IsOfAnotherDay(line);
   deed.Replace(user.File(kBurnedFile), "");
-  TellHistory(
-      deed, session_, user,
-      {.kind = HistoryKind::kBurnedCleared, .kcal = is_of_today ? -ParseNumber(line.kcal) : 0});
-  deed.CommitUnreported();
+  HistoryEntry entry = {.kind = HistoryKind::kBurnedCleared,
+                        .kcal = is_of_today ? -ParseNumber(line.kcal) : 0};
+  if (TellHistory(deed, session_, user, std::move(entry))) deed.CommitUnreported();
 }
 
 }  // namespace velnor

@@ -68,6 +68,11 @@ constexpr GrowthRow kByHistory[] = {
     {"habits read", {"HabitsRead/0", "HabitsRead/4000", "HabitsRead/40000"}},
 };
 
+constexpr GrowthRow kByLines[] = {
+    {"food added and told", {"FoodTold/1/real_time", "FoodTold/40000/real_time", nullptr}},
+    {"day begun", {"DayBegun/1/real_time", "DayBegun/40000/real_time", nullptr}},
+};
+
 constexpr GrowthRow kByBytes[] = {
     {"record added to a report",
      {"ReportAppend/1000/real_time", "ReportAppend/100000/real_time",
@@ -78,6 +83,8 @@ constexpr GrowthRow kByBytes[] = {
 
 constexpr GrowthRow kByDaysOfHistory[] = {
     {"diary made of a history", {"Diary/30", "Diary/365", "Diary/3652"}},
+    {"copy of a day, three people",
+     {"DailyCopy/30/real_time", "DailyCopy/365/real_time", "DailyCopy/3652/real_time"}},
 };
 
 struct AllowedRow {
@@ -89,6 +96,7 @@ struct AllowedRow {
 // What a person waits for after a key is measured against what is not felt as waiting.
 constexpr AllowedRow kAllowed[] = {
     {"diary of ten years", "Diary/3652", 150'000},
+    {"copy of ten years of three people", "DailyCopy/3652/real_time", 200'000},
 };
 
 // Keeps the median of every benchmark, in microseconds, and says nothing until the end.
@@ -174,6 +182,7 @@ int Run(int argc, char** argv) {
               Grow(medians, kQuickAdd));
   PrintGrowth("quick add, by lines of history", "us", {"0", "4,000", "40,000"},
               Grow(medians, kByHistory));
+  PrintGrowth("by lines of history", "us", {"1", "40,000"}, Grow(medians, kByLines));
   PrintGrowth("by days in the chart", "us", {"1", "20"}, GrowFileWork());
   PrintGrowth("by bytes of a report", "us", {"1,000", "100,000", "10,000,000"},
               Grow(medians, kByBytes));

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/transaction.h"
@@ -54,9 +55,10 @@ void WeightRecordDialog::Write(const UserFolder& user, const WeightRecord& recor
   deed.Append(user.File(kWeightReportFile), WeightRecordLine(record));
   // The chart goes by the days of the calendar, whatever date the report was given.
   const std::string fields[] = {record.weight, record.bmi};
-  TellHistory(deed, session_, user,
-              {.kind = HistoryKind::kWeight, .amount = ParseNumber(record.weight), .unit = "kg"});
-  if (UpdateChartFile(deed, user.File(kWeightSeriesFile), session_.date_text, fields)) {
+  HistoryEntry entry = {
+      .kind = HistoryKind::kWeight, .amount = ParseNumber(record.weight), .unit = "kg"};
+  if (TellHistory(deed, session_, user, std::move(entry)) &&
+      UpdateChartFile(deed, user.File(kWeightSeriesFile), session_.date_text, fields)) {
     deed.CommitUnreported();
   }
 }

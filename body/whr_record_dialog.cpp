@@ -1,6 +1,7 @@
 #include "body/whr_record_dialog.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/transaction.h"
@@ -49,9 +50,8 @@ void WhrRecordDialog::Save(Form& form) {
   if (session_.user) {
     Transaction deed(session_.base_folder);
     deed.Append(session_.user->File(kWhrReportFile), WhrRecordLine(record));
-    TellHistory(deed, session_, *session_.user,
-                {.kind = HistoryKind::kWaistHip, .amount = ParseNumber(record.whr)});
-    deed.CommitUnreported();
+    HistoryEntry entry = {.kind = HistoryKind::kWaistHip, .amount = ParseNumber(record.whr)};
+    if (TellHistory(deed, session_, *session_.user, std::move(entry))) deed.CommitUnreported();
   }
   form.Close();
 }

@@ -91,6 +91,7 @@ std::optional<Today> BeginToday(Transaction& deed, const SessionState& session,
     if (!text->empty()) deed.Replace(exchange_path, "");
   }
   deed.Replace(path, session.date_text);
+  if (!TellNewDay(deed, session, user)) return std::nullopt;
   return Today{{session.date_text}, true};
 }
 
@@ -113,7 +114,7 @@ DayTotals TotalsIn(const BalanceLines& lines) {
 // The totals as the balance file holds them: the history adds up to these.
 double AsStored(double figure) { return ParseNumber(Stored(figure)); }
 
-void Tell(Transaction& deed, const SessionState& session, const UserFolder& user,
+bool Tell(Transaction& deed, const SessionState& session, const UserFolder& user,
           HistoryEntry entry, const DayTotals& before, const DayTotals& after) {
   const auto change = [&](double DayTotals::*figure) {
     return AsStored(after.*figure) - AsStored(before.*figure);
@@ -122,7 +123,7 @@ void Tell(Transaction& deed, const SessionState& session, const UserFolder& user
   entry.protein = change(&DayTotals::protein);
   entry.fat = change(&DayTotals::fat);
   entry.carbohydrate = change(&DayTotals::carbohydrate);
-  TellHistory(deed, session, user, std::move(entry));
+  return TellHistory(deed, session, user, std::move(entry));
 }
 
 }  // namespace
@@ -201,20 +202,21 @@ bool DayBalance::Change(HistoryKind kind, const DayTotals& totals,
       deed.Replace(path, Stored(std::abs(figure) < kLeastExchange ? 0 : figure));
     }
   }
-  Tell(deed, session_, user,
-       {.kind = kind, .name = food.name, .amount = food.weight, .unit = food.weight ? "g" : ""},
-       before, after);
-  return UpdateSeries(deed, user, after) && deed.Commit();
+  HistoryEntry entry = {
+      .kind = kind, .name = food.name, .amount = food.weight, .unit = food.weight ? "g" : ""};
+  return Tell(deed, session_, user, std::move(entry), before, after) &&
+         UpdateSeries(deed, user, after) && deed.Commit();
 }
 
 bool DayBalance::Clear() {
   if (!session_.user) return false;
   const UserFolder& user = *session_.user;
   Transaction deed(session_.base_folder);
-  const std::optional<BalanceLines> lines = ReadLines(user.File(kBalanceFile));
-  if (!lines) return false;
-  const DayTotals before = IsToday(*lines, session_) ? TotalsIn(*lines) : DayTotals{};
-  Tell(deed, session_, user, {.kind = HistoryKind::kDayCleared}, before, {});
+  const std::optional<Today> today = BeginToday(deed, session_, user);
+  if (!today ||
+      !Tell(deed, session_, user, {.kind = HistoryKind::kDayCleared}, TotalsIn(today->lines), {})) {
+    return false;
+  }
   for (const std::string_view file : kExchangeFiles) deed.Replace(user.File(file), "0");
   deed.Replace(user.File(kBalanceFile), session_.date_text);
   return UpdateSeries(deed, user, {}) && deed.Commit();

@@ -55,7 +55,8 @@ class ProgramRun final : private MainWindow {
   void Write(const std::string& name, std::string_view bytes);
   std::string Read(const std::string& name) const;
   Files AllFiles() const;
-  // Makes sure that no file but those named has come, gone or changed since.
+  // Makes sure that no file but those named has come, gone or changed since. Histories may have
+  // grown; copies are nobody's business here.
   void RequireUnchanged(const Files& before, std::initializer_list<std::string_view> but) const;
 
   // A registered user with complete data.

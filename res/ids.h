@@ -117,13 +117,13 @@
 #define ID_QUICK_ADD_WEIGHT 812
 #define ID_QUICK_ADD_FIGURES 813
 
+#define ID_PATH 801  // of the dialogs that ask for a file or a folder
+#define ID_BROWSE 802
+
 #define ID_BACK_UP_DIALOG 10021
 
 #define ID_RESTORE_DIALOG 10022
 #define ID_RESTORE_COPIES 811
-
-#define ID_PATH 801  // of the dialogs that ask for a file
-#define ID_BROWSE 802
 
 #define ID_IMPORT_DIALOG 10023
 #define ID_IMPORT_MAIN_CATEGORY 803

@@ -23,6 +23,7 @@ constexpr std::size_t kDayLength = 10;     // "2026-11-21"
 constexpr std::size_t kMonthLength = 7;    // "2026-11"
 constexpr std::size_t kMomentLength = 17;  // "2026-11-21 130509"
 constexpr std::size_t kAboutLimit = 1000;
+constexpr int kTriedNames = 1000;
 
 std::string InFolder(const std::string& folder, std::string_view name) {
   return folder + std::string(name) + kPathSeparator;
@@ -185,12 +186,14 @@ bool HasCopiesFolder(const std::string& folder) {
   return HasFolder(CopiesFolderOf(folder)) || MakeFolder(folder + std::string(kCopiesFolder));
 }
 
+// The first name that is free; one that is taken when too many are.
 std::string NewCopyPath(const std::string& folder, std::string_view date) {
   const std::string path = folder + "Velnor " + std::string(date);
-  if (!IsThere(path)) return path;
-  int number = 2;
-  while (IsThere(path + " (" + std::to_string(number) + ')')) ++number;
-  return path + " (" + std::to_string(number) + ')';
+  std::string numbered = path;
+  for (int number = 2; number < kTriedNames && IsThere(numbered); ++number) {
+    numbered = path + " (" + std::to_string(number) + ')';
+  }
+  return numbered;
 }
 
 CopySize SizeOfCopy(const std::string& folder) {
@@ -270,8 +273,9 @@ bool MakeCopyBefore(const std::string& folder, const Moment& moment, std::string
   RemoveParts(copies);
   std::string name = moment.date + ' ';
   std::ranges::copy_if(moment.time, std::back_inserter(name), [](char c) { return c != ':'; });
-  // Of several presses within one second each has its copy, under the next number that is free.
-  while (IsThere(copies + name)) name = NextMoment(name);
+  // Of several presses within one second each has its copy, under the next number that is free. On
+  // a disk that has gone every name seems to be taken.
+  for (int i = 0; i < kTriedNames && IsThere(copies + name); ++i) name = NextMoment(name);
   if (!MakeCopy(folder, copies + name, person, about)) return false;
   DiscardOldPresses(copies, name);
   return true;

@@ -9,11 +9,18 @@
 
 namespace velnor {
 
-// Puts the line of `entry` at the end of the user's history, which is made, with its header, when
-// it is missing. The entry is dated with the day of the session and the time of now. A deed whose
-// line cannot be written is not done.
-void TellHistory(Transaction& deed, const SessionState& session, const UserFolder& user,
-                 HistoryEntry entry);
+// Puts the line of `entry` at the end of the user's history. A missing history is begun, as
+// BeginHistory does. The entry is dated with the day of the session and the time of now. A deed
+// whose line cannot be written is not done. Returns false if the deed must not be done because it
+// is not known what stands before the line.
+[[nodiscard]] bool TellHistory(Transaction& deed, const SessionState& session,
+                               const UserFolder& user, HistoryEntry entry);
+
+// Tells that nothing has been eaten on the day of the session: what the history holds of it
+// already, as after a clock was set back, is taken back as kDayCleared. Mostly that is nothing, and
+// nothing is told. Returns false if the history cannot be read.
+[[nodiscard]] bool TellNewDay(Transaction& deed, const SessionState& session,
+                              const UserFolder& user);
 
 // Makes the history of a user who has none from the two chart series: the totals of each day as
 // kImported, the weights of each day as kWeight, without a time. Lines without a sound date are

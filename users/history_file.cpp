@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kDigits = 8;
 constexpr std::size_t kFieldCount = 10;
+constexpr std::size_t kDateLength = 10;
 constexpr std::size_t kMostLineEnds = 8;  // that a name is believed to hold
 
 struct KindRow {
@@ -136,6 +137,11 @@ std::string_view WithoutReturn(std::string_view line) {
   return line;
 }
 
+// Whatever does not, in quotes or without, is no entry.
+bool BeginsWithDate(std::string_view line) {
+  return IsIsoDate(line.substr(line.starts_with('"') ? 1 : 0, kDateLength));
+}
+
 bool HasOpenQuote(std::string_view line) { return std::ranges::count(line, '"') % 2 != 0; }
 
 std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
@@ -190,8 +196,9 @@ std::string TimeText(int hour, int minute, int second) {
 }
 
 bool IsIsoDate(std::string_view date) {
-  if (date.size() != 10 || date[4] != '-' || date[7] != '-' || !IsDigits(date.substr(0, 4)) ||
-      !IsDigits(date.substr(5, 2)) || !IsDigits(date.substr(8, 2))) {
+  if (date.size() != kDateLength || date[4] != '-' || date[7] != '-' ||
+      !IsDigits(date.substr(0, 4)) || !IsDigits(date.substr(5, 2)) ||
+      !IsDigits(date.substr(8, 2))) {
     return false;
   }
   const int year = ParseInteger(date.substr(0, 4));
@@ -208,7 +215,7 @@ std::optional<HistoryEntry> HistoryReader::Next() {
     std::size_t end = first_end;
     // A name may hold line ends; where no entry comes of joining a few lines, the quote that is
     // open costs its own line only.
-    for (std::size_t joined = 0; joined <= kMostLineEnds; ++joined) {
+    for (std::size_t joined = 0; joined <= kMostLineEnds && BeginsWithDate(rest_); ++joined) {
       const std::string_view line = WithoutReturn(rest_.substr(0, end));
       if (std::optional<HistoryEntry> entry = EntryOf(line)) {
         rest_.remove_prefix(std::min(end + 1, rest_.size()));

@@ -125,8 +125,9 @@ TEST_F(Activity, ADayOfBurnedCalories) {
   Answer(box, IDOK);
   app.Settle();
   EXPECT_EQ(app.main().Text(kTotal), "0");
-  EXPECT_EQ(folder_.Names("Zoe"), (Texts{"bilans.ASC", "cwiczenia.ASC", "erg.txt", "info.ASC"}));
-  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "users.ASC"}));
+  EXPECT_EQ(folder_.Names("Zoe"),
+            (Texts{"bilans.ASC", "cwiczenia.ASC", "dziennik.csv", "erg.txt", "info.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "kopie zapasowe", "users.ASC"}));
 }
 
 // The order of the list is the platform's; what every name counts as is asked of every tenth.

@@ -37,7 +37,7 @@ class AnyFolder : public testing::Test {
       const App app(folder);
       SpendDay(app);
     }
-    return Look(folder);
+    return StateOf(folder);
   }
   // Makes the folder, spends the day in it, and gives it a name under which it can be read.
   Snapshot DayIn(const std::wstring& name, void (*more)(const App& app) = nullptr) const {
@@ -56,7 +56,11 @@ class AnyFolder : public testing::Test {
     }
     EXPECT_NE(MoveFileW(made.c_str(), (outer + L"plain").c_str()), 0);
     const Folder plain(outer_.path() + "plain\\");
-    return Look(plain);
+    const Folder copies(plain.path() + std::string(kFolderOfCopies) + '\\');
+    const Texts copied = copies.Names();
+    EXPECT_FALSE(copied.empty());
+    EXPECT_EQ(copied.empty() ? "" : copies.Read(copied[0] + "\\users.ASC"), "Ann");
+    return StateOf(plain);
   }
 
   std::wstring Outer() const { return {outer_.path().begin(), outer_.path().end()}; }

@@ -175,9 +175,9 @@ TEST_F(Day, FromTheFirstFoodToTheNextMorning) {
   EXPECT_EQ(File("z2.ASC"), "0");
   EXPECT_EQ(File("wykoda.txt"),
             "1.1.2020;589.603;14.;29.391;68.86;\r\n" + today + ";0.;0.;0.;0.;\r\n");
-  EXPECT_EQ(folder_.Names("Ann"),
-            (Texts{"bilans.ASC", "cwiczenia.ASC", "info.ASC", "mirvo.ASC", "waga.ASC", "whr.ASC",
-                   "wykoda.txt", "wykwag.txt", "z1.ASC", "z2.ASC", "zestaw.ASC"}));
+  EXPECT_EQ(folder_.Names("Ann"), (Texts{"bilans.ASC", "cwiczenia.ASC", "dziennik.csv", "info.ASC",
+                                         "mirvo.ASC", "waga.ASC", "whr.ASC", "wykoda.txt",
+                                         "wykwag.txt", "z1.ASC", "z2.ASC", "zestaw.ASC"}));
 }
 
 TEST_F(Day, TooLittleIsRefusedWithABox) {
@@ -209,7 +209,7 @@ TEST_F(Day, AReadOnlyDayIsLeftAsItIs) {
   ASSERT_TRUE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL));
   app_.main().Command(127);
   EXPECT_EQ(File("bilans.ASC"), Today() + "\r\n28.\r\n0.7\r\n0.4\r\n5.4");
-  EXPECT_EQ(folder_.Names("Ann").size(), 11U) << "something was left beside the files";
+  EXPECT_EQ(folder_.Names("Ann").size(), 12U) << "something was left beside the files";
 }
 
 }  // namespace

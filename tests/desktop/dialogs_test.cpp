@@ -46,10 +46,10 @@ class Dialogs : public testing::Test {
 };
 
 void ExpectProgramIcon(const App& app, HWND window, const std::string& what) {
-  const DWORD icon = app.Icon();
-  EXPECT_NE(icon, 0U);
-  EXPECT_EQ(app.CaptionIcon(window, ICON_SMALL), icon) << what;
-  EXPECT_EQ(app.CaptionIcon(window, ICON_BIG), icon) << what;
+  const App::Icons icons = app.IconsOf(window);
+  EXPECT_NE(icons.of_program, 0U);
+  EXPECT_EQ(icons.small_one, icons.of_program) << what;
+  EXPECT_EQ(icons.big_one, icons.of_program) << what;
 }
 
 TEST_F(Dialogs, AllCarryTheIconOfTheProgram) {
@@ -204,7 +204,7 @@ TEST_F(Dialogs, ALogoutClosesAProfileThatAsksSomething) {
   app.Settle();
   EXPECT_TRUE(app.IsRunning());
   EXPECT_EQ(folder_.Read("Ann\\info.ASC"), kProfile);
-  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Ann", "kopie zapasowe", "users.ASC"}));
   LogIn(app);
   app.main().Command(232);
   app.Settle();

@@ -263,13 +263,14 @@ std::map<int, bool> App::MenuStates() const {
   return states;
 }
 
-DWORD App::Icon() const {
-  return CallInside("GetClassLongPtrA", {reinterpret_cast<ULONG_PTR>(main_.handle()),
-                                         static_cast<ULONG_PTR>(GCLP_HICON)});
-}
-
-DWORD App::CaptionIcon(HWND window, WPARAM size) const {
-  return CallInside("SendMessageA", {reinterpret_cast<ULONG_PTR>(window), WM_GETICON, size});
+App::Icons App::IconsOf(HWND window) const {
+  Sleep(kQuiet);
+  const auto caption_icon = [&](WPARAM size) {
+    return CallInside("SendMessageA", {reinterpret_cast<ULONG_PTR>(window), WM_GETICON, size});
+  };
+  const auto icon = static_cast<ULONG_PTR>(GCLP_HICON);
+  return {CallInside("GetClassLongPtrA", {reinterpret_cast<ULONG_PTR>(main_.handle()), icon}),
+          caption_icon(ICON_SMALL), caption_icon(ICON_BIG)};
 }
 
 Window App::WaitForPopup(const Window& known) const {

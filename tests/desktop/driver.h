@@ -116,10 +116,12 @@ class App {
   // Whether each item of the menu can be chosen, by its command.
   std::map<int, bool> MenuStates() const;
 
-  // The icon of the program, and the one that a window was given for its caption (ICON_SMALL or
-  // ICON_BIG), by their handles; 0: none. Wine tells other programs nothing of icons.
-  DWORD Icon() const;
-  DWORD CaptionIcon(HWND window, WPARAM size) const;
+  // The icon of the program, and those that a window was given for its caption, by their handles;
+  // 0: none. Wine tells other programs nothing of icons.
+  struct Icons {
+    DWORD of_program, small_one, big_one;
+  };
+  Icons IconsOf(HWND window) const;
 
   // The dialog or message box that is open or opens, other than the dialog `known`; a null handle
   // or an empty box when none comes.
@@ -137,7 +139,8 @@ class App {
  private:
   // Runs a function of the platform with up to five arguments inside the program and returns its
   // result: menus can be read only from within the process they belong to. The program must be
-  // idle: Wine breaks into whatever it is doing to start the call.
+  // idle: Wine breaks into whatever it is doing to start the call, and when that is the taking of
+  // memory, as in a paint, neither comes to an end.
   DWORD CallInside(const char* function, std::vector<ULONG_PTR> arguments) const;
   void AppendMenu(ULONG_PTR menu, std::vector<MenuItem>& items) const;
 

@@ -41,6 +41,7 @@ inline constexpr MenuPlace kRemoveProduct = {5, 1};
 inline constexpr MenuPlace kAbout = {6, 0};
 inline constexpr MenuPlace kExchanges = {6, 1};
 inline constexpr int kOverviewCommand = 236;  // has no menu item
+inline constexpr int kImport = 0x140;         // in the context menu
 
 // The bytes of what the display shows of a part of the window.
 std::vector<char> Look(const Window& window, RECT part);
@@ -53,17 +54,34 @@ class Keyboard : public testing::Test {
   void Settle() const { app_.Settle(); }
 
   void ChooseFromMenuBar(MenuPlace place) const {
+    ChooseWhatShowsABox(place);
+    Settle();
+  }
+  // Some screens show a box when they are painted. Settling paints: it would wait for the answer.
+  void ChooseWhatShowsABox(MenuPlace place) const {
     Settle();
     PressKey(VK_F10);
+    EXPECT_TRUE(WaitUntil([this] { return IsInMenuMode(app_); }));
     for (int i = 0; i < place.popup; ++i) PressKey(VK_RIGHT);
     for (int i = 0; i <= place.item; ++i) PressKey(VK_DOWN);
     PressKey(VK_RETURN);
     WaitUntil([this] { return !IsInMenuMode(app_); });
-    Settle();
   }
   Window OpenDialog(MenuPlace place) const {
     ChooseFromMenuBar(place);
     return Popup();
+  }
+  // From the menu that the keyboard opens over the screen, by the place of the item in it.
+  void ChooseFromContextMenu(int id) const {
+    const OpenMenu menu = OpenMenu::ByKeyboard(app_);
+    ASSERT_TRUE(menu.is_open());
+    for (const App::MenuItem& item : menu.Items()) {
+      if (item.id == 0) continue;  // the arrows pass over a separator
+      PressKey(VK_DOWN);
+      if (item.id == id) break;
+    }
+    PressKey(VK_RETURN);
+    WaitUntil([this] { return !IsInMenuMode(app_); });
   }
   // The dialog that opens, once keys go to it.
   Window Popup() const {
@@ -106,12 +124,25 @@ class Keyboard : public testing::Test {
     GetGUIThreadInfo(GetWindowThreadProcessId(window.handle(), nullptr), &info);
     return info.hwndFocus;
   }
-  // Presses Tab until the control has the focus. Returns false when it never gets it.
+  // Whether it keeps the focus for a moment: a screen that is just being painted takes it from the
+  // control of the one before, which looks like what a key has done.
+  static bool KeepsFocus(const Window& window, HWND control) {
+    constexpr int kLooks = 10;
+    for (int i = 0; i < kLooks; ++i) {
+      if (Focused(window) != control) return false;
+      Sleep(10);
+    }
+    return true;
+  }
+  // Presses Tab until the control has the focus and keeps it. Returns false when it never does.
   static bool TabTo(const Window& window, int id, KeyModifier modifier = KeyModifier::kNone) {
     const HWND wanted = window.Control(id);
     for (int presses = 0; presses < 30; ++presses) {
       const HWND before = Focused(window);
-      if (before == wanted) return true;
+      if (before == wanted) {
+        if (KeepsFocus(window, wanted)) return true;
+        continue;
+      }
       PressKey(VK_TAB, modifier);
       if (!WaitUntil([&] { return Focused(window) != before; })) return false;
     }
@@ -128,7 +159,7 @@ class Keyboard : public testing::Test {
   static bool TypeInto(const Window& window, int id, const std::string& keys) {
     return TypeInto(window, id, keys, keys);
   }
-  void PressButton(const Window& window, int id, WORD key) const {
+  static void PressButton(const Window& window, int id, WORD key) {
     ASSERT_TRUE(TabTo(window, id)) << id;
     PressKey(key);
   }

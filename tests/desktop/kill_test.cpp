@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/desktop/driver.h"
+#include "tests/support/history_sums.h"
 
 namespace velnor::desktop {
 namespace {
@@ -86,6 +87,16 @@ class Kill : public testing::Test {
         << burned;
   }
 
+  // Once what was cut off has been made up for, which the start of the program does.
+  void ExpectHistoryTellsTheDay() const {
+    ExpectWellFormedHistory(File("dziennik.csv"));
+    ExpectToldTotals(File("dziennik.csv"), File("bilans.ASC"));
+    const Texts burned = Split(File("erg.txt"), ";");
+    const ToldDay told = DaysOfHistory(File("dziennik.csv")).begin()->second;
+    EXPECT_NEAR(told.burned.sum, burned.size() < 2 ? 0 : std::atof(burned[1].c_str()),
+                told.burned.Tolerance());
+  }
+
   static constexpr const char* kProfile = "35\r\n170\r\nwomen\r\nlow\r\nnone";
   WorkFolder folder_;
 };
@@ -98,6 +109,7 @@ TEST_F(Kill, AtAnyMomentLeavesWholeFiles) {
   for (int i = 0; i < kills; ++i) {
     const App app(folder_);
     LogIn(app);
+    if (i > 0) ExpectHistoryTellsTheDay();
     app.main().Command(238);
     app.Settle();
     app.main().Choose(159, "swimming");
@@ -126,11 +138,14 @@ TEST_F(Kill, AtAnyMomentLeavesWholeFiles) {
   // The next one starts, and writes what it should.
   const App app(folder_);
   LogIn(app);
+  ExpectHistoryTellsTheDay();
+  EXPECT_GT(DaysOfHistory(File("dziennik.csv")).begin()->second.entries, kills);
   app.main().Command(233);
   app.Settle();
   app.main().Command(165);
   EXPECT_EQ(File("bilans.ASC"), Today());
   EXPECT_EQ(File("z1.ASC"), "0");
+  ExpectHistoryTellsTheDay();
 }
 
 }  // namespace

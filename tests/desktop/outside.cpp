@@ -1,5 +1,6 @@
 #include "tests/desktop/outside.h"
 
+#include <cstddef>
 #include <cstdio>
 #include <stdexcept>
 
@@ -35,6 +36,28 @@ Snapshot Look(const Folder& folder) {
   Snapshot snapshot;
   LookInto(folder, "", snapshot);
   return snapshot;
+}
+
+// Every line but the first begins with the date and the time.
+std::string WithoutTimes(const std::string& history) {
+  constexpr std::size_t kDateLength = 10;
+  constexpr std::size_t kTimeLength = 9;  // with its separator
+  std::string text = history;
+  std::size_t line = text.find('\n') + 1;
+  while (line > 0 && line < text.size()) {
+    text.erase(line + kDateLength, kTimeLength);
+    line = text.find('\n', line) + 1;
+  }
+  return text;
+}
+
+Snapshot StateOf(const Folder& folder) {
+  Snapshot state = Look(folder);
+  std::erase_if(state, [](const auto& file) { return file.first.starts_with(kFolderOfCopies); });
+  for (auto& [path, bytes] : state) {
+    if (path.ends_with("dziennik.csv")) bytes = WithoutTimes(bytes);
+  }
+  return state;
 }
 
 int RunBelowWine(const std::string& command) {

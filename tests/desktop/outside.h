@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver.h"
@@ -18,6 +19,16 @@ namespace velnor::desktop {
 // bytes "(folder)".
 using Snapshot = std::map<std::string, std::string>;
 Snapshot Look(const Folder& folder);
+
+// In the start-up folder.
+inline constexpr std::string_view kFolderOfCopies = "kopie zapasowe";
+
+// What does not differ between two days of the same deeds: all files but the copies, and of the
+// history all but its times.
+Snapshot StateOf(const Folder& folder);
+
+// The bytes of a history without the times of day in its lines.
+std::string WithoutTimes(const std::string& history);
 
 // Runs a command of the shell below Wine, which can do what no call of the platform can, and waits
 // for its end; its status. -1 where there is no such shell.

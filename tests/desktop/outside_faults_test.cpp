@@ -26,14 +26,16 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+constexpr std::string_view kAboutACopy = "opis.txt";
+
 // What the files are after every deed when nothing goes wrong.
 std::vector<Snapshot> SpendDay() {
   const WorkFolder folder;
   const App app(folder);
-  std::vector<Snapshot> states = {Look(folder)};
+  std::vector<Snapshot> states = {StateOf(folder)};
   for (const Deed& deed : WorkingDay()) {
     const Texts said = deed.act(app);
-    states.push_back(Look(folder));
+    states.push_back(StateOf(folder));
     EXPECT_NE(states.back(), states[states.size() - 2]) << deed.name << " changes nothing";
     EXPECT_TRUE(deed.done == nullptr || std::ranges::count(said, deed.done) == 1) << deed.name;
     EXPECT_TRUE(deed.refused == nullptr || std::ranges::count(said, deed.refused) == 0)
@@ -74,6 +76,25 @@ void ExpectTheRightWords(const Deed& deed, const Snapshot& new_state, const Snap
   EXPECT_TRUE(deed.done == nullptr || was_said(deed.done) == done) << deed.done;
 }
 
+// Every copy that has its name is whole: it holds the list of users, the products and the people,
+// or one of these, as they were between two deeds.
+void ExpectWholeCopies(const Folder& folder, const std::vector<Snapshot>& states) {
+  const Folder copies(folder.path() + std::string(kFolderOfCopies) + '\\');
+  for (const std::string& name : copies.Names()) {
+    if (name.ends_with(".part")) continue;
+    Snapshot copy = StateOf(Folder(copies.path() + name + '\\'));
+    copy.erase(std::string(kAboutACopy));
+    const bool is_whole = std::ranges::any_of(states, [&copy](const Snapshot& state) {
+      Snapshot copied = state;
+      std::erase_if(copied, [&copy](const auto& file) {
+        return copy.count(file.first.substr(0, file.first.find('\\'))) == 0;
+      });
+      return copied == copy;
+    });
+    EXPECT_TRUE(is_whole) << name << ": " << testing::PrintToString(copy);
+  }
+}
+
 struct Trouble {
   // Make the disk of a folder refuse, and refuse no longer. What there is can be read in between
   // only if `End` has been called.
@@ -96,14 +117,15 @@ int SpendSpoiltDay(const Folder& folder, const Trouble& trouble) {
     const Texts said = deed.act(app);
     trouble.check();
     trouble.end();
-    const Snapshot now = Look(folder);
+    const Snapshot now = StateOf(folder);
     ExpectOldOrNew(deed, states[i], states[i + 1], now);
     const bool done = now == states[i + 1];
     refused += done ? 0 : 1;
     ExpectTheRightWords(deed, states[i + 1], now, said);
 
     if (!done) deed.act(app);
-    EXPECT_EQ(Look(folder), states[i + 1]) << "when it was done again";
+    EXPECT_EQ(StateOf(folder), states[i + 1]) << "when it was done again";
+    ExpectWholeCopies(folder, states);
     EXPECT_TRUE(app.IsRunning());
     if (testing::Test::HasFailure()) break;
   }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/desktop/open_menu.h"
@@ -9,7 +10,15 @@
 namespace velnor::desktop {
 namespace {
 
+constexpr int kDiaryItem = 0x110;
+constexpr int kBackUpItem = 0x120;
+constexpr int kRestoreItem = 0x130;
 constexpr int kImportItem = 0x140;
+constexpr int kQuickAddItem = 0x150;
+
+// What only the dialogs of these items have.
+constexpr int kBrowse = 802;
+constexpr int kMatches = 811;
 
 struct ExpectedItem {
   int id;
@@ -18,6 +27,10 @@ struct ExpectedItem {
 };
 // What both menus hold.
 const std::vector<ExpectedItem> kExpected = {
+    {kQuickAddItem, "Quick add...\tCtrl+K", true},
+    {kDiaryItem, "Diary...\tCtrl+D", true},
+    {kBackUpItem, "Back up...", false},
+    {kRestoreItem, "Restore...", false},
     {kImportItem, "Import products...", false},
 };
 
@@ -30,6 +43,7 @@ class OwnMenus : public testing::Test {
   }
   static std::vector<std::string> Expected(bool logged_in) {
     std::vector<std::string> lines;
+    lines.reserve(kExpected.size());
     for (const ExpectedItem& item : kExpected) {
       lines.push_back(Line(item.id, item.text, logged_in || !item.needs_user));
     }
@@ -47,7 +61,7 @@ class OwnMenus : public testing::Test {
     }
     return lines;
   }
-  void LogIn(const App& app) const {
+  static void LogIn(const App& app) {
     app.main().Command(200);
     const Window login = app.WaitForPopup();
     login.Choose(700, "Ann");
@@ -67,7 +81,7 @@ class OwnMenus : public testing::Test {
   }
   static std::vector<std::string> ContextLines(const OpenMenu& menu) {
     if (!menu.is_open()) return {"no menu"};
-    const std::vector<std::string> lines = Lines(menu.Items());
+    std::vector<std::string> lines = Lines(menu.Items());
     menu.Close();
     return lines;
   }
@@ -86,13 +100,22 @@ TEST_F(OwnMenus, HoldTheSameItemsGreyWithoutAUser) {
 }
 
 TEST_F(OwnMenus, EachOpensWhatWasChosen) {
+  LogIn(app_);
   for (const auto choose : {ChooseFromTitleBarMenu, ChooseFromContextMenu}) {
-    ASSERT_TRUE(choose(app_, kImportItem));
-    const Window import = app_.WaitForPopup();
-    EXPECT_NE(import.Control(802), nullptr);
-    import.Command(IDCANCEL);
-    ASSERT_TRUE(WaitUntilGone(import.handle()));
+    for (const auto& [item, control] :
+         {std::pair{kQuickAddItem, kMatches}, std::pair{kImportItem, kBrowse}}) {
+      ASSERT_TRUE(choose(app_, item));
+      const Window dialog = app_.WaitForPopup();
+      EXPECT_NE(dialog.Control(control), nullptr);
+      dialog.Command(IDCANCEL);
+      ASSERT_TRUE(WaitUntilGone(dialog.handle()));
+    }
   }
+}
+
+TEST_F(OwnMenus, GreyItemsCannotBeChosen) {
+  EXPECT_FALSE(ChooseFromTitleBarMenu(app_, kQuickAddItem));
+  EXPECT_FALSE(ChooseFromContextMenu(app_, kDiaryItem));
 }
 
 // An edit opens the platform's menu, a list none.

@@ -119,7 +119,7 @@ TEST_F(People, EverythingIsFoundAgainAfterARestart) {
   EXPECT_EQ(app.main().Text(120), " unavailable");
   EXPECT_EQ(app.main().Text(166), "2000");
   EXPECT_EQ(app.main().Text(173), "300");
-  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "adam", "users.ASC"}));
+  EXPECT_EQ(folder_.Names(), (Texts{"Zoe", "adam", "kopie zapasowe", "users.ASC"}));
 }
 
 TEST_F(People, RemovingTheUserLeavesTheActivitiesEnabled) {
@@ -135,7 +135,9 @@ TEST_F(People, RemovingTheUserLeavesTheActivitiesEnabled) {
   dialog = OpenDialog(app, kOpenUsers);
   ASSERT_TRUE(dialog.Choose(700, "Zoe"));
   EXPECT_EQ(PressAndAnswer(app, dialog, 703, IDYES), "Delete user??");
-  EXPECT_TRUE(WaitUntil([this] { return folder_.Names() == Texts{"users.ASC"}; }));
+  EXPECT_TRUE(WaitUntil([this] {
+    return folder_.Names() == Texts{"kopie zapasowe", "users.ASC"};
+  }));
   Close(dialog, IDOK);
   EXPECT_EQ(folder_.Read("users.ASC"), "");
   EXPECT_FALSE(app.main().IsShown(124));

@@ -177,7 +177,7 @@ TEST_F(Reports, ChangesAreSavedOnYesOnly) {
   EXPECT_EQ(File("Ann\\mirvo.ASC"), "77\r\none\r\ntwo\r\n");
   EXPECT_EQ(Shown(), "77\r\none\r\ntwo\r\n");
   EXPECT_EQ(folder_.Names("Ann"),
-            (std::vector<std::string>{"bilans.ASC", "info.ASC", "mirvo.ASC"}));
+            (std::vector<std::string>{"bilans.ASC", "dziennik.csv", "info.ASC", "mirvo.ASC"}));
 }
 
 TEST_F(Reports, ClearErasesOnYesOnly) {
@@ -217,7 +217,7 @@ TEST_F(Reports, AWriteProtectedReportStaysAsItIs) {
   Open(kOpenCalorie);
   EXPECT_EQ(Shown(), Lines(10));
   EXPECT_EQ(folder_.Names("Ann"),
-            (std::vector<std::string>{"bilans.ASC", "info.ASC", "mirvo.ASC"}));
+            (std::vector<std::string>{"bilans.ASC", "dziennik.csv", "info.ASC", "mirvo.ASC"}));
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 

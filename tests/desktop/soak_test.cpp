@@ -13,12 +13,14 @@
 #include <vector>
 
 #include "tests/desktop/driver.h"
+#include "tests/support/history_sums.h"
 
 namespace velnor::desktop {
 namespace {
 
 constexpr std::size_t kMostGrowth = 4 << 20;  // bytes
 constexpr int kDefaultActions = 2000;
+constexpr int kActionsADay = 40;
 constexpr UINT kHangMilliseconds = 20'000;
 
 // Every menu item but Exit and the help, which would start another program.
@@ -175,6 +177,36 @@ void Print(int actions, const Size& size) {
   std::fflush(stdout);
 }
 
+// Of everybody who has logged in. Gives the number of lines.
+int ExpectHistoriesTellTheDays(const WorkFolder& folder) {
+  int lines = 0;
+  for (const std::string& name : folder.Names()) {
+    const std::optional<std::string> history = folder.Read(name + "\\dziennik.csv");
+    if (!history) continue;
+    SCOPED_TRACE(name);
+    ExpectWellFormedHistory(*history);
+    ExpectToldTotals(*history, folder.Read(name + "\\bilans.ASC").value_or("(missing)"));
+    for (const auto& [date, day] : DaysOfHistory(*history)) lines += day.entries;
+  }
+  return lines;
+}
+
+// Somebody logs in, when there is still anybody, and has a food to add.
+void BeginADay(const App& app, const char* name) {
+  app.main().Command(200);
+  const Window login = app.WaitForPopup();
+  login.Choose(700, name);
+  login.PostCommand(IDOK);
+  login.PostCommand(IDCANCEL);
+  ASSERT_TRUE(WaitUntilGone(login.handle()));
+  // Who has been removed meanwhile cannot log in, and what follows may end in boxes.
+  app.main().PostCommand(231);
+  app.main().Choose(124, "fruits");
+  app.main().Choose(125, "frozen");
+  app.main().Choose(126, "frozen strawberries");
+  app.main().PostCommand(127);
+}
+
 TEST(Soak, RandomActionsNeitherStopItNorMakeItGrow) {
   const char* const wanted = std::getenv("VELNOR_SOAK");
   const int actions = wanted == nullptr ? kDefaultActions : std::atoi(wanted);
@@ -189,6 +221,10 @@ TEST(Soak, RandomActionsNeitherStopItNorMakeItGrow) {
   const int warm_up = actions / 4;
   Size before;
   for (int i = 0; i < actions; ++i) {
+    if (i % kActionsADay == 0) {
+      monkey.CloseAll();
+      BeginADay(app, i / kActionsADay % 2 == 0 ? "Ann" : "Bob");
+    }
     ASSERT_TRUE(monkey.Act()) << "no answer after action " << i;
     ASSERT_TRUE(app.IsRunning()) << "it ended after action " << i;
     if (i == warm_up) {
@@ -201,6 +237,9 @@ TEST(Soak, RandomActionsNeitherStopItNorMakeItGrow) {
   ASSERT_TRUE(monkey.Answers());
   const Size after = SizeOf(app.process());
   Print(actions, after);
+  const int lines = ExpectHistoriesTellTheDays(folder);
+  EXPECT_GT(lines, 0);
+  std::printf("%d lines of history\n", lines);
   EXPECT_LE(after.handles, before.handles + 10);
   EXPECT_LE(after.gdi_objects, before.gdi_objects + 10);
   EXPECT_LE(after.user_objects, before.user_objects + 10);

@@ -7,13 +7,14 @@
 #include <utility>
 
 #include "tests/desktop/driver.h"
+#include "tests/desktop/tour_own_menu.h"
 
 namespace velnor::desktop {
 namespace {
 
 class Tour {
  public:
-  explicit Tour(std::string folder) : pictures_(std::move(folder)) {}
+  explicit Tour(std::string folder) : camera_(std::move(folder)) {}
 
   void Walk() const {
     Take("home");
@@ -45,12 +46,14 @@ class Tour {
     WalkProductDialogs();
     WalkUserDialogs();
     WalkDay();
+    WalkFoodAtHand(app_, folder_, camera_);
     WalkBodyScreens();
     WalkReports();
     WalkActivities();
     WalkEnergy();
     WalkOtherSex();
     WalkLimits();
+    WalkCopies(app_, camera_);
 
     app_.main().PostCommand(250);
     const Window about = app_.WaitForPopup();
@@ -350,12 +353,10 @@ class Tour {
   void Take(const std::string& name) const { TakeWindow(app_.main(), name); }
 
   void TakeWindow(const Window& window, const std::string& name) const {
-    app_.Settle();
-    Sleep(200);  // the display draws a moment after the program has finished
-    window.SavePicture(pictures_ + '\\' + name + ".bmp");
+    camera_.Take(app_, window, name);
   }
 
-  std::string pictures_;
+  Camera camera_;
   WorkFolder folder_;
   App app_{folder_};
 };

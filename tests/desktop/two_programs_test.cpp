@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "tests/desktop/driver.h"
+#include "tests/support/history_sums.h"
 
 namespace velnor::desktop {
 namespace {
@@ -206,6 +207,8 @@ TEST_F(TwoPrograms, OnOneUserLoseNothing) {
                                     ';' + balance[4] + ";\r\n");
   // A protein-fat exchange is 100 kcal: 4 of a gram of protein and 9 of one of fat.
   EXPECT_NEAR(std::atof(File("z2.ASC").c_str()), (10 * 4 * foods + 9 * killed) / 100, 0.01);
+  ExpectWellFormedHistory(File("dziennik.csv"));
+  ExpectToldTotals(File("dziennik.csv"), File("bilans.ASC"));
   EXPECT_EQ(Count(File("mirvo.ASC"), Today()),
             static_cast<std::size_t>(done[0].records + done[1].records));
   const Texts products = Lines(folder_.Read("data.txt").value_or(""));
@@ -216,8 +219,12 @@ TEST_F(TwoPrograms, OnOneUserLoseNothing) {
       EXPECT_TRUE(!name.ends_with(".new") && !name.starts_with("velnor.")) << name;
     }
   }
-  std::printf("%d deeds by each of two, %d foods at the end; %d kills, %.0f foods of the killed\n",
-              deeds, foods, kills, killed);
+  const int lines = DaysOfHistory(File("dziennik.csv")).begin()->second.entries;
+  EXPECT_GT(lines, deeds);
+  std::printf(
+      "%d deeds by each of two, %d foods at the end; %d kills, %.0f foods of the killed; "
+      "%d lines of history\n",
+      deeds, foods, kills, killed, lines);
 }
 
 }  // namespace

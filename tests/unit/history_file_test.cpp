@@ -1,8 +1,11 @@
 #include "users/history_file.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -125,6 +128,52 @@ TEST(HistoryReaderTest, TheLastLineNeedsNoEnd) {
   EXPECT_TRUE(ReadAll("").empty());
   EXPECT_TRUE(ReadAll("\"").empty());
   EXPECT_TRUE(ReadAll("\r\n\r\n").empty());
+}
+
+TEST(HistoryReaderTest, ReadsEveryYearAndFigureThatThereIs) {
+  for (const char* const date : {"0001-01-01", "1970-01-01", "9999-12-31"}) {
+    for (const char* const figure : {"1e+30", "-1e+30", "1e-30", "0", "99999999"}) {
+      const std::string line =
+          std::string(date) + ";00:00:00;imported;;;;" + figure + ";;;" + figure + "\r\n";
+      const std::vector<HistoryEntry> entries = ReadAll(line);
+      ASSERT_EQ(entries.size(), 1U) << line;
+      EXPECT_EQ(entries[0].date, date);
+      EXPECT_EQ(entries[0].kcal, std::strtod(figure, nullptr));
+      EXPECT_EQ(entries[0].protein, std::nullopt);
+    }
+  }
+}
+
+TEST(HistoryReaderTest, AMillionSpoiledLinesHideNoneOfTheOthers) {
+  const std::string good = HistoryLine(Food("plums", 100, 45));
+  const std::string spoiled[] = {"\"\n", ";;;;;;;;;\n", "\r\n", "2026-11-21\n"};
+  const std::string open_quotes[] = {"2026-11-21;13:05:09;food;\"x;1;g\n",
+                                     "2026-11-21;13:05:09;food;" + std::string(201, '"') + "\n"};
+  constexpr std::size_t kLines = 1'000'000;
+  constexpr std::size_t kGoodEvery = 100;
+  constexpr std::size_t kOpenEvery = 33;
+  std::string bytes;
+  for (std::size_t i = 0; i < kLines; ++i) {
+    bytes += i % kGoodEvery == 0   ? good
+             : i % kOpenEvery == 0 ? open_quotes[i % std::size(open_quotes)]
+                                   : spoiled[i % std::size(spoiled)];
+  }
+  HistoryReader reader(bytes);
+  std::size_t entries = 0;
+  while (const std::optional<HistoryEntry> entry = reader.Next()) {
+    ++entries;
+    if (entry->name != "plums") FAIL() << "entry " << entries << ": " << entry->name;
+  }
+  EXPECT_EQ(entries, kLines / kGoodEvery);
+}
+
+TEST(HistoryReaderTest, QuotesThatNothingClosesAtTheEnd) {
+  const std::string good = HistoryLine(Food("plums", 100, 45));
+  for (const char* const end :
+       {"\"", "\"\"", "2026-11-21;13:05:09;food;\"", "2026-11-21;13:05:09;food;\"a\"b"}) {
+    EXPECT_EQ(ReadAll(good + end), ReadAll(good)) << end;
+    EXPECT_EQ(ReadAll(std::string(end) + '\n' + good), ReadAll(good)) << end;
+  }
 }
 
 TEST(HistoryDateTest, TurnsTheDateOfTheDayRound) {

@@ -1,6 +1,7 @@
 #include "users/history.h"
 
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -153,6 +154,88 @@ TEST_F(HistoryTest, IsBegunOnceOnly) {
   std::filesystem::remove_all(folder_.path() + "Ann");
   BeginHistory(session_, *session_.user);
   EXPECT_FALSE(std::filesystem::exists(folder_.path() + "Ann"));
+}
+
+TEST_F(HistoryTest, ADayOfTheSeriesIsImportedOnceWithItsLastTotals) {
+  Write("wykoda.txt",
+        "3.3.2026;2000.;70.;60.;250.;\r\n4.3.2026;1.;2.;3.;4.;\r\n"
+        "3.3.2026;500.;5.;6.;7.;\r\n");
+  BeginHistory(session_, *session_.user);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"2026-03-03;;imported;;;;500;5;6;7",
+                                               "2026-03-04;;imported;;;;1;2;3;4"}));
+}
+
+// As when it could not be begun at the login, or was removed since.
+TEST_F(HistoryTest, AMissingHistoryIsBegunByTheNextDeed) {
+  Write("wykoda.txt", "4.3.2026;1500.5;50.;40.;200.;\r\n");
+  ASSERT_TRUE(day_.Add({50, 1, 1, 1}, {}, {"milk", 100}));
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"2026-03-04;;imported;;;;1500.5;50;40;200",
+                                               "2026-03-05;12:00:01;food;milk;100;g;50;1;1;1"}));
+}
+
+TEST_F(HistoryTest, WhatCannotBeImportedLeavesTheDeedUndone) {
+  std::filesystem::create_directory(folder_.path() + "Ann/wykwag.txt");  // can be read as no file
+  EXPECT_FALSE(day_.Add({50, 1, 1, 1}, {}, {"milk", 100}));
+  EXPECT_FALSE(std::filesystem::exists(folder_.path() + "Ann/dziennik.csv"));
+  EXPECT_FALSE(std::filesystem::exists(folder_.path() + "Ann/bilans.ASC"));
+}
+
+// The day begins with nothing then, and the history must not tell of more.
+TEST_F(HistoryTest, AClockSetBackTakesBackWhatWasToldOfTheDay) {
+  ASSERT_TRUE(day_.Add({50, 1, 2, 3}, {}, {"milk", 100}));
+  session_.date_text = "6.3.2026";
+  ASSERT_TRUE(day_.Add({70, 1, 1, 1}, {}, {"plums", 100}));
+  session_.date_text = "5.3.2026";
+  ASSERT_TRUE(day_.StartDayIfNew());
+  EXPECT_EQ(Lines().back(), "2026-03-05;12:00:01;day cleared;;;;-50;-1;-2;-3");
+  const std::size_t told = Lines().size();
+  session_.date_text = "6.3.2026";
+  ASSERT_TRUE(day_.Clear());
+  EXPECT_EQ(Lines().size(), told + 2);  // what began the day, and what was pressed
+  session_.date_text = "5.3.2026";
+  ASSERT_TRUE(day_.StartDayIfNew());
+  EXPECT_EQ(Lines().size(), told + 2);  // there is nothing more to take back
+}
+
+TEST_F(HistoryTest, ADayIsNotBegunOverAHistoryThatCannotBeRead) {
+  std::filesystem::create_directory(folder_.path() + "Ann/dziennik.csv");
+  Write("bilans.ASC", "4.3.2026\r\n50.\r\n1.\r\n1.\r\n1.");
+  EXPECT_FALSE(day_.StartDayIfNew());
+  EXPECT_EQ(Read("bilans.ASC"), "4.3.2026\r\n50.\r\n1.\r\n1.\r\n1.");
+}
+
+// Whatever stands there: no byte of it is written again.
+TEST_F(HistoryTest, OnlyEverGrows) {
+  std::string before = "anything;\"\r\r\n\n\n2026-03-05;x;food\n\x81\x1A;\"unclosed";
+  before += '\0';
+  Write("dziennik.csv", before);
+  BurnedTotal burned(session_);
+  const std::function<void()> deeds[] = {
+      [&] {
+        EXPECT_TRUE(day_.Add({50, 1, 1, 1}, {}, {"a\r\nb;\"c", 100}));
+      },
+      [&] {
+        EXPECT_TRUE(day_.TakeOff({50, 1, 1, 1}, {}, {"milk", 100}));
+      },
+      [&] {
+        EXPECT_TRUE(day_.ClearList({1, 1, 1, 1}, {}));
+      },
+      [&] { EXPECT_TRUE(day_.Clear()); },
+      [&] { burned.Add("50.", "swimming", "5"); },
+      [&] { burned.Clear(); },
+  };
+  for (const auto& deed : deeds) {
+    deed();
+    const std::string after = Read("dziennik.csv");
+    EXPECT_TRUE(after.starts_with(before));
+    EXPECT_GT(after.size(), before.size());
+    before = after;
+  }
+  session_.date_text = "6.3.2026";
+  BeginHistory(session_, *session_.user);
+  EXPECT_EQ(Read("dziennik.csv"), before);
+  ASSERT_TRUE(day_.StartDayIfNew());
+  EXPECT_EQ(Read("dziennik.csv"), before);
 }
 
 }  // namespace

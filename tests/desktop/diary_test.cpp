@@ -1,0 +1,100 @@
+// The diary by its key: three files, and the page in whatever opens pages on this machine.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+#include <string>
+#include <utility>
+
+#include "tests/desktop/keyboard_fixture.h"
+
+namespace velnor::desktop {
+namespace {
+
+// What opens pages on this machine, for as long as the object lives: the command, in which "%1" is
+// the page, or nothing at all when it is empty.
+class BrowserOfMachine {
+ public:
+  explicit BrowserOfMachine(const std::string& command) : before_(Get(kExtension)) {
+    Set(kExtension, kKind);
+    if (!command.empty()) Set(std::string(kKind) + R"(\shell\open\command)", command);
+  }
+  BrowserOfMachine(const BrowserOfMachine&) = delete;
+  BrowserOfMachine& operator=(const BrowserOfMachine&) = delete;
+  ~BrowserOfMachine() {
+    Set(kExtension, before_);
+    RegDeleteTreeA(HKEY_CLASSES_ROOT, kKind);
+  }
+
+  // Whether it is what opens pages now.
+  static bool IsSet() { return Get(kExtension) == kKind; }
+
+ private:
+  static constexpr char kExtension[] = ".html";
+  static constexpr char kKind[] = "velnor.test.page";
+
+  static std::string Get(const std::string& key) {
+    std::string value(MAX_PATH, '\0');
+    DWORD size = MAX_PATH;
+    if (RegGetValueA(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value.data(),
+                     &size) != ERROR_SUCCESS) {
+      return "";
+    }
+    value.resize(size - 1);  // with the NUL
+    return value;
+  }
+  static void Set(const std::string& key, const std::string& value) {
+    RegSetKeyValueA(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, value.c_str(),
+                    static_cast<DWORD>(value.size() + 1));
+  }
+
+  std::string before_;
+};
+
+class DiaryByKey : public KeyboardOfAnn {
+ protected:
+  DiaryByKey() {
+    main().Command(231);
+    Settle();
+    EXPECT_TRUE(main().Choose(124, "fruits"));
+    EXPECT_TRUE(main().Choose(125, "frozen"));
+    EXPECT_TRUE(main().Choose(126, "frozen strawberries"));
+    main().Command(127);
+  }
+  std::string File(const std::string& name) const {
+    return folder_.Read("ann\\" + name).value_or("(none)");
+  }
+  void ExpectTheFiles() const {
+    EXPECT_NE(File("dziennik.html").find("frozen strawberries"), std::string::npos);
+    EXPECT_TRUE(File("dziennik-dni.csv")
+                    .starts_with("\xEF\xBB\xBF"
+                                 "date,kcal,"));
+    EXPECT_NE(File("dziennik-potrawy.csv").find(",food,frozen strawberries,100,g,28,"),
+              std::string::npos);
+  }
+};
+
+TEST_F(DiaryByKey, ThePageIsOpened) {
+  const WorkFolder read;
+  const BrowserOfMachine browser(R"(C:\windows\system32\cmd.exe /c copy "%1" ")" + read.path() +
+                                 "page\"");
+  if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
+  PressKey('D', KeyModifier::kControl);
+  EXPECT_TRUE(WaitUntil([&] { return read.Read("page").value_or("").ends_with("</html>\n"); }));
+  EXPECT_EQ(read.Read("page"), File("dziennik.html"));
+  ExpectTheFiles();
+}
+
+TEST_F(DiaryByKey, WithoutABrowserABoxSaysWhereTheFilesAre) {
+  const BrowserOfMachine none("");
+  if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
+  PressKey('D', KeyModifier::kControl);
+  const std::string box = AnswerBox();
+  for (const char* const name : {"dziennik.html", "dziennik-dni.csv", "dziennik-potrawy.csv"}) {
+    EXPECT_NE(box.find(folder_.path() + "ann\\" + name), std::string::npos) << box;
+  }
+  ExpectTheFiles();
+}
+
+}  // namespace
+}  // namespace velnor::desktop
