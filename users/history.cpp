@@ -97,7 +97,7 @@ constexpr std::optional<double> HistoryEntry::*kFigures[] = {
 // A line is written with eight digits: what it says is off by at most so much of itself.
 constexpr double kRounding = 5e-8;
 
-// What takes back all that the history tells of the date. Nothing when that is nothing.
+// What takes back all that the history tells of the date. Returns nothing if that is nothing.
 std::optional<HistoryEntry> TakenBack(std::string_view history, std::string_view date) {
   HistoryEntry entry = {.kind = HistoryKind::kDayCleared};
   double left[std::size(kFigures)] = {};
