@@ -129,7 +129,9 @@ void ExpectWholeCopies(const Outcome& outcome, const Snapshot& now) {
   for (const auto& [name, copy] : outcome.before.copies) {
     EXPECT_TRUE(now.copies.contains(name) && now.copies.at(name) == copy) << name;
   }
-  for (const auto& [name, copy] : now.copies) {
+  for (const auto& entry : now.copies) {
+    const std::string& name = entry.first;
+    const Files& copy = entry.second;
     if (outcome.before.copies.contains(name)) continue;
     const bool is_whole = std::ranges::any_of(outcome.states, [&](const Files& state) {
       Files copied;
