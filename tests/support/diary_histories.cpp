@@ -127,9 +127,9 @@ std::string HostileHistory(DayNumber last) {
   constexpr std::array<std::string_view, 9> kNames = {
       "<script>console.error('script');fetch('http://127.0.0.1:9/x')</script>",
       "<img src=x onerror=console.error(1)>",
-      "\"><svg onload=console.error(2)></svg><!--",
+      R"("><svg onload=console.error(2)></svg><!--)",
       "</title></style></table></details><h1>loose</h1>",
-      "=HYPERLINK(\"http://127.0.0.1:9\";\"x\")",
+      R"(=HYPERLINK("http://127.0.0.1:9";"x"))",
       "&amp;&lt;&#x3c;b&#62; \x01\x02\x7F\x81\x98 \xB9\xE6\xEA",
       "two\r\nlines;and a semicolon",
       "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
