@@ -141,9 +141,14 @@ App::App(const std::string& program, const std::wstring& folder) {
   std::wstring command_line = L'"' + Wide(program) + L'"';
   STARTUPINFOW start = {};
   start.cb = sizeof start;
-  if (CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     folder.c_str(), &start, &process_) == 0) {
-    throw std::runtime_error("cannot start " + program);
+  // Wine has been seen to refuse the first start of all in a prefix that had just been made.
+  const bool is_started = WaitUntil([&] {
+    return CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                          folder.c_str(), &start, &process_) != 0;
+  });
+  if (!is_started) {
+    throw std::runtime_error("cannot start " + program + ", error " +
+                             std::to_string(GetLastError()));
   }
   HWND window = nullptr;
   WaitUntil([&] {

@@ -96,6 +96,7 @@ TEST(CaloriePlotTest, WithoutADaySaysSo) {
 
 TEST(CaloriePlotTest, ACenturyHasNoMoreBarsThanRoom) {
   std::vector<DiaryDay> days;
+  days.reserve(36500);
   for (int day = 0; day < 36500; ++day) {
     days.push_back({.day = day, .totals = {.kcal = 2000}, .has_food = true});
   }
