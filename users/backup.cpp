@@ -139,8 +139,8 @@ std::vector<std::string> NamesOfCopies(const std::string& copies,
 void RemoveParts(const std::string& copies) {
   for (const FolderEntry& entry : Entries(copies)) {
     if (!entry.is_folder || !entry.name.ends_with(kPart)) continue;
-    const std::string_view name =
-        std::string_view(entry.name).substr(0, entry.name.size() - kPart.size());
+    std::string_view name = entry.name;
+    name.remove_suffix(kPart.size());
     if (IsNameOfDay(name) || IsNameOfMoment(name)) RemoveCopy(copies + entry.name);
   }
 }

@@ -85,7 +85,8 @@ bool ProfileDialog::WouldLoseWhatWasNotRead() const {
   if (was_read_) return false;
   const std::string path = session_.user->File(kProfileFile);
   const std::optional<ProfileLines> lines = ReadProfileLinesToRewrite(path);
-  return lines ? *lines != ProfileLines() : HasFolder(path);
+  if (!lines) return HasFolder(path);
+  return std::ranges::any_of(*lines, [](const std::string& line) { return !line.empty(); });
 }
 
 // A profile that cannot be written is not reported; it counts as long as the session lasts.

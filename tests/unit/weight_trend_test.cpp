@@ -36,6 +36,7 @@ double Weight(int day) { return 80 - 0.05 * day + 0.4 * std::sin(day * 2.1); }
 
 TEST(WeightTrendTest, NoSingleDayBendsIt) {
   std::vector<DayValue> weights;
+  weights.reserve(60);
   for (int day = 0; day < 60; ++day) weights.push_back({day, Weight(day)});
   const std::vector<DayValue> plain = WeightTrend(weights);
   for (const std::size_t bad : {0U, 1U, 30U, 58U, 59U}) {
