@@ -77,8 +77,8 @@ void ChangeHeight(Scene& scene) {
   profile.Press(1);
 }
 
-// The copy of the day was made by the login. Since then a food has come, the report has gone, and so
-// has Bob's place on the list.
+// The copy of the day was made by the login. Since then a food has come, the report has gone, and
+// so has Bob's place on the list.
 void SpoilAnnsDay(Scene& scene) {
   EatTwice(scene);
   scene.RemoveFile("Ann/waga.ASC");
@@ -109,8 +109,8 @@ void ClearLimits(Scene& scene) { scene.form().Press(175); }
 
 // --- the day
 
-// For actions that copy all files of Ann's: these have nothing that the others do not show, and every
-// one costs a hundred points.
+// For actions that copy all files of Ann's: these have nothing that the others do not show, and
+// every one costs a hundred points.
 void KeepFewFiles(Scene& scene) {
   for (const char* const file :
        {"whr.ASC", "mirvo.ASC", "zestaw.ASC", "cwiczenia.ASC", "zapot.ASC", "erg.txt"}) {
