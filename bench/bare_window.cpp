@@ -173,6 +173,8 @@ int Run(HINSTANCE instance, const std::string_view argument, int show_command) {
 }  // namespace
 }  // namespace velnor::bench
 
+// The platform says how it is called.
+// NOLINTNEXTLINE(readability-non-const-parameter)
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR command_line, int show_command) {
   return velnor::bench::Run(instance, command_line, show_command);
 }

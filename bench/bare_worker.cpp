@@ -86,7 +86,7 @@ HWND BareWorker::Control(int id) const {
   return found == children_.end() ? nullptr : found->second;
 }
 
-void BareWorker::Fill(HWND list, const std::vector<std::string>& texts, bool replace) const {
+void BareWorker::Fill(HWND list, const std::vector<std::string>& texts, bool replace) {
   const bool drops_down = HasClass(list, "combobox");
   const bool put_off = !drops_down && (GetWindowLongA(list, GWL_STYLE) & WS_VISIBLE) != 0;
   if (put_off) SendMessageA(list, WM_SETREDRAW, FALSE, 0);

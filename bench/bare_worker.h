@@ -29,7 +29,7 @@ class BareWorker {
  private:
   void Perform(const Step& step);
   HWND Control(int id) const;
-  void Fill(HWND list, const std::vector<std::string>& texts, bool replace) const;
+  static void Fill(HWND list, const std::vector<std::string>& texts, bool replace);
   void ShowScreen(int number);
   void OpenDialog(int resource);
 
