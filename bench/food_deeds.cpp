@@ -128,6 +128,8 @@ void AddList(std::vector<TimedDeed>& deeds) {
                    .press = clear,
                    .once = ChooseProduct,
                    .before = add});
+  // What a function of functions holds is freed with it; the analyser loses sight of that.
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
 }
 
 void AddSearches(std::vector<TimedDeed>& deeds, const FoodTable& food) {

@@ -90,7 +90,7 @@ HWND Stage::Control(int id) const {
   return in_dialog != nullptr ? in_dialog : GetDlgItem(main_, id);
 }
 
-HWND Stage::FindPopup(HWND known) const {
+HWND Stage::FindPopup(HWND known) {
   for (const double begin = Milliseconds(); Milliseconds() - begin < kPatience;) {
     HWND popup = nullptr;
     while ((popup = FindWindowExA(nullptr, popup, kDialogClass, nullptr)) != nullptr) {

@@ -60,7 +60,7 @@ class Stage {
   static void Calm();
 
  private:
-  HWND FindPopup(HWND known) const;
+  static HWND FindPopup(HWND known);
 
   Player player_;
   const desktop::WorkFolder& folder_;

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kText =
     "This could not be done.\n"
     "The computer may be short of memory: close other programs and try again.";
-static_assert(kTitle.data()[kTitle.size()] == '\0');
+static_assert(*(kTitle.data() + kTitle.size()) == '\0');
 
 constexpr const char* kBoxIsOpen = "VelnorFaultBoxIsOpen";  // a property of the main window
 
