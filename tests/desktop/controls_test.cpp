@@ -160,6 +160,7 @@ TEST_F(Controls, AFigureTooWideForItsFieldShowsItsFirstDigits) {
   };
   for (const Field& field : fields) {
     app_.main().Command(field.command);
+    app_.Settle();  // a painting fills the fields
     app_.main().SetText(field.id, field.seen);
     const std::string seen = PixelsOf(app_, field.id, field.width);
     app_.main().SetText(field.id, field.figure);
