@@ -103,9 +103,9 @@ void BareWorker::Fill(HWND list, const std::vector<std::string>& texts, bool rep
 
 // Controls that both screens have are left alone.
 void BareWorker::ShowScreen(int number) {
-  const auto screen = std::ranges::find(Screens(), number, &ScreenRow::id);
+  const auto row = std::ranges::find(Screens(), number, &ScreenRow::id);
   std::vector<HWND> next;
-  for (const int key : ShownKeys(*screen)) next.push_back(children_.at(key));
+  for (const int key : ShownKeys(*row)) next.push_back(children_.at(key));
   for (const HWND child : shown_) {
     if (std::ranges::find(next, child) == next.end()) ShowWindow(child, SW_HIDE);
   }

@@ -65,6 +65,7 @@ std::vector<DayValue> WeekMeans(std::span<const DayValue> values, const DayRange
     while (end < values.size() && values[end].day <= day) ++end;
     while (begin < end && values[begin].day <= day - kWeekDays) ++begin;
     const std::size_t count = end - begin;
+    // cppcheck-suppress knownConditionTrueFalse  // it thinks of the first day alone
     if (count < kLeastOfWeek) continue;
     double sum = 0;
     for (std::size_t i = begin; i < end; ++i) sum += values[i].value;

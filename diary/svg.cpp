@@ -31,13 +31,12 @@ void SvgPath::Dot(const PlotPoint& point) {
   data_ += "h0";
 }
 
-SvgDrawing::SvgDrawing(const Head& head) {
-  text_ = "<svg id=\"" + head.id + "\" class=\"" + std::string(head.css_class) +
-          "\" viewBox=\"0 0 " + Coordinate(head.width) + ' ' + Coordinate(head.height) +
-          R"(" role="img" aria-labelledby=")" + head.id + "-t " + head.id + "-d\"><title id=\"" +
-          head.id + "-t\">" + head.title + "</title><desc id=\"" + head.id + "-d\">" +
-          head.description + "</desc>\n";
-}
+SvgDrawing::SvgDrawing(const Head& head)
+    : text_("<svg id=\"" + head.id + "\" class=\"" + std::string(head.css_class) +
+            "\" viewBox=\"0 0 " + Coordinate(head.width) + ' ' + Coordinate(head.height) +
+            R"(" role="img" aria-labelledby=")" + head.id + "-t " + head.id + "-d\"><title id=\"" +
+            head.id + "-t\">" + head.title + "</title><desc id=\"" + head.id + "-d\">" +
+            head.description + "</desc>\n") {}
 
 void SvgDrawing::Attribute(std::string_view name, double value) {
   text_ += ' ';

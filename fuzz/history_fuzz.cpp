@@ -79,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckEntry(entry);
     CheckWrittenAgain(entry);
   }
-  const EatingHabits habits(input);
+  static_cast<void>(EatingHabits(input));
   ProgramRun run;
   run.MakeUser();
   run.Write(kHistory, input);

@@ -145,7 +145,9 @@ void BeginHistory(const SessionState& session, const UserFolder& user) {
   const std::string path = user.File(kHistoryFile);
   if (IsThere(path) || !HasFolder(path)) return;
   Transaction deed(session.base_folder);
-  if (IsThere(path)) return;  // another program has made it meanwhile
+  // Another program may have made it meanwhile.
+  // cppcheck-suppress knownConditionTrueFalse
+  if (IsThere(path)) return;
   const std::optional<std::string> text = HistoryFromSeries(user);
   if (!text) return;
   deed.Append(path, *text);
