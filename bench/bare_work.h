@@ -67,7 +67,8 @@ inline Work Decode(std::string_view text) {
     std::vector<std::string> fields = Split(line, kFieldEnd);
     if (fields.size() < 2) continue;
     work.push_back(Step{std::move(fields[0]), std::atoi(fields[1].c_str())});
-    work.back().texts.assign(std::move_iterator(fields.begin() + 2), std::move_iterator(fields.end()));
+    work.back().texts.assign(std::move_iterator(fields.begin() + 2),
+                             std::move_iterator(fields.end()));
   }
   return work;
 }
