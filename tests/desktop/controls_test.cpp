@@ -38,14 +38,23 @@ std::string ClassOf(HWND control) {
   return name.data();
 }
 
+// The window manager may be moving the window still: a place counts that was asked for while the
+// window stood.
 RECT PlaceIn(HWND window, HWND control) {
   RECT place = {};
-  if (ClassOf(control) == "combobox") {
-    SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place));
-  } else {
-    GetWindowRect(control, &place);
-  }
-  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+  WaitUntil([&] {
+    RECT before = {};
+    GetWindowRect(window, &before);
+    if (ClassOf(control) == "combobox") {
+      SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place));
+    } else {
+      GetWindowRect(control, &place);
+    }
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    RECT after = {};
+    GetWindowRect(window, &after);
+    return EqualRect(&before, &after) != FALSE;
+  });
   return place;
 }
 
