@@ -94,8 +94,7 @@ constexpr char ToLower(char c) {
   return c;
 }
 
-// By byte, because names are folded by the thousand.
-constexpr std::array<char, 256> kFolded = [] {
+constexpr std::array<char, 256> FoldedLetters() {
   std::array<char, 256> folded = {};
   for (std::size_t byte = 0; byte < folded.size(); ++byte) {
     folded[byte] = ToLower(static_cast<char>(byte));
@@ -107,7 +106,10 @@ constexpr std::array<char, 256> kFolded = [] {
     }
   }
   return folded;
-}();
+}
+
+// By byte, because names are folded by the thousand.
+constexpr std::array<char, 256> kFolded = FoldedLetters();
 
 // The forms of a sequence, by its first byte.
 struct Utf8Form {
