@@ -28,7 +28,7 @@ class VersionBefore : public testing::Test {
                    std::to_string(250 + day) + ".;\r\n";
       weights += start + std::to_string(70 + day) + ",5;24.4;\r\n";
     }
-    const Files files = {
+    Files files = {
         {"users.ASC", "Ann\r\nBob"},
         {"data.txt", "fruits;fresh;apple pie;120;237;1.9;11;34.0;\r\n"},
         {"Ann\\info.ASC", "35\r\n170\r\nwomen\r\nlow\r\nnone"},
@@ -63,9 +63,10 @@ class VersionBefore : public testing::Test {
   // What lies in the folders of the people and beside them, copies apart.
   Files Look(const std::string& below = "") const {
     Files files;
-    for (const std::string folder : {"", "Ann", "Bob"}) {
+    for (const std::string folder : {"", "Ann\\", "Bob\\"}) {
       for (const std::string& name : folder_.Names(below + folder)) {
-        const std::string path = folder.empty() ? name : folder + '\\' + name;
+        std::string path = folder;
+        path += name;
         if (const auto bytes = folder_.Read(below + path)) files[path] = *bytes;
       }
     }
