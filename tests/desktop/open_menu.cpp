@@ -26,7 +26,7 @@ HMENU MenuOf(HWND window) {
 
 }  // namespace
 
-OpenMenu::OpenMenu(const App& app) : app_(app), window_(nullptr) {
+OpenMenu::OpenMenu(const App& app) : app_(app) {
   WaitUntil([&] { return MenuIsOpen(app); });
   window_ = FindMenuWindow(app);
 }

@@ -29,7 +29,7 @@ class OpenMenu {
   explicit OpenMenu(const App& app);
 
   const App& app_;
-  HWND window_;
+  HWND window_ = nullptr;
 };
 
 // Whether a menu of the program is open, and whether one is open or the menu bar has the keyboard.
