@@ -116,7 +116,6 @@ static_assert(std::size(kActivities) == 101);
 
 // Enough to tell the activities of the table apart; the place behind the middle is what tells
 // "march 3km/h" from "march 5km/h".
-// The position behind the middle tells "march 3km/h" from "march 5km/h", which burn differently.
 bool IsNamed(const ActivityRecord& activity, std::string_view name) {
   const int n = Length(name);
   return Length(activity.name) == n &&

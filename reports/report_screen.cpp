@@ -130,8 +130,11 @@ void ReportScreen::ShowFile() {
 
 void ReportScreen::Clear() {
   const std::optional<std::string> path = Path();
-  if (!path || message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
-  copies_.MakeBefore(kClearPress);
+  if (!path) return;
+  // Whose report it is is settled before the question, behind which somebody else may log in.
+  const std::string user = session_.user->name();
+  if (message_boxes_.Show(Question(kSureToClear)) != Answer::kYes) return;
+  copies_.MakeBefore(kClearPress, user);
   if (ClearReport(session_.base_folder, *path)) unsaved_path_.reset();
   window_.Invalidate();
 }
@@ -145,8 +148,9 @@ void ReportScreen::Save() {
   // is taken before.
   const std::string text = form_.ReadText(kTextEdit, kWholeText);
   const Shown shown = shown_;
+  const std::string user = session_.user->name();
   if (message_boxes_.Show(Question(kSureToSave)) != Answer::kYes) return;
-  if (IsCut(*path, shown.bytes)) copies_.MakeBefore(kSavePress);
+  if (IsCut(*path, shown.bytes)) copies_.MakeBefore(kSavePress, user);
   if (SaveReport(session_.base_folder, *path, shown.bytes, text)) {
     unsaved_path_.reset();
   } else {

@@ -236,6 +236,12 @@ std::vector<std::string> PeopleIn(const std::string& folder) {
   return people;
 }
 
+std::string Joined(const std::vector<std::string>& names) {
+  std::string joined;
+  for (const std::string& name : names) joined += (joined.empty() ? "" : ", ") + name;
+  return joined;
+}
+
 bool IsCopy(const std::string& folder) {
   return FileExists(folder + std::string(kRegistryFile)) || !PeopleIn(folder).empty();
 }
@@ -297,11 +303,9 @@ std::vector<ListedCopy> ListCopies(const std::string& folder) {
   for (const FolderEntry& entry : Entries(copies)) {
     if (!entry.is_folder || !(IsNameOfDay(entry.name) || IsNameOfMoment(entry.name))) continue;
     const std::string inner = InFolder(copies, entry.name);
-    std::string people;
-    for (const std::string& name : PeopleIn(inner)) people += (people.empty() ? "" : ", ") + name;
     listed.push_back({.path = copies + entry.name,
                       .name = entry.name,
-                      .people = people,
+                      .people = Joined(PeopleIn(inner)),
                       .about = ReadFile(inner + std::string(kAboutFile), kAboutLimit),
                       .size = SizeOfCopy(inner)});
   }

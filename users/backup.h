@@ -35,6 +35,9 @@ inline constexpr std::size_t kKeptPresses = 20;
 // it.
 std::vector<std::string> PeopleIn(const std::string& folder);
 
+// Names as they are shown: "Ann, Bob".
+std::string Joined(const std::vector<std::string>& names);
+
 // Whether there is something that can be restored: a list of users, or a person's folder.
 bool IsCopy(const std::string& folder);
 

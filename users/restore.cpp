@@ -1,6 +1,7 @@
 #include "users/restore.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -34,6 +35,12 @@ bool AddPerson(ReadCopy& copy, const std::string& folder, const std::string& nam
   });
 }
 
+std::vector<std::string> NamesIn(const ReadCopy& copy) {
+  std::vector<std::string> names;
+  std::ranges::transform(copy.people, std::back_inserter(names), &ReadCopy::Person::name);
+  return names;
+}
+
 bool HasFile(const std::vector<ReadCopy::File>& files, std::string_view name) {
   return std::ranges::find(files, name, &ReadCopy::File::name) != files.end();
 }
@@ -49,14 +56,15 @@ void AddMissing(std::vector<std::string>& names, const std::vector<std::string>&
 }
 
 // The bytes of the list of users as it is afterwards: that of the copy, and behind it whoever is
-// listed now or comes back. `present`: the bytes of now.
+// listed now; where the copy has none, the one of now and behind it the people of the copy. A copy
+// with a list may hold what is left of somebody who had been removed. `present`: the bytes of now.
 std::string ListAfter(const ReadCopy& copy, const std::string& present) {
   const auto file = std::ranges::find(copy.shared, kRegistryFile, &ReadCopy::File::name);
-  const std::string& first = file == copy.shared.end() ? present : file->bytes;
+  const bool has_list = file != copy.shared.end();
+  const std::string& first = has_list ? file->bytes : present;
   UserRegistry registry = ParseUserRegistry(first);
   const std::size_t listed = registry.names.size();
-  AddMissing(registry.names, ParseUserRegistry(present).names);
-  for (const ReadCopy::Person& person : copy.people) AddMissing(registry.names, {person.name});
+  AddMissing(registry.names, has_list ? ParseUserRegistry(present).names : NamesIn(copy));
   return registry.names.size() == listed ? first : RegistryBytes(registry);
 }
 
@@ -90,13 +98,7 @@ std::optional<ReadCopy> ReadCopyIn(const std::string& folder) {
   return is_read ? std::optional(std::move(copy)) : std::nullopt;
 }
 
-std::string PeopleOf(const ReadCopy& copy) {
-  std::string names;
-  for (const ReadCopy::Person& person : copy.people) {
-    names += (names.empty() ? "" : ", ") + person.name;
-  }
-  return names;
-}
+std::string PeopleOf(const ReadCopy& copy) { return Joined(NamesIn(copy)); }
 
 RestoreAnswer Restore(const SessionState& session, const ReadCopy& copy) {
   const std::string& folder = session.base_folder;

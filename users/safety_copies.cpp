@@ -1,6 +1,8 @@
 #include "users/safety_copies.h"
 
-#include "base/file_calls.h"
+#include <algorithm>
+#include <vector>
+
 #include "users/backup.h"
 #include "users/history_file.h"
 
@@ -18,9 +20,8 @@ bool SafetyCopies::MakeOfTheDay() {
 }
 
 void SafetyCopies::MakeBefore(std::string_view press, const std::string& person) {
-  if (!UserFolder::In(session_.base_folder, person) || !IsThere(session_.base_folder + person)) {
-    return;
-  }
+  const std::vector<std::string> people = PeopleIn(session_.base_folder);
+  if (std::ranges::find(people, person) == people.end()) return;
   SayIfMissing(MakeCopyBefore(session_.base_folder, session_.clock->Now(), press, person));
 }
 

@@ -24,8 +24,9 @@ class SafetyCopies {
   [[nodiscard]] bool MakeOfTheDay();
   void SayIfMissing(bool is_made);
 
-  // The copy of the folder of `person`; `press` says what is about to be done, in a few words.
-  // Somebody without a folder has nothing to lose, and gets none.
+  // The copy of the folder of `person`; `press` says what is about to be done, in a few words. Who
+  // is none of the people of the folder has nothing to lose, and gets none: a folder of that name
+  // may hold anything.
   void MakeBefore(std::string_view press, const std::string& person);
 
   // The same for the user who is logged in; nothing when nobody is.

@@ -110,6 +110,22 @@ TEST_F(CopiesTest, ClearRaportCopiesTheReportFirst) {
   EXPECT_EQ(Read("waga.ASC"), "");
 }
 
+// Another window of the program stays usable behind the box.
+TEST_F(CopiesTest, TheReportIsThatOfWhoPressed) {
+  OpenCounter();
+  Write("waga.ASC", "years of records");
+  fs::create_directory(folder_.path() + "Bob");
+  folder_.Write("Bob/info.ASC", "40");
+  Open(kOpenWeightReport);
+  boxes_.while_open = [this] {
+    program_->parts().session.user = UserFolder::In(folder_.path(), "Bob");
+  };
+  form_.Press(151);
+  ASSERT_EQ(PressCopies().size(), 1U);
+  EXPECT_EQ(PressCopies()[0].people, "Ann");
+  EXPECT_EQ(Read("waga.ASC"), "");
+}
+
 TEST_F(CopiesTest, SavingCopiesAReportThatIsLongerThanShownAndNoOther) {
   OpenCounter();
   Write("waga.ASC", "short");
@@ -144,6 +160,15 @@ TEST_F(CopiesOfPeopleTest, AddingANameThatIsThereCopiesItsFilesFirst) {
   ASSERT_EQ(Presses(), Texts{"add user: Ann"});
   EXPECT_EQ(TreeBelow(ListCopies(folder_.path())[0].path)["Ann/info.ASC"], "35");
   EXPECT_EQ(folder_.Read("Ann/info.ASC"), "");
+}
+
+TEST_F(CopiesOfPeopleTest, AFolderThatIsNobodysIsNotCopied) {
+  Start();
+  fs::create_directory(folder_.path() + "Photos");
+  folder_.Write("Photos/cat.jpg", "a large picture");
+  Register("Photos");
+  EXPECT_EQ(Presses(), Texts{});
+  EXPECT_EQ(folder_.Read("Photos/cat.jpg"), "a large picture");
 }
 
 TEST_F(CopiesOfPeopleTest, RemovingAUserCopiesTheirFilesFirst) {

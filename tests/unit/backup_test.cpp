@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/session.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/data_folder.h"
 #include "tests/support/tree.h"
 
 namespace velnor {
@@ -15,24 +15,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class BackupTest : public testing::Test {
+class BackupTest : public DataFolderTest {
  protected:
-  void SetUp() override {
-    Write("users.ASC", "Ann\r\nBob");
-    Write("data.txt", "fruits;fresh;quince;100;57;0.4;0.1;15;\r\n");
-    Write("Ann/info.ASC", "30\r\n170");
-    Write("Ann/waga.ASC", "record\r\n");
-    Write("Bob/info.ASC", "");
-  }
-
-  std::string Base() const { return folder_.path(); }
   std::string Copies() const { return Base() + "kopie zapasowe" + kPathSeparator; }
-
-  void Write(const std::string& name, const std::string& bytes) const {
-    const fs::path path = fs::path(Base()) / name;
-    fs::create_directories(path.parent_path());
-    folder_.Write(name, bytes);
-  }
 
   std::vector<std::string> CopyNames() const {
     std::vector<std::string> names;
@@ -43,8 +28,6 @@ class BackupTest : public testing::Test {
     std::ranges::sort(names);
     return names;
   }
-
-  TemporaryFolder folder_;
 };
 
 TEST_F(BackupTest, ACopyHoldsTheListTheProductsAndEverybody) {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "tests/support/data_folder.h"
 #include "tests/support/file_size_limit.h"
-#include "tests/support/temporary_folder.h"
 #include "tests/support/tree.h"
 #include "users/backup.h"
 
@@ -14,23 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class RestoreTest : public testing::Test {
+class RestoreTest : public DataFolderTest {
  protected:
   void SetUp() override {
-    Write("users.ASC", "Ann\r\nBob");
-    Write("data.txt", "fruits;fresh;quince;100;57;0.4;0.1;15;\r\n");
-    Write("Ann/info.ASC", "30\r\n170");
-    Write("Ann/waga.ASC", "record\r\n");
+    DataFolderTest::SetUp();
     Write("Ann/by hand.txt", "not ours");
-    Write("Bob/info.ASC", "");
     before_ = Data();
     copy_ = MakeCopyIn(Base(), Base(), "2026-11-21").value().path + kPathSeparator;
-  }
-
-  std::string Base() const { return folder_.path(); }
-  void Write(const std::string& name, const std::string& bytes) const {
-    fs::create_directories((fs::path(Base()) / name).parent_path());
-    folder_.Write(name, bytes);
   }
 
   // Everything but the copies.
@@ -46,8 +36,7 @@ class RestoreTest : public testing::Test {
     return Restore(session_, ReadCopyIn(folder).value());
   }
 
-  TemporaryFolder folder_;
-  SessionState session_{.base_folder = folder_.path()};
+  SessionState session_{.base_folder = Base()};
   Tree before_;
   std::string copy_;
 };
@@ -87,6 +76,18 @@ TEST_F(RestoreTest, TheListKeepsItsBytesWhereNobodyIsToBeAdded) {
   Write("users.ASC", "Ann\r\nBob");
   ASSERT_EQ(BringBack(copy), RestoreAnswer::kRestored);
   EXPECT_EQ(Data()["users.ASC"], "Bob\n\nAnn\n");
+}
+
+// The exchange files of a removed person stay, and their folder with them.
+TEST_F(RestoreTest, WhoHadBeenRemovedBeforeTheCopyIsNotListedAgain) {
+  Write("users.ASC", "Ann");
+  fs::remove(Base() + "Bob/info.ASC");
+  Write("Bob/z1.ASC", "8.");
+  const std::string copy = MakeCopyIn(Base(), Base(), "2026-11-22").value().path + kPathSeparator;
+  Write("Bob/z1.ASC", "9.");
+  ASSERT_EQ(BringBack(copy), RestoreAnswer::kRestored);
+  EXPECT_EQ(Data()["users.ASC"], "Ann");
+  EXPECT_EQ(Data()["Bob/z1.ASC"], "8.");
 }
 
 TEST_F(RestoreTest, NamesThatDifferInCaseAloneAreOne) {
