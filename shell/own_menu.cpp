@@ -40,9 +40,9 @@ void OpenBackUp(Parts& parts) {
                                                parts.session, parts.window, parts.message_boxes));
 }
 
-// Who was logged in may not be there any more, and nothing that is known of their day holds.
+// Who is logged in may not be there any more, and nothing that is known of their day holds.
 void OnRestored(Parts& parts) {
-  EndSession(parts);
+  if (parts.session.user) EndSession(parts);
   parts.food.user_products.Load(parts.session.BaseFile(kUserProductsFile));
   parts.OnProductsChanged();
 }

@@ -8,6 +8,7 @@
 
 #include "base/control.h"
 #include "shell/screens.h"
+#include "shell/win32/system_library.h"
 
 namespace velnor {
 namespace {
@@ -19,20 +20,14 @@ constexpr GUID kServicesInterface = {
 constexpr GUID kNameProperty = {
     0x608D3DF8, 0x8128, 0x4AA7, {0xA4, 0x28, 0xF5, 0x5E, 0x49, 0x26, 0x72, 0x91}};
 
-template <typename Function>
-Function FindFunction(HMODULE library, const char* name) {
-  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-}
-
 struct Releaser {
   void operator()(IUnknown* object) const { object->Release(); }
 };
 using Services = std::unique_ptr<IAccPropServices, Releaser>;
 
-// The library is loaded here and not with the program, which would start the later for it. It
-// stays: the names are kept by what it has made.
+// The library stays: the names are kept by what it has made.
 Services OpenServices() {
-  const HMODULE library = LoadLibraryExA("ole32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  const HMODULE library = LoadSystemLibrary("ole32.dll");
   if (library == nullptr) return nullptr;
   const auto initialize = FindFunction<decltype(&CoInitializeEx)>(library, "CoInitializeEx");
   const auto create = FindFunction<decltype(&CoCreateInstance)>(library, "CoCreateInstance");

@@ -6,6 +6,7 @@
 #include <shlobj.h>
 #include <type_traits>
 
+#include "shell/win32/system_library.h"
 #include "shell/win32/wide_path.h"
 
 namespace velnor {
@@ -18,24 +19,6 @@ struct LibraryCloser {
 };
 using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 
-std::wstring Wide(std::string_view text) {
-  const auto size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  wide.resize(static_cast<std::size_t>(length));
-  return wide;
-}
-
-// The libraries are loaded here and not with the program, which would start the later for them.
-HMODULE LoadSystemLibrary(const char* name) {
-  return LoadLibraryExA(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-}
-
-template <typename Function>
-Function FindFunction(HMODULE library, const char* name) {
-  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-}
-
 }  // namespace
 
 std::optional<std::string> PickFile(HWND owner, const FileKind& kind) {
@@ -45,8 +28,8 @@ std::optional<std::string> PickFile(HWND owner, const FileKind& kind) {
       FindFunction<decltype(&GetOpenFileNameW)>(library.get(), "GetOpenFileNameW");
   if (open_file_dialog == nullptr) return std::nullopt;
 
-  std::wstring filter = Wide(kind.name);
-  filter.append(1, L'\0').append(Wide(kind.patterns)).append(2, L'\0');
+  std::wstring filter = WideText(kind.name);
+  filter.append(1, L'\0').append(WideText(kind.patterns)).append(2, L'\0');
   std::wstring path(kPathLimit, L'\0');
   OPENFILENAMEW question = {};
   question.lStructSize = sizeof question;
@@ -70,7 +53,7 @@ std::optional<std::string> PickFolder(HWND owner, std::string_view title) {
   const auto free_memory = FindFunction<decltype(&CoTaskMemFree)>(memory.get(), "CoTaskMemFree");
   if (browse == nullptr || path_of == nullptr || free_memory == nullptr) return std::nullopt;
 
-  const std::wstring wide_title = Wide(title);
+  const std::wstring wide_title = WideText(title);
   BROWSEINFOW question = {};
   question.hwndOwner = owner;
   question.lpszTitle = wide_title.c_str();

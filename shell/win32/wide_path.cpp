@@ -73,15 +73,19 @@ std::string StartUpFolder() {
   return folder.ends_with('\\') ? folder : folder + '\\';
 }
 
-std::wstring WidePath(const std::string& path) {
+std::wstring WideText(std::string_view text) {
   std::wstring wide;
-  std::string_view rest = path;
-  while (!rest.empty()) {
-    const std::optional<wchar_t> escaped = EscapedUnit(rest);
-    const std::size_t length = escaped ? kEscape : rest.find('<', 1);
-    wide += escaped ? std::wstring(1, *escaped) : Wide(rest.substr(0, length));
-    rest.remove_prefix(std::min(length, rest.size()));
+  while (!text.empty()) {
+    const std::optional<wchar_t> escaped = EscapedUnit(text);
+    const std::size_t length = escaped ? kEscape : text.find('<', 1);
+    wide += escaped ? std::wstring(1, *escaped) : Wide(text.substr(0, length));
+    text.remove_prefix(std::min(length, text.size()));
   }
+  return wide;
+}
+
+std::wstring WidePath(const std::string& path) {
+  std::wstring wide = WideText(path);
   if (wide.size() < kClassicLimit || wide.starts_with(kUnlimited)) return wide;
   std::ranges::replace(wide, L'/', L'\\');
   if (IsAbsolute(wide)) return std::wstring(kUnlimited) + wide;

@@ -6,6 +6,7 @@
 #define VELNOR_SHELL_WIN32_WIDE_PATH_H_
 
 #include <string>
+#include <string_view>
 
 namespace velnor {
 
@@ -15,6 +16,9 @@ std::string StartUpFolder();
 // The path for calls of the system. One that is too long for the classic form gets the prefix that
 // lifts the limit; it must be absolute then.
 std::wstring WidePath(const std::string& path);
+
+// A text that may hold such paths, as a person is to read it.
+std::wstring WideText(std::string_view text);
 
 // A name as the system gives it, as the program writes it.
 std::string NarrowPath(const std::wstring& path);

@@ -9,7 +9,7 @@
 #include "shell/win32/dialog_host.h"
 #include "shell/win32/fault_barrier.h"
 #include "shell/win32/file_picker.h"
-#include "shell/win32/guide.h"
+#include "shell/win32/shell_open.h"
 #include "shell/win32/wide_path.h"
 #include "users/history_file.h"
 
@@ -322,17 +322,7 @@ void Win32MainWindow::OpenHelp(std::string_view file_name) {
 // The library is loaded when it is needed: most runs of the program open no page. It stays, since
 // what it started may still be at work in it.
 bool Win32MainWindow::OpenInBrowser(const std::string& path) {
-  using ShellExecuteFunction =
-      HINSTANCE(WINAPI*)(HWND, const char*, const char*, const char*, const char*, int);
-  constexpr INT_PTR kLastError = 32;
-  const HMODULE library = LoadLibraryExA("shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (library == nullptr) return false;
-  // The platform gives every function the same type; void() is the one no warning is about.
-  const auto address = reinterpret_cast<void (*)()>(GetProcAddress(library, "ShellExecuteA"));
-  const auto execute = reinterpret_cast<ShellExecuteFunction>(address);
-  if (execute == nullptr) return false;
-  const HINSTANCE result = execute(window_, "open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-  return reinterpret_cast<INT_PTR>(result) > kLastError;
+  return velnor::OpenInBrowser(window_, path);
 }
 
 }  // namespace velnor

@@ -1,9 +1,9 @@
 #include "shell/win32/win32_message_boxes.h"
 
 #include <array>
-#include <string>
 
 #include "shell/win32/caption_icon.h"
+#include "shell/win32/wide_path.h"
 
 namespace velnor {
 namespace {
@@ -19,8 +19,9 @@ Answer Win32MessageBoxes::Show(const Message& message) {
   const UINT style = kButtons[static_cast<std::size_t>(message.buttons)] |
                      kIcons[static_cast<std::size_t>(message.icon)];
   const BoxIcons icons;
-  const int pressed = MessageBoxA(owner, std::string(message.text).c_str(),
-                                  std::string(message.caption).c_str(), style);
+  // Some boxes name a file, whose path may have letters that the code page lacks.
+  const int pressed =
+      MessageBoxW(owner, WideText(message.text).c_str(), WideText(message.caption).c_str(), style);
   if (message.buttons == MessageButtons::kOk) return Answer::kOk;
   return pressed == IDYES ? Answer::kYes : Answer::kNo;
 }

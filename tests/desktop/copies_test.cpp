@@ -158,7 +158,11 @@ TEST_F(KeyboardOfAnn, EverythingIsCopiedAndBroughtBackWithoutTheMouse) {
   EXPECT_TRUE(TabTo(restore, 802));
   EXPECT_TRUE(TabTo(restore, IDOK));
   PressKey(VK_SPACE);
-  EXPECT_NE(AnswerBox(restore).find("are replaced by those of the copy"), std::string::npos);
+  const MessageBoxSeen question = app_.WaitForMessageBox(restore);
+  EXPECT_NE(question.text.find("are replaced by those of the copy"), std::string::npos);
+  EXPECT_TRUE(ComesToTheFront(Window(question.handle)));
+  PressKey(VK_RETURN);
+  EXPECT_TRUE(WaitUntilGone(question.handle));
   EXPECT_EQ(AnswerBox(restore), "The copy is restored. Please log in.");
   ASSERT_TRUE(IsClosed(restore));
 

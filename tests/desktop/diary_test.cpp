@@ -93,6 +93,38 @@ TEST_F(DiaryByKey, ThePageIsOpened) {
   ExpectTheFiles();
 }
 
+// The code page of the machine has no such letter, or a browser of another one gets no such page.
+TEST(Diary, IsOpenedInAFolderOfAnyName) {
+  const WorkFolder told;
+  if (RunBelowWine("true") != 0) GTEST_SKIP() << "there is no shell below";
+  const std::string below = QuotedUnixPath(told.path());
+  told.Write("script",
+             "printf %s \"$1\" >" + below + "/new && mv " + below + "/new " + below + "/page\n");
+  const BrowserOfMachine browser(R"("Z:\bin\sh" )" + below + "/script \"%1\"");
+  if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
+  const WorkFolder outer;
+  const std::wstring folder =
+      std::wstring(outer.path().begin(), outer.path().end()) + L"\u0434\u043E\u043C";
+  ASSERT_NE(CreateDirectoryW(folder.c_str(), nullptr), 0);
+  ASSERT_NE(CreateDirectoryW((folder + L"\\Ann").c_str(), nullptr), 0);
+  outer.Write("users.ASC", "Ann");
+  ASSERT_NE(
+      MoveFileW((std::wstring(outer.path().begin(), outer.path().end()) + L"users.ASC").c_str(),
+                (folder + L"\\users.ASC").c_str()),
+      0);
+  const App app(ProgramPath(), folder);
+  app.main().Command(200);
+  const Window login = app.WaitForPopup();
+  ASSERT_TRUE(login.Choose(700, "Ann"));
+  app.CommandAndAnswer(login, IDOK);
+  ASSERT_TRUE(WaitUntilGone(login.handle()));
+  PostMessageA(app.main().handle(), WM_SYSCOMMAND, 0x110, 0);
+  EXPECT_TRUE(WaitUntil([&] { return told.Read("page").has_value(); }));
+  const std::string page = told.Read("page").value_or("");
+  EXPECT_TRUE(page.ends_with("\\Ann\\dziennik.html")) << page;
+  EXPECT_EQ(page.find('<'), std::string::npos) << page;
+}
+
 TEST_F(DiaryByKey, WithoutABrowserABoxSaysWhereTheFilesAre) {
   const BrowserOfMachine none("");
   if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";

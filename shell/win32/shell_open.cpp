@@ -1,8 +1,11 @@
-#include "shell/win32/guide.h"
+#include "shell/win32/shell_open.h"
 
 #include <array>
 #include <shellapi.h>
 #include <string>
+
+#include "shell/win32/system_library.h"
+#include "shell/win32/wide_path.h"
 
 namespace velnor {
 namespace {
@@ -27,27 +30,28 @@ bool IsFile(const std::wstring& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-template <typename Function>
-Function FindFunction(HMODULE library, const char* name) {
-  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+// The library stays: what it has started may go on in the background.
+bool Open(HWND owner, const wchar_t* file, const wchar_t* parameters) {
+  const HMODULE library = LoadSystemLibrary("shell32.dll");
+  if (library == nullptr) return false;
+  const auto execute = FindFunction<decltype(&ShellExecuteW)>(library, "ShellExecuteW");
+  if (execute == nullptr) return false;
+  const HINSTANCE result = execute(owner, L"open", file, parameters, nullptr, SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 
-// The library is loaded here and not with the program, which would start the later for it. It
-// stays: what it has started may go on in the background.
-bool OpenText(HWND owner, const std::wstring& path) {
-  const HMODULE library = LoadLibraryExA("shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+bool HasReader(const std::wstring& path) {
+  const HMODULE library = LoadSystemLibrary("shell32.dll");
   if (library == nullptr) return false;
   const auto find = FindFunction<decltype(&FindExecutableW)>(library, "FindExecutableW");
-  const auto execute = FindFunction<decltype(&ShellExecuteW)>(library, "ShellExecuteW");
-  if (find == nullptr || execute == nullptr) return false;
   std::array<wchar_t, MAX_PATH> reader = {};
-  const bool has_reader =
-      reinterpret_cast<INT_PTR>(find(path.c_str(), nullptr, reader.data())) > kLastError;
-  const std::wstring quoted = L'"' + path + L'"';
-  const HINSTANCE result =
-      has_reader ? execute(owner, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL)
-                 : execute(owner, L"open", L"notepad.exe", quoted.c_str(), nullptr, SW_SHOWNORMAL);
-  return reinterpret_cast<INT_PTR>(result) > kLastError;
+  return find != nullptr &&
+         reinterpret_cast<INT_PTR>(find(path.c_str(), nullptr, reader.data())) > kLastError;
+}
+
+bool OpenText(HWND owner, const std::wstring& path) {
+  if (HasReader(path)) return Open(owner, path.c_str(), nullptr);
+  return Open(owner, L"notepad.exe", (L'"' + path + L'"').c_str());
 }
 
 }  // namespace
@@ -58,6 +62,10 @@ bool OpenGuideFile(HWND owner, std::string_view name) {
     if (IsFile(path)) return OpenText(owner, path);
   }
   return false;
+}
+
+bool OpenInBrowser(HWND owner, const std::string& path) {
+  return Open(owner, WidePath(path).c_str(), nullptr);
 }
 
 }  // namespace velnor
