@@ -298,6 +298,17 @@ TEST_F(RestoreDialogTest, TheProductsAreThoseOfTheCopyAtOnce) {
   EXPECT_EQ(program_->parts().food.user_products.products().size(), 1U);
 }
 
+TEST_F(RestoreDialogTest, WithNobodyLoggedInTheMenuStaysAsItWas) {
+  program_->OnCommand(201, 0);
+  boxes_.TakeTexts();
+  window_.menu.clear();
+  OpenOwn(kRestoreItem);
+  dialog_.Choose(811, dialog_.ItemText(811, 0));
+  dialog_.Press(1);
+  EXPECT_EQ(boxes_.shown.back().text, "The copy is restored. Please log in.");
+  EXPECT_TRUE(window_.menu.empty());
+}
+
 TEST_F(RestoreDialogTest, NoChangesNothing) {
   const Tree before = TreeBelow(folder_.path());
   boxes_.answer = Answer::kNo;
