@@ -162,9 +162,9 @@ bool Transaction::Prepare() {
   });
   std::ranges::stable_sort(changes_, {}, &Change::kind);
   return IsAlone() || std::ranges::all_of(changes_, [this](const Change& change) {
-           return change.kind == ChangeKind::kMakeFolder ||
-                  change.kind == ChangeKind::kRemoveFolder ||
-                  CanBeChanged(PathOf(folder_, change.path));
+           const bool takes_a_place =
+               change.kind == ChangeKind::kReplace || change.kind == ChangeKind::kRemove;
+           return !takes_a_place || CanBeChanged(PathOf(folder_, change.path));
          });
 }
 
