@@ -1,11 +1,16 @@
 #include "shell/win32/gdi_canvas.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 
 #include "shell/screens.h"
 
 namespace velnor {
 namespace {
+
+// People go to and fro between a few screens. More would not be felt: to prepare one takes 2 ms.
+constexpr std::size_t kMostPrepared = 3;
 
 constexpr BYTE kCentralEuropean = 238;  // EASTEUROPE_CHARSET: code page 1250 letters
 
@@ -84,18 +89,23 @@ GdiResources::Background GdiResources::PrepareBackground(std::string_view name) 
   const auto found = backgrounds_.find(name);
   if (found == backgrounds_.end()) return {};
   const auto& [bitmap, width, height] = found->second;
-  const HDC context = prepared_.Begin(width, height);
+  auto prepared = std::ranges::find(prepared_, name, &PreparedPicture::name);
+  const bool is_new = prepared == prepared_.end();
+  if (is_new && prepared_.size() < kMostPrepared) prepared_.emplace_back();
+  if (is_new) prepared = std::prev(prepared_.end());
+  prepared_.splice(prepared_.begin(), prepared_, prepared);
+  const HDC context = prepared->picture.Begin(width, height);
   if (context == nullptr) {
-    prepared_name_.clear();
+    prepared->name.clear();
     return {};
   }
-  if (name != prepared_name_) {
+  if (is_new) {
     const HDC source = CreateCompatibleDC(context);
     const HGDIOBJ previous = SelectObject(source, bitmap);
     BitBlt(context, 0, 0, width, height, source, 0, 0, SRCCOPY);
     SelectObject(source, previous);
     DeleteDC(source);
-    prepared_name_ = name;
+    prepared->name = name;
   }
   return {context, width, height};
 }

@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <list>
 #include <map>
 #include <string>
 #include <vector>
@@ -72,9 +73,12 @@ class GdiResources {
   };
   // With their 256 colours, a quarter of what they take in the format of most displays.
   std::map<std::string, LoadedPicture, std::less<>> backgrounds_;
-  // The one that was copied last, in the format of the display.
-  std::string prepared_name_;
-  MemoryPicture prepared_;
+  struct PreparedPicture {
+    std::string name;
+    MemoryPicture picture;
+  };
+  // In the format of the display, the one that was copied last first.
+  std::list<PreparedPicture> prepared_;
   std::vector<CachedFont> fonts_;
 };
 
