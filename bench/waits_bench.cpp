@@ -1,13 +1,14 @@
 // What a person waits for: from the press to everything painted, at the built velnor.exe and from
 // outside it, beside a bare window that does the same visible work.
 //
-// Usage: waits_bench.exe [PRESSES [PROGRAM [DEED]]]
+// Usage: waits_bench.exe [PRESSES [PROGRAM [DEED...]]]
 // Every deed is done so often (100), in rounds; in each round velnor.exe is started with several
 // numbers of own products and after it the bare window: what else the machine does falls on both.
 // PROGRAM is another velnor.exe than the one beside this; of the deeds only those whose names have
-// DEED in them are done. Prints tables for docs/performance.md. The exit code is 1 when something
+// a DEED in them are done. Prints tables for docs/performance.md. The exit code is 1 when something
 // could not be measured.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -27,7 +28,7 @@ namespace {
 using desktop::WorkFolder;
 
 constexpr int kPresses = 100;
-constexpr int kRounds = 4;
+constexpr int kRounds = 10;
 constexpr int kOwnProducts[] = {0, 300, 3000};
 constexpr int kMany = 3000;
 constexpr const char* kStart = "start to first complete paint";
@@ -41,7 +42,7 @@ using Samples = std::map<std::pair<std::string, int>, std::vector<double>>;
 struct Plan {
   int presses = kPresses;
   std::string program = "velnor.exe";
-  std::string only;
+  std::vector<std::string> only;  // all of them if empty
 };
 
 struct Setting {
@@ -56,7 +57,10 @@ struct Setting {
 };
 
 bool IsWanted(const Plan& plan, const TimedDeed& deed) {
-  return deed.name.find(plan.only) != std::string::npos;
+  const auto is_meant = [&deed](const std::string& part) {
+    return deed.name.find(part) != std::string::npos;
+  };
+  return plan.only.empty() || std::ranges::any_of(plan.only, is_meant);
 }
 
 double TimeOf(const TimedDeed& deed, Stage& stage) {
@@ -210,7 +214,7 @@ int main(int argc, char** argv) {
   velnor::bench::Plan plan;
   if (argc > 1) plan.presses = std::atoi(argv[1]);
   if (argc > 2) plan.program = argv[2];
-  if (argc > 3) plan.only = argv[3];
+  for (int i = 3; i < argc; ++i) plan.only.emplace_back(argv[i]);
   try {
     return velnor::bench::Run(plan);
   } catch (const std::exception& error) {
