@@ -11,9 +11,31 @@
 
 #include "tests/desktop/driver.h"
 #include "tests/desktop/package/machine.h"
+#include "tests/desktop/version_before.h"
+#include "users/history_file.h"
 
 namespace velnor::desktop {
 namespace {
+
+// Takes the files below a folder of the tree out of it.
+Tree TakeOut(Tree& tree, const std::string& folder) {
+  Tree taken;
+  for (auto file = tree.lower_bound(folder); file != tree.end() && file->first.starts_with(folder);
+       file = tree.erase(file)) {
+    taken[file->first.substr(folder.size())] = file->second;
+  }
+  return taken;
+}
+
+// Since Ann has logged in in the folder, where `before` lay, nothing but her history has come, and
+// the copy of the day, which holds `data`.
+void ExpectUpgraded(const std::string& folder, Tree before, const Files& data) {
+  Tree after = ReadTree(folder);
+  EXPECT_EQ(TakeOut(after, "kopie zapasowe\\" + IsoDate(Today()) + '\\'), data);
+  before["Ann\\dziennik.csv"] = HistoryOfVersionBefore(Today());
+  EXPECT_TRUE(after == before) << "other files, or other bytes";
+  EXPECT_EQ(after["Ann\\dziennik.csv"], before["Ann\\dziennik.csv"]);
+}
 
 using Texts = std::vector<std::string>;
 
@@ -64,12 +86,11 @@ class Install : public testing::Test {
     app.main().PostCommand(203);
     ASSERT_EQ(app.WaitForExit(), 0U);
   }
-  static void LogIn(const App& app) {
+  static void LogIn(const App& app, bool has_profile = false) {
     const Window login = OpenDialog(app, 200);
     ASSERT_TRUE(login.Choose(700, "Ann"));
     login.PostCommand(IDOK);
-    const MessageBoxSeen fill_up = app.WaitForMessageBox(login);  // Ann has no profile
-    Answer(fill_up, IDOK);
+    if (!has_profile) Answer(app.WaitForMessageBox(login), IDOK);  // "Fill up Your profile!"
     ASSERT_TRUE(WaitUntilGone(login.handle()));
   }
   static void AddStrawberries(const App& app) {
@@ -161,6 +182,23 @@ TEST_F(Install, DataOutlivesTheUpgradeAndTheRemoval) {
   EXPECT_EQ(ReadTree(kDocuments + "Velnor\\"), more);
 }
 
+TEST_F(Install, OverTheVersionBeforeKeepsEveryByteAndBeginsAHistory) {
+  const Folder documents(kDocuments + "Velnor\\");
+  ASSERT_EQ(RunCommand(kOldSetup), 0U);
+  const Files data = LayVersionBefore(documents, Today());
+  ASSERT_EQ(RunCommand(kSetup), 0U);
+  EXPECT_EQ(ReadTree(documents.path()), data);
+  {
+    const App app = StartFromMenu();
+    LogIn(app, true);
+    Exit(app);
+  }
+  ExpectUpgraded(documents.path(), data, data);
+  const Tree after = ReadTree(documents.path());
+  Uninstall();
+  EXPECT_TRUE(ReadTree(documents.path()) == after);
+}
+
 TEST_F(Install, AnUpgradeGoesWhereTheProgramIsAndKeepsItsDataFolder) {
   const WorkFolder elsewhere;
   const std::string program = elsewhere.path() + "the program";
@@ -234,27 +272,84 @@ TEST_F(Install, ARunningProgramIsNeitherReplacedNorRemoved) {
   EXPECT_EQ(DisplayedVersion(), Environment("VELNOR_VERSION"));
 }
 
+// The folder in which a program that is not installed, or not by us, keeps its data.
+Folder DataFolder() { return Folder(Environment("VELNOR_DATA") + '\\'); }
+
+// Done before the packages are put over it that have no test here.
+TEST(VersionBefore, IsLaid) {
+  const Folder folder = DataFolder();
+  const Tree beside = ReadTree(folder.path());
+  const Files data = LayVersionBefore(folder, Today());
+  Tree both = ReadTree(folder.path());
+  for (const auto& [path, bytes] : beside) both.erase(path);
+  EXPECT_EQ(both, data);
+}
+
+// In the folder of the zip the program and its guides lie among the data.
+TEST(VersionBefore, KeepsEveryByteUnderTheUnpackedProgram) {
+  const Folder folder = DataFolder();
+  const Tree before = ReadTree(folder.path());
+  Tree data = before;
+  for (const char* const packed : {"README.md", "README.txt", "velnor.exe"}) data.erase(packed);
+  {
+    const App app(folder.path() + "velnor.exe", folder);
+    app.main().Command(200);
+    const Window login = app.WaitForPopup();
+    ASSERT_TRUE(login.Choose(700, "Ann"));
+    login.PostCommand(IDOK);
+    ASSERT_TRUE(WaitUntilGone(login.handle()));
+    app.Settle();
+    app.main().PostCommand(203);
+    ASSERT_EQ(app.WaitForExit(), 0U);
+  }
+  ExpectUpgraded(folder.path(), before, data);
+}
+
 // What package/velnor has started: its window stands on this display.
-TEST(Launcher, TheProgramRunsAndKeepsItsUsers) {
-  HWND handle = nullptr;
-  ASSERT_TRUE(WaitUntil([&] {
-    handle = FindWindowA("Velnor calorie counter", nullptr);
-    return handle != nullptr && IsWindowVisible(handle) != 0;
-  }));
-  const Window main(handle);
-  main.Command(202);
-  HWND dialog = nullptr;
-  ASSERT_TRUE(WaitUntil([&] {
-    dialog = GetLastActivePopup(handle);
-    return dialog != handle && IsWindowVisible(dialog) != 0;
-  }));
-  const Window users(dialog);
+class Launcher : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(WaitUntil([this] {
+      handle_ = FindWindowA("Velnor calorie counter", nullptr);
+      return handle_ != nullptr && IsWindowVisible(handle_) != 0;
+    }));
+  }
+  void TearDown() override {
+    PostMessageA(handle_, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitUntilGone(handle_));
+  }
+  Window OpenDialog(int command) const {
+    Window(handle_).Command(command);
+    HWND dialog = nullptr;
+    EXPECT_TRUE(WaitUntil([&] {
+      dialog = GetLastActivePopup(handle_);
+      return dialog != handle_ && IsWindowVisible(dialog) != 0;
+    }));
+    return Window(dialog);
+  }
+  static void Confirm(const Window& dialog) {
+    dialog.PostCommand(IDOK);
+    ASSERT_TRUE(WaitUntilGone(dialog.handle()));
+  }
+
+  HWND handle_ = nullptr;
+};
+
+TEST_F(Launcher, TheProgramRunsAndKeepsItsUsers) {
+  const Window users = OpenDialog(202);
   users.SetText(701, "Ann");
   users.Command(702);
-  users.PostCommand(IDOK);
-  ASSERT_TRUE(WaitUntilGone(dialog));
-  PostMessageA(handle, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(WaitUntilGone(handle));
+  Confirm(users);
+}
+
+TEST_F(Launcher, OverTheVersionBeforeKeepsEveryByteAndBeginsAHistory) {
+  const Folder folder = DataFolder();
+  const Files data = ReadTree(folder.path());
+  const Window login = OpenDialog(200);
+  ASSERT_TRUE(login.Choose(700, "Ann"));
+  Confirm(login);
+  Window(handle_).Command(231);  // carried out after the login
+  ExpectUpgraded(folder.path(), data, data);
 }
 
 }  // namespace
