@@ -9,8 +9,8 @@
 namespace velnor {
 namespace {
 
-// People go to and fro between a few screens. More would not be felt: to prepare one takes 2 ms.
-constexpr std::size_t kMostPrepared = 3;
+// People go to and fro between two screens. More would not be felt: to prepare one takes 2 ms.
+constexpr std::size_t kMostPrepared = 2;
 
 constexpr BYTE kCentralEuropean = 238;  // EASTEUROPE_CHARSET: code page 1250 letters
 
@@ -39,6 +39,13 @@ HFONT MakeFont(const Font& font) {
   description.lfWidth = (MeanWidth(made) * 5 + 3) / 6;
   DeleteObject(made);
   return CreateFontIndirectA(&description);
+}
+
+// They stand behind the header and the table of colours.
+const void* PixelsOf(const BITMAPINFO& picture) {
+  const BITMAPINFOHEADER& header = picture.bmiHeader;
+  const std::size_t colours = header.biClrUsed != 0 ? header.biClrUsed : 1U << header.biBitCount;
+  return reinterpret_cast<const char*>(&picture) + header.biSize + colours * sizeof(RGBQUAD);
 }
 
 }  // namespace
@@ -70,25 +77,24 @@ void MemoryPicture::Discard() {
 }
 
 GdiResources::~GdiResources() {
-  for (const auto& [name, picture] : backgrounds_) DeleteObject(picture.bitmap);
   for (const CachedFont& cached : fonts_) DeleteObject(cached.handle);
 }
 
-void GdiResources::LoadBackgrounds(HINSTANCE instance) {
+void GdiResources::FindBackgrounds(HINSTANCE instance) {
   for (const char* const name : BackgroundNames()) {
-    auto* const bitmap =
-        static_cast<HBITMAP>(LoadImageA(instance, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
-    BITMAP size = {};
-    if (bitmap == nullptr) continue;
-    GetObjectA(bitmap, sizeof size, &size);
-    backgrounds_[name] = {bitmap, size.bmWidth, size.bmHeight};
+    const HRSRC place = FindResourceA(instance, name, RT_BITMAP);
+    const HGLOBAL picture = place == nullptr ? nullptr : LoadResource(instance, place);
+    const void* const bytes = picture == nullptr ? nullptr : LockResource(picture);
+    if (bytes != nullptr) backgrounds_[name] = static_cast<const BITMAPINFO*>(bytes);
   }
 }
 
 GdiResources::Background GdiResources::PrepareBackground(std::string_view name) {
   const auto found = backgrounds_.find(name);
   if (found == backgrounds_.end()) return {};
-  const auto& [bitmap, width, height] = found->second;
+  const BITMAPINFO& picture = *found->second;
+  const int width = picture.bmiHeader.biWidth;
+  const int height = picture.bmiHeader.biHeight;
   auto prepared = std::ranges::find(prepared_, name, &PreparedPicture::name);
   const bool is_new = prepared == prepared_.end();
   if (is_new && prepared_.size() < kMostPrepared) prepared_.emplace_back();
@@ -100,11 +106,8 @@ GdiResources::Background GdiResources::PrepareBackground(std::string_view name) 
     return {};
   }
   if (is_new) {
-    const HDC source = CreateCompatibleDC(context);
-    const HGDIOBJ previous = SelectObject(source, bitmap);
-    BitBlt(context, 0, 0, width, height, source, 0, 0, SRCCOPY);
-    SelectObject(source, previous);
-    DeleteDC(source);
+    SetDIBitsToDevice(context, 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
+                      static_cast<UINT>(height), PixelsOf(picture), &picture, DIB_RGB_COLORS);
     prepared->name = name;
   }
   return {context, width, height};

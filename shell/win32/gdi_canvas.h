@@ -45,9 +45,9 @@ class GdiResources {
   GdiResources& operator=(const GdiResources&) = delete;
   ~GdiResources();
 
-  // Loads the background pictures from the resources of the program; one that is missing is left
-  // out, and copying it does nothing.
-  void LoadBackgrounds(HINSTANCE instance);
+  // Finds the background pictures, of 256 colours, in the resources of the program; one that is
+  // missing is left out, and copying it does nothing.
+  void FindBackgrounds(HINSTANCE instance);
 
   struct Background {
     HDC context = nullptr;  // to copy it from
@@ -66,13 +66,8 @@ class GdiResources {
     Font font;
     HFONT handle;
   };
-  struct LoadedPicture {
-    HBITMAP bitmap;
-    int width;
-    int height;
-  };
-  // With their 256 colours, a quarter of what they take in the format of most displays.
-  std::map<std::string, LoadedPicture, std::less<>> backgrounds_;
+  // Where they stand in the program's file, which the system keeps in memory as far as it is used.
+  std::map<std::string, const BITMAPINFO*, std::less<>> backgrounds_;
   struct PreparedPicture {
     std::string name;
     MemoryPicture picture;

@@ -178,7 +178,7 @@ bool Win32MainWindow::OnCreate() {
   own_menus_.emplace(window_, *program_);
   own_menus_->AddToTitleBarMenu();
   screen_keys_.emplace(window_, *form_, *program_);
-  resources_.LoadBackgrounds(instance_);
+  resources_.FindBackgrounds(instance_);
   if (!form_->CreateControls(instance_, resources_)) return false;
   program_->Start();
   return true;
