@@ -123,6 +123,13 @@ void KeepListsOffButtons(HWND dialog) {
   }
 }
 
+// Fixed texts may stand close together: none paints a background over its neighbour. One with an id
+// of its own changes, and has to, or its texts would lie on one another.
+bool IsFixedText(HWND control) {
+  constexpr WORD kNoId = 0xFFFF;  // -1 in the template
+  return HasClass(control, "static") && LOWORD(GetDlgCtrlID(control)) == kNoId;
+}
+
 INT_PTR OpenDialog(HWND window, Opening& opening) {
   Host* const host = opening.MakeHost(window);
   SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(host));
@@ -149,8 +156,7 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wparam, LPARA
       host->Command(LOWORD(wparam), HIWORD(wparam));
       return TRUE;
     case WM_CTLCOLORSTATIC:
-      // Fixed texts may stand close together: none paints a background over its neighbour.
-      if (!HasClass(reinterpret_cast<HWND>(lparam), "static")) return FALSE;
+      if (!IsFixedText(reinterpret_cast<HWND>(lparam))) return FALSE;
       SetBkMode(reinterpret_cast<HDC>(wparam), TRANSPARENT);
       return reinterpret_cast<INT_PTR>(GetStockObject(NULL_BRUSH));
     case WM_NCDESTROY:

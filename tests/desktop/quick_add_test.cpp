@@ -73,6 +73,23 @@ void AddOnCounter(const App& app, const CounterFood& food) {
   app.main().Command(127);
 }
 
+TEST_F(QuickAddByKeys, TheFiguresOfAFoodTakeThePlaceOfThoseBefore) {
+  const Window dialog = OpenQuickAdd();
+  const Window figures(dialog.Control(kFigures));
+  RECT all = {};
+  GetClientRect(figures.handle(), &all);
+  for (const std::string letters : {"butter", "straw"}) {
+    dialog.SetText(kQuery, letters);
+    ASSERT_TRUE(WaitUntil([&] { return !dialog.Text(kFigures).empty(); }));
+    Settle();
+  }
+  const std::vector<char> changed = Look(figures, all);
+  RedrawWindow(dialog.handle(), nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+  Settle();
+  EXPECT_TRUE(Look(figures, all) == changed);
+}
+
 TEST_F(QuickAddByKeys, AddsWhatTheCounterWould) {
   const Window dialog = OpenQuickAdd();
   QuickAdd(dialog, "straw froz", "frozen strawberries", "62,5");
