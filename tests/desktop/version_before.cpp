@@ -11,8 +11,8 @@ Files LayVersionBefore(const Folder& folder, const std::string& date) {
   std::string weights;
   for (int day = 1; day <= 20; ++day) {
     const std::string start = std::to_string(day) + ".3.2019;";
-    nutrients += start + std::to_string(2000 + day) + ".5;70.25;60.;" + std::to_string(250 + day) +
-                 ".;\r\n";
+    nutrients +=
+        start + std::to_string(2000 + day) + ".5;70.25;60.;" + std::to_string(250 + day) + ".;\r\n";
     weights += start + std::to_string(70 + day) + ",5;24.4;\r\n";
   }
   Files files = {
