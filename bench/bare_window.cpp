@@ -2,8 +2,8 @@
 // children of the same classes, which copies one picture when it is painted, and nothing else.
 //
 // Usage: bare_window.exe [SCREEN | work]
-// With the number of a screen it has the program's duties: it loads all pictures and the menu, and
-// at every paint hides all children and shows those of that screen. What the difference costs is
+// With the number of a screen it has the program's duties: it loads the menu, and at every paint
+// hides all children and shows those of that screen. What the difference costs is
 // the platform's. With "work" it does at a command what it has been told to do for it.
 
 #include <windows.h>
@@ -147,9 +147,6 @@ int Run(HINSTANCE instance, const std::string_view argument, int show_command) {
   window_class.lpszClassName = kClass;
   RegisterClassExA(&window_class);
   const HMENU menu = self.has_duties ? LoadMenuA(instance, MAKEINTRESOURCEA(kMenu)) : nullptr;
-  if (self.has_duties) {
-    for (const char* const name : BackgroundNames()) LoadBitmapA(instance, name);
-  }
   const HWND window =
       CreateWindowExA(0, kClass, kClass, WS_BORDER | WS_SYSMENU | WS_MINIMIZEBOX, CW_USEDEFAULT,
                       CW_USEDEFAULT, kWidth, kHeight, nullptr, menu, instance, nullptr);

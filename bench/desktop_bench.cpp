@@ -103,8 +103,8 @@ void SampleVelnor(const WorkFolder& folder, Samples& samples) {
 void SampleBare(const WorkFolder& folder, Samples& samples) {
   constexpr std::array kBareWindows = {
       std::array{"bare_window.exe", "bare", "bare memory"},
-      std::array{"bare_window.exe 7", "bare with controls of 7", "bare memory with all pictures"},
-      std::array{"bare_window.exe 14", "bare with controls of 14", "bare memory with all pictures"},
+      std::array{"bare_window.exe 7", "bare with controls of 7", "bare memory with duties"},
+      std::array{"bare_window.exe 14", "bare with controls of 14", "bare memory with duties"},
   };
   for (const auto& [command, repaint, memory] : kBareWindows) {
     const Started bare(command, kBareClass, folder.path());
@@ -207,7 +207,7 @@ constexpr ComparedRow kBesideDuties[] = {
 
 constexpr ComparedRow kMemory[] = {
     {"peak", "memory", "bare memory", 1.5},
-    {"peak, beside a window with all pictures", "memory", "bare memory with all pictures", 0},
+    {"peak, beside one with the same duties", "memory", "bare memory with duties", 0},
 };
 
 std::vector<Comparison> Compare(std::span<const ComparedRow> rows, const Samples& samples,

@@ -16,6 +16,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -56,9 +57,9 @@ struct Setting {
   }
 };
 
-bool IsWanted(const Plan& plan, const TimedDeed& deed) {
-  const auto is_meant = [&deed](const std::string& part) {
-    return deed.name.find(part) != std::string::npos;
+bool IsWanted(const Plan& plan, std::string_view deed) {
+  const auto is_meant = [deed](const std::string& part) {
+    return deed.find(part) != std::string_view::npos;
   };
   return plan.only.empty() || std::ranges::any_of(plan.only, is_meant);
 }
@@ -86,7 +87,7 @@ void SampleDeed(const TimedDeed& deed, Stage& stage, int presses, std::vector<do
 // Deeds that do not depend on own products are done with none and with many, and have one floor.
 bool IsDone(const Plan& plan, Player player, const TimedDeed& deed, int own_products) {
   const bool is_end = own_products == kMany || (own_products == 0 && player == Player::kVelnor);
-  return IsWanted(plan, deed) && (deed.depends_on_products || is_end);
+  return IsWanted(plan, deed.name) && (deed.depends_on_products || is_end);
 }
 
 void SampleSetting(const Plan& plan, Player player, const Setting& setting, Samples& samples) {
@@ -193,7 +194,7 @@ int Run(const Plan& plan) {
     for (const auto& setting : settings) SampleSetting(plan, Player::kBare, *setting, floors);
   }
   std::vector<Row> rows;
-  if (plan.only.empty()) {
+  if (IsWanted(plan, kStart)) {
     SampleStarts(plan, settings.back()->folder, waits, floors);
     rows.push_back({kStart, &waits.at({kStart, kMany}), &floors.at({kStart, kMany}), kStartBound});
   }

@@ -101,15 +101,13 @@ GdiResources::Background GdiResources::PrepareBackground(std::string_view name) 
   if (is_new) prepared = std::prev(prepared_.end());
   prepared_.splice(prepared_.begin(), prepared_, prepared);
   const HDC context = prepared->picture.Begin(width, height);
-  if (context == nullptr) {
-    prepared->name.clear();
-    return {};
-  }
-  if (is_new) {
-    SetDIBitsToDevice(context, 0, 0, static_cast<DWORD>(width), static_cast<DWORD>(height), 0, 0, 0,
-                      static_cast<UINT>(height), PixelsOf(picture), &picture, DIB_RGB_COLORS);
-    prepared->name = name;
-  }
+  const bool is_prepared =
+      context != nullptr &&
+      (!is_new || SetDIBitsToDevice(context, 0, 0, static_cast<DWORD>(width),
+                                    static_cast<DWORD>(height), 0, 0, 0, static_cast<UINT>(height),
+                                    PixelsOf(picture), &picture, DIB_RGB_COLORS) != 0);
+  prepared->name = is_prepared ? name : "";
+  if (!is_prepared) return {};
   return {context, width, height};
 }
 

@@ -319,8 +319,6 @@ void Win32MainWindow::OpenHelp(std::string_view file_name) {
   WinHelpA(window_, std::string(file_name).c_str(), kHelpPartialKey, 0);
 }
 
-// The library is loaded when it is needed: most runs of the program open no page. It stays, since
-// what it started may still be at work in it.
 bool Win32MainWindow::OpenInBrowser(const std::string& path) {
   return velnor::OpenInBrowser(window_, path);
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -52,6 +53,24 @@ class BrowserOfMachine {
   std::string before_;
 };
 
+// A browser that tells what it is given to open: a script of the shell below Wine. A program of the
+// platform would bring a window, which takes the keyboard from whoever comes next.
+class TellingBrowser {
+ public:
+  TellingBrowser() : browser_(R"("Z:\bin\sh" )" + Below() + "/script \"%1\"") {
+    told_.Write("script", "printf %s \"$1\" >" + Below() + "/new && mv " + Below() + "/new " +
+                              Below() + "/page\n");
+  }
+  // Nothing as long as it has not been opened.
+  std::optional<std::string> page() const { return told_.Read("page"); }
+
+ private:
+  std::string Below() const { return QuotedUnixPath(told_.path()); }
+
+  const WorkFolder told_;
+  const BrowserOfMachine browser_;
+};
+
 class DiaryByKey : public KeyboardOfAnn {
  protected:
   DiaryByKey() {
@@ -76,31 +95,21 @@ class DiaryByKey : public KeyboardOfAnn {
   }
 };
 
-// The browser is a script of the shell below Wine: a program of the platform would bring a window,
-// which takes the keyboard from whoever comes next.
 TEST_F(DiaryByKey, ThePageIsOpened) {
-  const WorkFolder told;
   if (RunBelowWine("true") != 0) GTEST_SKIP() << "there is no shell below";
-  const std::string below = QuotedUnixPath(told.path());
-  told.Write("script",
-             "printf %s \"$1\" >" + below + "/new && mv " + below + "/new " + below + "/page\n");
-  const BrowserOfMachine browser(R"("Z:\bin\sh" )" + below + "/script \"%1\"");
+  const TellingBrowser browser;
   if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
   PressKey('D', KeyModifier::kControl);
-  EXPECT_TRUE(WaitUntil([&] { return told.Read("page").has_value(); }));
-  EXPECT_EQ(told.Read("page"), folder_.path() + "ann\\dziennik.html");
+  EXPECT_TRUE(WaitUntil([&] { return browser.page().has_value(); }));
+  EXPECT_EQ(browser.page(), folder_.path() + "ann\\dziennik.html");
   EXPECT_TRUE(File("dziennik.html").ends_with("</html>\n"));
   ExpectTheFiles();
 }
 
 // The code page of the machine has no such letter, or a browser of another one gets no such page.
 TEST(Diary, IsOpenedInAFolderOfAnyName) {
-  const WorkFolder told;
   if (RunBelowWine("true") != 0) GTEST_SKIP() << "there is no shell below";
-  const std::string below = QuotedUnixPath(told.path());
-  told.Write("script",
-             "printf %s \"$1\" >" + below + "/new && mv " + below + "/new " + below + "/page\n");
-  const BrowserOfMachine browser(R"("Z:\bin\sh" )" + below + "/script \"%1\"");
+  const TellingBrowser browser;
   if (!BrowserOfMachine::IsSet()) GTEST_SKIP() << "who runs this may not say what opens pages";
   const WorkFolder outer;
   const std::wstring folder =
@@ -119,8 +128,8 @@ TEST(Diary, IsOpenedInAFolderOfAnyName) {
   app.CommandAndAnswer(login, IDOK);
   ASSERT_TRUE(WaitUntilGone(login.handle()));
   PostMessageA(app.main().handle(), WM_SYSCOMMAND, 0x110, 0);
-  EXPECT_TRUE(WaitUntil([&] { return told.Read("page").has_value(); }));
-  const std::string page = told.Read("page").value_or("");
+  EXPECT_TRUE(WaitUntil([&] { return browser.page().has_value(); }));
+  const std::string page = browser.page().value_or("");
   EXPECT_TRUE(page.ends_with("\\Ann\\dziennik.html")) << page;
   EXPECT_EQ(page.find('<'), std::string::npos) << page;
 }

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include "users/history_file.h"
 
 namespace velnor::desktop {
@@ -36,6 +38,15 @@ Files LayVersionBefore(const Folder& folder, const std::string& date) {
   }
   for (const auto& [name, bytes] : files) folder.Write(name, bytes);
   return files;
+}
+
+void LogInAnn(const App& app) {
+  app.main().Command(200);
+  const Window login = app.WaitForPopup();
+  ASSERT_TRUE(login.Choose(700, "Ann"));
+  login.PostCommand(IDOK);
+  ASSERT_TRUE(WaitUntilGone(login.handle()));
+  app.Settle();
 }
 
 std::string HistoryOfVersionBefore(const std::string& date) {

@@ -17,6 +17,9 @@ using Files = std::map<std::string, std::string>;
 // Lays what Ann and Bob have worked on into the folder. A day's files bear `date`.
 Files LayVersionBefore(const Folder& folder, const std::string& date);
 
+// Ann, who has a profile, logs in.
+void LogInAnn(const App& app);
+
 // The history that Ann gets: the twenty days of her series, and the day of `date`.
 std::string HistoryOfVersionBefore(const std::string& date);
 

@@ -20,12 +20,7 @@ class VersionBefore : public testing::Test {
   // The program starts, Ann logs in, and it is ended.
   void LogIn() const {
     const App app(folder_);
-    app.main().Command(200);
-    const Window login = app.WaitForPopup();
-    ASSERT_TRUE(login.Choose(700, "Ann"));
-    login.PostCommand(IDOK);
-    ASSERT_TRUE(WaitUntilGone(login.handle()));
-    app.Settle();
+    LogInAnn(app);
   }
   // What lies in the folders of the people and beside them, copies apart.
   Files Look(const std::string& below = "") const {

@@ -86,11 +86,12 @@ class Install : public testing::Test {
     app.main().PostCommand(203);
     ASSERT_EQ(app.WaitForExit(), 0U);
   }
-  static void LogIn(const App& app, bool has_profile = false) {
+  static void LogIn(const App& app) {
     const Window login = OpenDialog(app, 200);
     ASSERT_TRUE(login.Choose(700, "Ann"));
     login.PostCommand(IDOK);
-    if (!has_profile) Answer(app.WaitForMessageBox(login), IDOK);  // "Fill up Your profile!"
+    const MessageBoxSeen fill_up = app.WaitForMessageBox(login);  // Ann has no profile
+    Answer(fill_up, IDOK);
     ASSERT_TRUE(WaitUntilGone(login.handle()));
   }
   static void AddStrawberries(const App& app) {
@@ -190,7 +191,7 @@ TEST_F(Install, OverTheVersionBeforeKeepsEveryByteAndBeginsAHistory) {
   EXPECT_EQ(ReadTree(documents.path()), data);
   {
     const App app = StartFromMenu();
-    LogIn(app, true);
+    LogInAnn(app);
     Exit(app);
   }
   ExpectUpgraded(documents.path(), data, data);
@@ -293,12 +294,7 @@ TEST(VersionBefore, KeepsEveryByteUnderTheUnpackedProgram) {
   for (const char* const packed : {"README.md", "README.txt", "velnor.exe"}) data.erase(packed);
   {
     const App app(folder.path() + "velnor.exe", folder);
-    app.main().Command(200);
-    const Window login = app.WaitForPopup();
-    ASSERT_TRUE(login.Choose(700, "Ann"));
-    login.PostCommand(IDOK);
-    ASSERT_TRUE(WaitUntilGone(login.handle()));
-    app.Settle();
+    LogInAnn(app);
     app.main().PostCommand(203);
     ASSERT_EQ(app.WaitForExit(), 0U);
   }
